@@ -1,0 +1,36 @@
+# Programs, tests and benchmarks of the native build.
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2 SDL2_mixer)
+find_package(PNG REQUIRED)
+
+ombrel_library(platform/offscreen ombrel_platform_soft)
+ombrel_library(platform/sdl2 ombrel_platform_soft PkgConfig::SDL2)
+
+# A program of ours: its main file and the libraries behind it, the back end last.
+function(ombrel_program name source)
+  if(NOT EXISTS ${CMAKE_SOURCE_DIR}/${source})
+    return()
+  endif()
+  file(GLOB more CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/${name}/*.cpp)
+  add_executable(${name} ${source} ${more})
+  target_link_libraries(${name} PRIVATE ombrel_flags ${ARGN})
+endfunction()
+
+ombrel_program(larkfen src/app/entry_sdl2.cpp ombrel_app ombrel_platform_sdl2)
+ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_platform_offscreen PNG::PNG)
+ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_platform_offscreen PNG::PNG)
+ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_platform_offscreen PNG::PNG)
+
+if(OMBREL_TESTS)
+  enable_testing()
+  add_subdirectory(tests)
+endif()
+if(OMBREL_BENCH)
+  find_package(benchmark REQUIRED)
+  file(GLOB bench_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/bench/*.cpp)
+  if(bench_sources)
+    add_executable(larkfen-bench ${bench_sources})
+    target_link_libraries(larkfen-bench PRIVATE ombrel_flags ombrel_app ombrel_platform_offscreen
+                                                benchmark::benchmark)
+  endif()
+endif()

@@ -1,0 +1,113 @@
+// Finding data files: the folder beside the program, both slashes, any letter case.
+#include "base/data_file.h"
+
+#include <cctype>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+namespace ombrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kDataPrefix = "./data";
+
+constinit std::string dataFolder;
+
+bool SameLetters(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (std::tolower(static_cast<unsigned char>(a[i])) !=
+            std::tolower(static_cast<unsigned char>(b[i]))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The entry of folder whose name is name but for letter case; the first in sorted order when several
+// are, so that every system picks the same. Empty when there is none.
+std::string EntryInAnyCase(const fs::path& folder, std::string_view name) {
+    std::string best;
+    std::error_code error;
+    for (fs::directory_iterator it(folder, error), last; !error && it != last;
+         it.increment(error)) {
+        std::string entry = it->path().filename().string();
+        if (SameLetters(entry, name) && (best.empty() || entry < best)) {
+            best = std::move(entry);
+        }
+    }
+    return best;
+}
+
+bool Exists(const fs::path& path) {
+    std::error_code error;
+    return fs::exists(path, error);
+}
+
+// Walks the parts of relative below root, forgiving letter case where a part is not there as written.
+std::string FindBelow(const fs::path& root, const fs::path& relative) {
+    fs::path found = root;
+    for (const fs::path& part : relative) {
+        if (part.empty() || part == ".") {
+            continue;
+        }
+        if (!Exists(found / part)) {
+            const std::string entry = EntryInAnyCase(found.empty() ? "." : found, part.string());
+            if (entry.empty()) {
+                return {};
+            }
+            found /= entry;
+        } else {
+            found /= part;
+        }
+    }
+    return found.string();
+}
+
+} // namespace
+
+void SetDataFolder(const std::string& folder) { dataFolder = folder; }
+const std::string& DataFolder() { return dataFolder; }
+
+std::string FindDataFile(const char* path) {
+    if (path == nullptr) {
+        return {};
+    }
+    std::string name = path;
+    while (!name.empty() && std::isspace(static_cast<unsigned char>(name.back())) != 0) {
+        name.pop_back();
+    }
+    for (char& c : name) {
+        c = c == '\\' ? '/' : c;
+    }
+    if (name.empty()) {
+        return {};
+    }
+    const std::string_view prefix = std::string_view(name).substr(0, kDataPrefix.size());
+    const bool below = SameLetters(prefix, kDataPrefix) &&
+                       (name.size() == kDataPrefix.size() || name[kDataPrefix.size()] == '/');
+    if (!below) {
+        return Exists(name) ? name : std::string{};
+    }
+    const std::string rest = name.substr(kDataPrefix.size());
+    const fs::path root = dataFolder.empty() ? fs::path("data") : fs::path(dataFolder);
+    return FindBelow(root, fs::path(rest).relative_path());
+}
+
+std::FILE* OpenDataFile(const char* path, const char* mode) {
+    const std::string found = FindDataFile(path);
+    std::error_code error;
+    if (found.empty() || fs::is_directory(found, error)) {
+        return nullptr;
+    }
+    // Always binary: a text file read here never depends on the system's idea of a line end.
+    (void)mode;
+    return std::fopen(found.c_str(), "rb");
+}
+
+} // namespace ombrel

@@ -1,0 +1,29 @@
+// Definitions of the process-wide variables that belong to base, with their initial values.
+#include "base/pixel16.h"
+#include "base/rect.h"
+#include "base/shell_state.h"
+
+namespace ombrel {
+
+namespace {
+
+constexpr DisplayFormat kInitialFormat{16, 16, PackRgb565};
+constexpr Rect kInitialClip{0, 0, 640, 480};
+constexpr ShellState kInitialShell{640, 480, 0, false, 0, 0, 0, 0, 0};
+constexpr FrameState kInitialFrame{0, -1, 1, 0, 0, 0, 0, 10, 0, false, 0.0F, 0.0F};
+
+} // namespace
+
+constinit DisplayFormat displayFormat = kInitialFormat;
+constinit Rect clipRect = kInitialClip;
+constinit ShellState shell = kInitialShell;
+constinit FrameState frame = kInitialFrame;
+
+void ResetDisplayFormat() { displayFormat = kInitialFormat; }
+void ResetClipRect() { clipRect = kInitialClip; }
+void ResetShellState() {
+    shell = kInitialShell;
+    frame = kInitialFrame;
+}
+
+} // namespace ombrel

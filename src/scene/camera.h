@@ -1,0 +1,71 @@
+// The one viewer and its keyed tracks. The camera looks along +Z, +X right, +Y up; degrees.
+#pragma once
+
+#include <cstdint>
+
+#include "math/vec3.h"
+
+namespace ombrel {
+
+// The live camera; a track key is a whole camera record too, some of whose slots then hold the
+// spline's values (see TrackKey... below). Field order is fixed.
+struct Camera {
+    std::uint32_t reserved0;
+    union {
+        std::int32_t mode; // 8 in the live camera
+        float tension;     // in a track key
+    };
+    float keyContinuity; // in a track key only
+    float keyBias;       // in a track key only
+    Vec3 position;
+    Vec3 angles;
+    union {
+        Vec3 right; // basis of the live camera
+        struct {
+            float step; // of a track key: added to the segment parameter per frame; <= 0 means 0.02
+            float fov;  // of a track key, degrees
+        } key;
+    };
+    Vec3 up;
+    Vec3 forward;
+    Vec3 target;
+    float tanHalfFov;
+    float fov; // degrees; a larger value magnifies, 90 is a half angle of 45
+    float zNear, zFar;
+    Ray clipPosX, clipNegX, clipPosY, clipNegY;
+    float projScale;  // 2
+    float projScaleY; // 2 / aspect
+    float screenWidth, screenHeight; // pixels
+    float screenCenterX, screenCenterY;
+    float aspect;
+    Matrix4 view; // world to camera
+    Matrix4 matrixB, matrixC;
+};
+
+struct CameraSetup {
+    std::int32_t mode;
+    Vec3 position, angles;
+    const Vec3* target; // null: (0, 0, 0, 1)
+    float zNear, zFar;
+    float fov; // degrees, between 0 and 180, both excluded
+    float screenWidth, screenHeight;
+};
+void CameraInit(Camera* camera, const CameraSetup& setup);
+void CameraSetFov(Camera* camera, float fov);
+void CameraBuildView(Camera* camera, std::int32_t order); // order 0..5; the scenes pass 4
+void CameraLookAt(Camera* camera, std::int32_t fromAngles);
+
+// Sampling state, one for the program: switching tracks does not reset it.
+extern std::int32_t trackSegment;
+extern float trackT;
+void ResetTrackState();
+
+// Reads at most capacity keys; 0 for a missing file. A line that matches in part still makes a key
+// (its other columns keep the values of the line before); a line that gives nothing ends the reading.
+std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
+
+// Writes the sampled values into the camera, steps on, returns the segment just sampled. With fewer
+// than 3 keys the camera stays where it is and 0 is returned.
+std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count);
+
+} // namespace ombrel

@@ -1,0 +1,26 @@
+// Moving objects: their vertex arrays are multiplied and shifted every frame, then their faces are
+// added to the face list.
+#pragma once
+
+#include "scene/face_list.h"
+
+namespace ombrel {
+
+// mode 0: vertices in place, 1: transformed in place, 2: vertices into transformed; other: nothing.
+// useCurrent: curVertices / curTransformed over slotCount instead. A normal turns with its position
+// where the vertex has one (VERTEX_HAS_NORMAL).
+struct MeshTransformOptions {
+    std::int32_t mode;
+    std::int32_t withAxes;
+    std::int32_t useCurrent;
+};
+void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions& options);
+// Rotates the stored vertices (degrees, X then Y then Z) and the axes: repeated calls accumulate.
+void MeshRotate(Mesh* mesh, float ax, float ay, float az, std::int32_t useCurrent);
+// mode 2: vertices + position into transformed; other: transformed += position.
+void MeshTranslate(Mesh* mesh, std::int32_t mode, std::int32_t useCurrent);
+// fromVertices: read positions from vertices, else from transformed. 0: not drawable, or list full.
+int MeshAddFaces(FaceList* list, Mesh* mesh, std::int32_t fromVertices);
+void MeshResetFrame(Mesh* mesh);
+
+} // namespace ombrel
