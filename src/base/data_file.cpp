@@ -2,6 +2,7 @@
 #include "base/data_file.h"
 
 #include <cctype>
+#include <cstring>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -14,7 +15,8 @@ namespace {
 
 constexpr std::string_view kDataPrefix = "./data";
 
-constinit std::string dataFolder;
+constexpr std::size_t kMaxFolderLength = 4095;
+constinit char dataFolder[kMaxFolderLength + 1] = "";
 
 bool SameLetters(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {
@@ -71,8 +73,12 @@ std::string FindBelow(const fs::path& root, const fs::path& relative) {
 
 } // namespace
 
-void SetDataFolder(const std::string& folder) { dataFolder = folder; }
-const std::string& DataFolder() { return dataFolder; }
+void SetDataFolder(const std::string& folder) {
+    const std::size_t length = folder.size() <= kMaxFolderLength ? folder.size() : 0;
+    std::memcpy(dataFolder, folder.data(), length);
+    dataFolder[length] = '\0';
+}
+std::string DataFolder() { return dataFolder; }
 
 std::string FindDataFile(const char* path) {
     if (path == nullptr) {
@@ -95,7 +101,7 @@ std::string FindDataFile(const char* path) {
         return Exists(name) ? name : std::string{};
     }
     const std::string rest = name.substr(kDataPrefix.size());
-    const fs::path root = dataFolder.empty() ? fs::path("data") : fs::path(dataFolder);
+    const fs::path root = dataFolder[0] == '\0' ? fs::path("data") : fs::path(dataFolder);
     return FindBelow(root, fs::path(rest).relative_path());
 }
 

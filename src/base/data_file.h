@@ -9,8 +9,9 @@ namespace ombrel {
 
 // The folder that "./data" stands for. Empty: "./data" relative to the working directory.
 // Written by the entry (folder of the program) and by tools (--data); read by OpenDataFile.
+// A path above 4095 bytes counts as empty.
 void SetDataFolder(const std::string& folder);
-const std::string& DataFolder();
+std::string DataFolder();
 
 // The path of an existing file for a name as the code or a data file writes it: trailing blanks are
 // dropped, "\" counts as "/", "./data" is replaced by the data folder, and where no file has exactly
