@@ -29,7 +29,7 @@ struct BmpInfoHeader { // 40 bytes, as in the file
 // pixels: top row first, width * (bitCount / 8) bytes a row, no padding; owned by the record.
 struct BmpImage {
     BmpFileHeader fileHeader;
-    BmpInfoHeader infoHeader; // bitCount reads 16 after a 24-bit image was converted
+    BmpInfoHeader infoHeader;     // bitCount reads 16 after a 24-bit image was converted
     std::uint8_t palette[256][4]; // never read
     std::uint8_t* pixels;
 };

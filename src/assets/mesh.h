@@ -1,6 +1,6 @@
-// The object model: meshes, vertices, faces, materials. The object loader fills them once; the scene
-// pipeline moves, lights and orders the faces every frame. Field order is fixed: a record is counted
-// in 32-bit words where pointers have 32 bits (checked below).
+// The object model: meshes, vertices, faces, materials. The object loader fills them once; the
+// scene pipeline moves, lights and orders the faces every frame. Field order is fixed: a record is
+// counted in 32-bit words where pointers have 32 bits (checked below).
 #pragma once
 
 #include <cstdint>
@@ -24,9 +24,9 @@ inline constexpr std::uint32_t VERTEX_HAS_NORMAL = 0x2;
 inline constexpr std::uint32_t VERTEX_TEXTURED = 0x4;
 // Face::active and RenderFace::state
 inline constexpr std::uint32_t FACE_LIVE = 0x1;
-inline constexpr std::uint32_t FACE_OUTSIDE = 0x2;   // rejected by the view-volume test
-inline constexpr std::uint32_t FACE_BACK = 0x4;      // rejected by the back-face test
-inline constexpr std::uint32_t FACE_LIT = 0x8;       // visited by the lighting pass
+inline constexpr std::uint32_t FACE_OUTSIDE = 0x2; // rejected by the view-volume test
+inline constexpr std::uint32_t FACE_BACK = 0x4;    // rejected by the back-face test
+inline constexpr std::uint32_t FACE_LIT = 0x8;     // visited by the lighting pass
 // Face::flags (the dispatcher reads the same bits by its own names)
 inline constexpr std::uint32_t FACE_TWO_SIDED = 0x1;
 inline constexpr std::uint32_t FACE_TRANSPARENT = 0x2;
@@ -126,9 +126,9 @@ static_assert(sizeof(void*) != 4 || sizeof(Face) == 17 * 4);
 // Returns 1, or 0 when an allocation fails or a count is negative (what was allocated stays).
 int AllocateMeshArrays(Mesh* mesh, std::int32_t vertexCount, std::int32_t faceCapacity,
                        std::int32_t copyCount, bool releaseFirst);
-int ReleaseMesh(Mesh* mesh);          // frees the arrays (not the texture), clears the record; 1
-float ComputeMeshRadius(Mesh* mesh);  // fills avgRadius and maxRadius of the current copy
-int ComputeFaceSizes(Mesh* mesh);     // 1; 0 for null
-int SmoothVertexNormals(Mesh* mesh);  // from the plastic faces only; 1; 0 for null
+int ReleaseMesh(Mesh* mesh);         // frees the arrays (not the texture), clears the record; 1
+float ComputeMeshRadius(Mesh* mesh); // fills avgRadius and maxRadius of the current copy
+int ComputeFaceSizes(Mesh* mesh);    // 1; 0 for null
+int SmoothVertexNormals(Mesh* mesh); // from the plastic faces only; 1; 0 for null
 
 } // namespace ombrel

@@ -29,8 +29,8 @@ struct LoadRequest {
     std::int32_t mipMode;  // 1: mip chain; 0: none; other: faces marked mip-mapped, no chain
 };
 
-// 1 on success; 0 when the file cannot be opened, ends early, or does not hold what it must. What was
-// filled and allocated so far stays in the mesh; materialBase is then unchanged.
+// 1 on success; 0 when the file cannot be opened, ends early, or does not hold what it must. What
+// was filled and allocated so far stays in the mesh; materialBase is then unchanged.
 int loadObject(Mesh* mesh, const char* path, const LoadRequest& request);
 
 } // namespace ombrel

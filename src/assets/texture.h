@@ -13,13 +13,13 @@ inline constexpr std::uint32_t TEX_FILLED = 0x80;
 // The memory behind the last row carries guard texels (kTextureGuard bytes on each side), so that a
 // filler that reads a little past an edge reads memory of this texture.
 struct Texture {
-    std::uint32_t valid;     // 1 once the pixels are allocated
-    std::uint32_t texFlags;  // TEX_FILLED once pixels have been copied in
-    std::int32_t originX;    // position within a sheet
+    std::uint32_t valid;    // 1 once the pixels are allocated
+    std::uint32_t texFlags; // TEX_FILLED once pixels have been copied in
+    std::int32_t originX;   // position within a sheet
     std::int32_t originY;
-    std::int32_t width;      // pixels, a power of two for the fillers
+    std::int32_t width; // pixels, a power of two for the fillers
     std::int32_t height;
-    std::int32_t byteSize;   // (bitsPerPixel / 8) * width * height
+    std::int32_t byteSize;     // (bitsPerPixel / 8) * width * height
     std::int32_t bitsPerPixel; // 8 or 16
     void* pixels;
 };

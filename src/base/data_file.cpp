@@ -31,8 +31,8 @@ bool SameLetters(std::string_view a, std::string_view b) {
     return true;
 }
 
-// The entry of folder whose name is name but for letter case; the first in sorted order when several
-// are, so that every system picks the same. Empty when there is none.
+// The entry of folder whose name is name but for letter case; the first in sorted order when
+// several are, so that every system picks the same. Empty when there is none.
 std::string EntryInAnyCase(const fs::path& folder, std::string_view name) {
     std::string best;
     std::error_code error;
@@ -51,7 +51,8 @@ bool Exists(const fs::path& path) {
     return fs::exists(path, error);
 }
 
-// Walks the parts of relative below root, forgiving letter case where a part is not there as written.
+// Walks the parts of relative below root, forgiving letter case where a part is not there as
+// written.
 std::string FindBelow(const fs::path& root, const fs::path& relative) {
     fs::path found = root;
     for (const fs::path& part : relative) {
@@ -78,7 +79,9 @@ void SetDataFolder(const std::string& folder) {
     std::memcpy(dataFolder, folder.data(), length);
     dataFolder[length] = '\0';
 }
-std::string DataFolder() { return dataFolder; }
+std::string DataFolder() {
+    return dataFolder;
+}
 
 std::string FindDataFile(const char* path) {
     if (path == nullptr) {

@@ -1,5 +1,6 @@
 // Where the files of the production are, and how they are opened. The code names them by paths
-// that begin with "./data/"; the folder "data" stands beside the program and can be moved by a tool.
+// that begin with "./data/"; the folder "data" stands beside the program and can be moved by a
+// tool.
 #pragma once
 
 #include <cstdio>
@@ -14,9 +15,9 @@ void SetDataFolder(const std::string& folder);
 std::string DataFolder();
 
 // The path of an existing file for a name as the code or a data file writes it: trailing blanks are
-// dropped, "\" counts as "/", "./data" is replaced by the data folder, and where no file has exactly
-// that name, letter case is forgiven in every part below the data folder. Empty if there is none.
-// A leading blank is kept (such a name is not found).
+// dropped, "\" counts as "/", "./data" is replaced by the data folder, and where no file has
+// exactly that name, letter case is forgiven in every part below the data folder. Empty if there is
+// none. A leading blank is kept (such a name is not found).
 std::string FindDataFile(const char* path);
 
 // fopen of FindDataFile(path) for reading; mode "r" or "rb" (line ends are never converted).

@@ -13,7 +13,9 @@ constexpr std::uint64_t kChopBits = 0x6000 | 0x8000 | 0x0040;
 constexpr std::uint64_t kRoundBits = 0x6000;
 constexpr std::uint64_t kRoundChop = 0x6000;
 
-std::uint64_t ReadControl() { return __builtin_ia32_stmxcsr(); }
+std::uint64_t ReadControl() {
+    return __builtin_ia32_stmxcsr();
+}
 void WriteControl(std::uint64_t value) {
     __builtin_ia32_ldmxcsr(static_cast<std::uint32_t>(value));
 }
@@ -28,7 +30,9 @@ std::uint64_t ReadControl() {
     __asm__ volatile("mrs %0, fpcr" : "=r"(value));
     return value;
 }
-void WriteControl(std::uint64_t value) { __asm__ volatile("msr fpcr, %0" : : "r"(value)); }
+void WriteControl(std::uint64_t value) {
+    __asm__ volatile("msr fpcr, %0" : : "r"(value));
+}
 #else
 #error "Say here how this processor is put into round-toward-zero mode."
 #endif
@@ -44,8 +48,12 @@ FloatMode CurrentFloatMode() {
     return (ReadControl() & kRoundBits) == kRoundChop ? FloatMode::Chop : FloatMode::Nearest;
 }
 
-ScopedFloatMode::ScopedFloatMode(FloatMode mode) : saved_(ReadControl()) { SetFloatMode(mode); }
+ScopedFloatMode::ScopedFloatMode(FloatMode mode) : saved_(ReadControl()) {
+    SetFloatMode(mode);
+}
 
-ScopedFloatMode::~ScopedFloatMode() { WriteControl(saved_); }
+ScopedFloatMode::~ScopedFloatMode() {
+    WriteControl(saved_);
+}
 
 } // namespace ombrel

@@ -19,8 +19,12 @@ constinit Rect clipRect = kInitialClip;
 constinit ShellState shell = kInitialShell;
 constinit FrameState frame = kInitialFrame;
 
-void ResetDisplayFormat() { displayFormat = kInitialFormat; }
-void ResetClipRect() { clipRect = kInitialClip; }
+void ResetDisplayFormat() {
+    displayFormat = kInitialFormat;
+}
+void ResetClipRect() {
+    clipRect = kInitialClip;
+}
 void ResetShellState() {
     shell = kInitialShell;
     frame = kInitialFrame;

@@ -5,7 +5,9 @@ namespace ombrel {
 namespace {
 constexpr std::uint64_t kPrime = 0x00000100000001b3ULL;
 
-std::uint64_t AddByte(std::uint64_t hash, std::uint32_t byte) { return (hash ^ byte) * kPrime; }
+std::uint64_t AddByte(std::uint64_t hash, std::uint32_t byte) {
+    return (hash ^ byte) * kPrime;
+}
 } // namespace
 
 std::uint64_t HashBytes(std::uint64_t hash, const void* data, std::size_t size) {

@@ -1,5 +1,5 @@
-// Finds the extent of a number by the program's own grammar, then leaves the exact conversion to the
-// standard library's from_chars, which knows no locale.
+// Finds the extent of a number by the program's own grammar, then leaves the exact conversion to
+// the standard library's from_chars, which knows no locale.
 #include "base/parse_number.h"
 
 #include <charconv>
@@ -12,8 +12,12 @@ namespace ombrel {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsBlank(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 const char* SkipDigits(const char* p) {
     while (IsDigit(*p)) {
@@ -34,8 +38,8 @@ const char* SkipExponent(const char* p) {
     return IsDigit(*q) ? SkipDigits(q) : p;
 }
 
-// from_chars leaves the value alone when it is out of range. Whether it is too large or too small is
-// read off the decimal exponent of the first digit that counts.
+// from_chars leaves the value alone when it is out of range. Whether it is too large or too small
+// is read off the decimal exponent of the first digit that counts.
 bool IsLarge(const char* p, const char* last) {
     long position = 0; // decimal exponent of the first non-zero digit
     bool found = false;

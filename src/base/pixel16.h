@@ -9,9 +9,15 @@ namespace ombrel {
 // 5-6-5: red in bits 15..11, green in bits 10..5, blue in bits 4..0. No alpha.
 using Pixel16 = std::uint16_t;
 
-constexpr std::int32_t RedOf(Pixel16 p) { return (p >> 11) & 31; }
-constexpr std::int32_t GreenOf(Pixel16 p) { return (p >> 5) & 63; }
-constexpr std::int32_t BlueOf(Pixel16 p) { return p & 31; }
+constexpr std::int32_t RedOf(Pixel16 p) {
+    return (p >> 11) & 31;
+}
+constexpr std::int32_t GreenOf(Pixel16 p) {
+    return (p >> 5) & 63;
+}
+constexpr std::int32_t BlueOf(Pixel16 p) {
+    return p & 31;
+}
 
 // Channels 0..255; bits above the eighth are cut. The low bits of each channel are dropped.
 constexpr std::uint32_t PackRgb565(std::uint32_t r, std::uint32_t g, std::uint32_t b) {

@@ -6,13 +6,17 @@ namespace {
 constinit std::uint32_t state = 1;
 }
 
-void SeedRandom15(std::uint32_t seed) { state = seed; }
+void SeedRandom15(std::uint32_t seed) {
+    state = seed;
+}
 
 std::int32_t Random15() {
     state = state * 214013U + 2531011U;
     return static_cast<std::int32_t>((state >> 16) & 0x7FFF);
 }
 
-void ResetRandom15() { state = 1; }
+void ResetRandom15() {
+    state = 1;
+}
 
 } // namespace ombrel

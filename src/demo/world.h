@@ -12,7 +12,8 @@
 namespace ombrel {
 
 inline constexpr std::int32_t kMaxSceneObjects = 512; // entries of the scene object table
-inline constexpr std::int32_t kFirstSceneObject = 11; // the object counter's start; entry 11 is empty
+inline constexpr std::int32_t kFirstSceneObject =
+    11; // the object counter's start; entry 11 is empty
 
 struct World {
     Mesh sky, skyAlpha0, skyAlphaS2, stay, ground, groundAlpha, lightMarker;
@@ -20,7 +21,7 @@ struct World {
     std::int32_t objectCounter;     // index of the last scene-list object; 11 when there is none
     Camera camera;
     Light lights[kMaxLights];
-    std::uint32_t* depth; // screenWidth * screenHeight cells
+    std::uint32_t* depth;    // screenWidth * screenHeight cells
     std::int32_t depthPitch; // bytes
 };
 extern World world;
@@ -28,15 +29,15 @@ extern FaceList sceneFaces;
 
 // Process-wide switches of both scenes. The shipped production keeps the defaults given here.
 struct SceneSwitches {
-    std::int32_t renderMode1; // 1; 0: corner dots
-    std::int32_t renderMode2; // 1; 0: wireframe
-    std::int32_t backFace;    // 1
-    std::int32_t lighting;    // 1
-    std::int32_t sort;        // -1; runs when 1
-    std::int32_t cameraMode;  // -1: from angles; else look-at (only while no track runs)
-    std::int32_t blur;        // -1; runs when 1
-    std::int32_t lightCount;  // 5
-    std::int32_t hideCursor;  // 1
+    std::int32_t renderMode1;   // 1; 0: corner dots
+    std::int32_t renderMode2;   // 1; 0: wireframe
+    std::int32_t backFace;      // 1
+    std::int32_t lighting;      // 1
+    std::int32_t sort;          // -1; runs when 1
+    std::int32_t cameraMode;    // -1: from angles; else look-at (only while no track runs)
+    std::int32_t blur;          // -1; runs when 1
+    std::int32_t lightCount;    // 5
+    std::int32_t hideCursor;    // 1
     std::int32_t cameraRunning; // 0
 };
 extern SceneSwitches switches;

@@ -51,8 +51,8 @@ float Vec3Length(const Vec3* v);
 // max + 11/32 mid + 1/4 min of the sizes, in 1/1024, cut to a whole number. Components up to
 // 2,097,151; beyond, ToIntChop's value of an overflow is used and wraps.
 float Vec3FastLength(const Vec3* v);
-void Vec3Normalize(Vec3* v);                        // shorter than 1e-5: untouched
-void Vec3NormalizeTo(const Vec3* v, float out[3]);  // shorter than 1e-5: zero
+void Vec3Normalize(Vec3* v);                       // shorter than 1e-5: untouched
+void Vec3NormalizeTo(const Vec3* v, float out[3]); // shorter than 1e-5: zero
 
 void Matrix4Set(Matrix4* out, const float values[16]); // row-major
 void Matrix4Multiply(const Matrix4* a, const Matrix4* b, Matrix4* out);

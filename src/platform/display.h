@@ -1,6 +1,6 @@
-// The display half of the seam: a 16-bit back surface that the program draws into, small surfaces for
-// glyphs, and the copy to screen or window. Every back-end folder defines these functions; a build
-// links exactly one folder. Results are 1 for success, 0 for failure.
+// The display half of the seam: a 16-bit back surface that the program draws into, small surfaces
+// for glyphs, and the copy to screen or window. Every back-end folder defines these functions; a
+// build links exactly one folder. Results are 1 for success, 0 for failure.
 #pragma once
 
 #include <cstdint>
@@ -44,8 +44,8 @@ int PresentFrame(); // 0 while a surface is locked or when the copy failed
 
 enum class SurfaceMemory { Any, System };
 Surface* MakeOffscreenSurface(std::int32_t width, std::int32_t height, SurfaceMemory memory,
-                              std::uint32_t colorKey); // null on failure
-void ReleaseSurface(Surface* surface);                 // null is allowed
+                              std::uint32_t colorKey);                         // null on failure
+void ReleaseSurface(Surface* surface);                                         // null is allowed
 int FillSurface(Surface* surface, std::uint32_t color, const Rect* rectangle); // null: all of it; 1
 Clipper* SetSurfaceClipList(Surface* surface, std::int32_t count, const Rect* rectangles);
 int LockSurface(Surface* surface, FrameBuffer* out); // 0 and null pixels on failure

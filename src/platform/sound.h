@@ -1,5 +1,5 @@
-// The sound half of the seam: one run-time table of the calls that the soundtrack makes. A build may
-// choose a table when it runs (a library that is there or not); tests put a recording one in.
+// The sound half of the seam: one run-time table of the calls that the soundtrack makes. A build
+// may choose a table when it runs (a library that is there or not); tests put a recording one in.
 #pragma once
 
 #include <cstdint>
@@ -10,8 +10,9 @@ inline constexpr std::uint32_t kSoundVersion = 0x0203; // expected in the high 1
 
 struct SoundCalls {
     std::uint32_t (*getVersion)();
-    int (*init)(std::int32_t device, std::uint32_t frequency); // device -1 default, 0 silent; 1 or 0
-    std::uint32_t (*streamCreateFile)(const char* path);       // 0 on failure
+    int (*init)(std::int32_t device,
+                std::uint32_t frequency);                // device -1 default, 0 silent; 1 or 0
+    std::uint32_t (*streamCreateFile)(const char* path); // 0 on failure
     int (*channelPlay)(std::uint32_t stream, int restart);
     int (*channelStop)(std::uint32_t stream);
     int (*sampleFree)(std::uint32_t stream);

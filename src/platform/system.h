@@ -1,5 +1,5 @@
-// The system half of the seam: window, messages, boxes, cursor, clock. Every back-end folder defines
-// these functions; a build links exactly one folder.
+// The system half of the seam: window, messages, boxes, cursor, clock. Every back-end folder
+// defines these functions; a build links exactly one folder.
 #pragma once
 
 #include <cstdint>
@@ -8,14 +8,14 @@
 namespace ombrel {
 
 // --- window and desktop. They read the resolution, the windowed flag and so on from `shell`.
-int RegisterWindowClass();      // 0 on failure
-int CreateMainWindow();         // full screen: shown at once; windowed: hidden. 0 on failure
+int RegisterWindowClass(); // 0 on failure
+int CreateMainWindow();    // full screen: shown at once; windowed: hidden. 0 on failure
 // Windowed only: widens the window to an exact client area (sets shell.clientOffset), puts the
 // desktop at 16 bits where the system has such modes (sets shell.savedDesktopDepth), sets
 // shell.screenCenter to the middle of the desktop, moves the window there and shows it.
 void SetUpWindowedDesktop();
-void RestoreDesktopDepth();     // windowed: puts shell.savedDesktopDepth back
-void RepaintDesktop();          // desktop window, own window, foreground window
+void RestoreDesktopDepth();      // windowed: puts shell.savedDesktopDepth back
+void RepaintDesktop();           // desktop window, own window, foreground window
 void RestoreDisplayModeAtExit(); // the second, unconditional restore with the entry's own record
 
 // --- messages

@@ -33,8 +33,8 @@ struct Camera {
     float fov; // degrees; a larger value magnifies, 90 is a half angle of 45
     float zNear, zFar;
     Ray clipPosX, clipNegX, clipPosY, clipNegY;
-    float projScale;  // 2
-    float projScaleY; // 2 / aspect
+    float projScale;                 // 2
+    float projScaleY;                // 2 / aspect
     float screenWidth, screenHeight; // pixels
     float screenCenterX, screenCenterY;
     float aspect;
@@ -61,7 +61,8 @@ extern float trackT;
 void ResetTrackState();
 
 // Reads at most capacity keys; 0 for a missing file. A line that matches in part still makes a key
-// (its other columns keep the values of the line before); a line that gives nothing ends the reading.
+// (its other columns keep the values of the line before); a line that gives nothing ends the
+// reading.
 std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
 
 // Writes the sampled values into the camera, steps on, returns the segment just sampled. With fewer

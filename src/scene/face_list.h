@@ -1,6 +1,6 @@
 // The face list of one frame: what the scenes fill, the pipeline culls, lights, clips, sorts and
-// projects, and the dispatcher draws. Records are copies of mesh faces, 96 words each where pointers
-// have 32 bits.
+// projects, and the dispatcher draws. Records are copies of mesh faces, 96 words each where
+// pointers have 32 bits.
 #pragma once
 
 #include <cstdint>

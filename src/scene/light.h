@@ -43,8 +43,8 @@ void ClearLights(Light* lights, std::int32_t count); // all words 0
 // Stores the light with its position and (normalised) direction in source and working copy alike.
 void SetLight(Light* light, const Light& values);
 
-// mode 0: source in place, 1: working in place, 2: source into working, 3: source copied into working
-// (matrix unused, may be null). Other modes: nothing.
+// mode 0: source in place, 1: working in place, 2: source into working, 3: source copied into
+// working (matrix unused, may be null). Other modes: nothing.
 void LightsTransform(Light* lights, std::int32_t count, const Matrix4* matrix, std::int32_t mode);
 
 // Writes the lit colours of every drawable, not yet lit face.

@@ -1,0 +1,38 @@
+# Debian packages the project needs, and how the two commands get them. Read by `run` and `test`.
+
+# To build and play.
+PLAY_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libsdl2-mixer-dev libpng-dev ffmpeg"
+# To run every test: other compilers, sanitizers, the Windows builds and what plays them.
+TEST_PACKAGES="$PLAY_PACKAGES python3 libgtest-dev libbenchmark-dev clang-14 libclang-rt-14-dev
+ clang-format-14 clang-tidy-14 cppcheck g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64
+ xvfb xauth xdotool imagemagick x11-utils python3-numpy python3-pil"
+
+# Installs those of the given packages that are missing; says what to do where it cannot.
+need_packages() {
+    if ! command -v dpkg-query >/dev/null 2>&1; then
+        echo "note: this is no Debian system; install what these packages hold: $*" >&2
+        return 0
+    fi
+    missing=""
+    for package in "$@"; do
+        state=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+        [ "$state" = installed ] || missing="$missing $package"
+    done
+    [ -n "$missing" ] || return 0
+    sudo=""
+    if [ "$(id -u)" != 0 ]; then
+        if ! command -v sudo >/dev/null 2>&1; then
+            echo "error: these packages are missing, and only root can install them:$missing" >&2
+            return 1
+        fi
+        sudo=sudo
+    fi
+    echo "Installing:$missing"
+    $sudo env DEBIAN_FRONTEND=noninteractive apt-get -q update >/dev/null || true
+    # shellcheck disable=SC2086
+    $sudo env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install \
+        $missing >build/install.log 2>&1 || {
+        echo "error: the packages could not be installed; build/install.log says why" >&2
+        return 1
+    }
+}
