@@ -1,0 +1,169 @@
+#!/usr/bin/python3
+"""Builds everything and runs every test, one line a step, a log a step in build/test-logs/.
+The last line counts the tests: "N passed, N failed". Exit code 0 only when none failed."""
+import argparse
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+LOGS = ROOT / "build" / "test-logs"
+UNITS = ["base", "math", "assets", "scene", "raster", "platform", "demo", "app"]
+CAPTURE = "larkfen-capture"
+
+passed = 0
+failed = 0
+
+
+def count_tests(output, code):
+    """(passed, failed) as the output of one step tells them; a step that counts nothing is one."""
+    good = sum(int(n) for n in re.findall(r"\[  PASSED  \] (\d+) test", output))
+    bad = sum(int(n) for n in re.findall(r"\[  FAILED  \] (\d+) test", output))
+    lines = re.findall(r"^(?:\S+: )?(\d+) passed, (\d+) failed", output, re.M)
+    good += sum(int(a) for a, _ in lines)
+    bad += sum(int(b) for _, b in lines)
+    if good + bad == 0:
+        return (1, 0) if code == 0 else (0, 1)
+    if code != 0 and bad == 0:
+        bad = 1  # it broke off: a crash or a sanitizer's report
+    return good, bad
+
+
+def step(name, command, env=None, counts=True, limit=900):
+    """Runs one command; tells how it went; returns whether it went well."""
+    global passed, failed
+    print(f"  {name:<34}", end=" ", flush=True)
+    start = time.monotonic()
+    log = LOGS / (re.sub(r"[^a-z0-9]+", "-", name.lower()) + ".log")
+    try:
+        result = subprocess.run([str(part) for part in command], cwd=ROOT, stdout=subprocess.PIPE,
+                                stderr=subprocess.STDOUT, env={**os.environ, **(env or {})},
+                                stdin=subprocess.DEVNULL, timeout=limit, check=False)
+        output, code = result.stdout.decode(errors="replace"), result.returncode
+    except subprocess.TimeoutExpired as error:
+        output = (error.stdout or b"").decode(errors="replace") + f"\ntook more than {limit} s\n"
+        code = 124
+    except OSError as error:
+        output, code = f"{command[0]}: {error.strerror}\n", 127
+    log.write_text(output)
+    good, bad = count_tests(output, code)
+    if counts or bad:
+        passed += good
+        failed += bad
+    seconds = time.monotonic() - start
+    said = f"{good} tests" if counts else "done"
+    print(f"{'ok    ' if bad == 0 else 'FAILED'} {said:>12} {seconds:7.1f} s", flush=True)
+    if bad:
+        shown = output.splitlines()
+        marks = [i for i, line in enumerate(shown) if re.search(r"FAILED|error|ERROR|fault", line)]
+        start_at = max(0, min(marks[0] - 3 if marks else len(shown), len(shown) - 40))
+        print("\n".join("      | " + line for line in shown[start_at:start_at + 40]))
+        print(f"      whole log: {log.relative_to(ROOT)}")
+    return bad == 0
+
+
+def build(preset, targets, *options):
+    """Configures and builds targets of one preset."""
+    return step(f"configure {preset}", ["cmake", "--preset", preset, *options], counts=False) and \
+        step(f"build {preset}", ["cmake", "--build", f"build/{preset}", "--target", *targets],
+             counts=False, limit=1800)
+
+
+def test_programs(folder):
+    """The unit test programs that this build folder has sources for."""
+    names = [f"unit_{unit}" for unit in UNITS if list((ROOT / "tests/unit" / unit).glob("*.cpp"))]
+    return [(name, folder / name) for name in names]
+
+
+def capture_hashes(name, program, out, frames, extra=()):
+    """Writes the hash lines of the first frames of the production with one build of the tool."""
+    return step(f"hashes {name}", [*program, "-w", "-ns", "--data", ROOT / "data", "--frames",
+                                   f"0:{frames}", "--hashes", out, *extra], counts=False,
+                env={"WINEDEBUG": "-all"})
+
+
+def compare_hashes(name, one, other):
+    """Counts as one test: two files of hash lines are the same; names the first frame that differs."""
+    global passed, failed
+    a = pathlib.Path(one).read_text().splitlines() if pathlib.Path(one).exists() else []
+    b = pathlib.Path(other).read_text().splitlines() if pathlib.Path(other).exists() else []
+    bad = next((f"{x} / {y}" for x, y in zip(a, b) if x != y), None)
+    if bad is None and (not a or not b):
+        bad = "no lines"
+    length = min(len(a), len(b))
+    if bad is None:
+        passed += 1
+        print(f"  frames of {name:<24} ok     {length} the same")
+    else:
+        failed += 1
+        print(f"  frames of {name:<24} FAILED first difference: {bad}")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--quick", action="store_true",
+                        help="only the source checks and the unit tests of the release build")
+    quick = parser.parse_args().quick
+    LOGS.mkdir(parents=True, exist_ok=True)
+    start = time.monotonic()
+    release = ROOT / "build" / "release"
+    sanitize = ROOT / "build" / "sanitize"
+
+    print("Sources")
+    step("habits", [ROOT / "tools/check_sources.py"])
+    sources = sorted(str(p) for d in ("src", "tools", "tests", "bench", "fuzz")
+                     for p in (ROOT / d).rglob("*") if p.suffix in (".h", ".cpp"))
+    step("format", ["clang-format-14", "--dry-run", "--Werror", *sources])
+
+    print("Release build")
+    if build("release", ["all"], "-DOMBREL_TESTS=ON", "-DOMBREL_BENCH=ON"):
+        for name, program in test_programs(release):
+            step(name, [program])
+        if not quick:
+            for name in ("golden", "scenario"):
+                if list((ROOT / "tests" / name).glob("*.cpp")):
+                    step(name, [release / name])
+
+    if not quick:
+        print("Sanitizer build (ASan, UBSan)")
+        if build("sanitize", ["all"]):
+            options = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
+                       "UBSAN_OPTIONS": "print_stacktrace=1", "OMBREL_RANDOM_SHARE": "0.05"}
+            for name, program in test_programs(sanitize):
+                step(f"{name} sanitized", [program], env=options)
+            for name in ("golden", "scenario"):
+                if list((ROOT / "tests" / name).glob("*.cpp")):
+                    step(f"{name} sanitized", [sanitize / name], env=options)
+            step("200 frames sanitized",
+                 [sanitize / CAPTURE, "-w", "-ns", "--frames", "0:200", "--hashes",
+                  LOGS / "frames-sanitize.txt"], env=options)
+
+        print("The same pictures from every compiler")
+        frames = {}
+        for preset, count in (("release", 100000), ("clang", 100000), ("o0", 400)):
+            if preset == "release" or build(preset, [CAPTURE]):
+                frames[preset] = LOGS / f"frames-{preset}.txt"
+                capture_hashes(preset, [ROOT / "build" / preset / CAPTURE], frames[preset], count)
+        for preset in ("clang", "o0"):
+            if preset in frames:
+                compare_hashes(f"g++ -O2 and {preset}", frames["release"], frames[preset])
+
+        print("Windows builds, under Wine")
+        built = [build(preset, ["all"]) for preset in ("win64", "win32")]
+        if all(built) and (ROOT / "tests/windows/run.sh").exists():
+            step("Windows programs", [ROOT / "tests/windows/run.sh", ROOT / "build/win64"])
+
+        if (ROOT / "tests/linux/run.sh").exists():
+            print("Linux program, under Xvfb")
+            step("Linux window", [ROOT / "tests/linux/run.sh", release])
+
+    print(f"\n{time.monotonic() - start:.0f} s")
+    print(f"{passed} passed, {failed} failed")
+    return 1 if failed or not passed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
