@@ -19,8 +19,10 @@ struct SoundCalls {
     int (*free)();
 };
 
-// The table in force. Chosen by the back end at its first use; never null.
+// The table in force: the one of UseSoundCalls, else the back end's. Never null.
 const SoundCalls* Sound();
+// Every back-end folder defines this one: its own table, chosen at the first call; never null.
+const SoundCalls* BackEndSound();
 // Puts another table in place; null goes back to the back end's own.
 void UseSoundCalls(const SoundCalls* calls);
 
