@@ -39,7 +39,7 @@ enum class WriteRule : std::uint8_t {
 };
 enum class EdgeRule : std::uint8_t {
     Open,   // right column and bottom row belong to the neighbour
-    Closed, // right column and bottom row are drawn, up to the clip rectangle
+    Closed, // right column and bottom row are drawn, up to the clip rectangle: REQUIRED R2
 };
 
 // clang-format off

@@ -1,0 +1,122 @@
+// The triangle walker: from three corners to one span a row, for every filler and every twin.
+// An attribute is a 32-bit slot k of N; slot 0 is x in 16.16, what the others mean is not known
+// here. Arithmetic is 32-bit, wraps on overflow, and divides toward zero. Called by fillers.cpp.
+//
+//         T                 rows       edges          drawn
+//        /|                 a          T-M and T-B    T.y up to and including M.y
+//     a / | a               b          M-B and T-B    M.y + 1 up to B.y - 1
+//      /  |
+//     M   |                 T-----M                   T
+//      \  |               d  \   / d               e / \ e
+//     b \ | b                 \ /                   /   \         .
+//        \|                    B                   M-----B
+//         B
+//
+// c: rows above the clip rectangle are skipped; the edges start at its first row, steps multiplied.
+// f: the edge of the smaller slope (flat triangles: of the smaller x) is on the left; equal: no
+// swap.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace ombrel {
+
+// Toward zero. By 0: 0. The one quotient that does not fit, INT32_MIN / -1, wraps to INT32_MIN.
+inline std::int32_t DivChop(std::int32_t dividend, std::int32_t divisor) {
+    if (static_cast<std::uint32_t>(divisor) + 1U > 1U) [[likely]] {
+        return dividend / divisor;
+    }
+    return divisor == 0 ? 0 : -dividend;
+}
+
+// Calls action(k) for k = first..last - 1, unrolled.
+template <int first, int last, class Action> constexpr void ForEachSlot(Action action) {
+    [&]<int... k>(std::integer_sequence<int, k...>) {
+        (action(first + k), ...);
+    }
+    (std::make_integer_sequence<int, last - first>{});
+}
+
+template <int N> struct Corner {
+    std::int32_t x, y; // pixels
+    std::int32_t slot[N];
+};
+
+template <int N> struct Edge {
+    std::int32_t slot[N]; // in the row at hand
+    std::int32_t step[N]; // a row
+};
+
+// The edge, advanced by a number of rows from its upper end.
+template <int N>
+Edge<N> MakeEdge(const Corner<N>& upper, const Corner<N>& lower, std::int32_t rows) {
+    Edge<N> edge;
+    ForEachSlot<0, N>([&](int k) {
+        edge.step[k] = DivChop(lower.slot[k] - upper.slot[k], lower.y - upper.y);
+        edge.slot[k] = upper.slot[k] + edge.step[k] * rows;
+    });
+    return edge;
+}
+
+// Rows of the clip rectangle, last excluded.
+struct RowRange {
+    std::int32_t first, last;
+};
+
+// Calls drawSpan(row, left slots, right slots) for each row of the triangle within clip, top to
+// bottom. rowsBelow: how many rows from B.y on are drawn too. Not all three y may be equal.
+template <int N, class DrawSpan>
+void WalkTriangle(const Corner<N> corners[3], RowRange clip, std::int32_t rowsBelow,
+                  DrawSpan drawSpan) {
+    // Order the corners top to bottom; equal ones keep their order.
+    const Corner<N>* top = &corners[0];
+    const Corner<N>* middle = &corners[1];
+    const Corner<N>* bottom = &corners[2];
+    if (middle->y < top->y) {
+        std::swap(top, middle);
+    }
+    if (bottom->y < middle->y) {
+        std::swap(middle, bottom);
+        if (middle->y < top->y) {
+            std::swap(top, middle);
+        }
+    }
+    const bool flatTop = top->y == middle->y;       // d
+    const bool flatBottom = middle->y == bottom->y; // e
+
+    // Find the rows: those of the triangle that the clip rectangle has. (c)
+    const std::int32_t first = std::max(top->y, clip.first);
+    const std::int32_t last = std::min(bottom->y + rowsBelow, clip.last);
+
+    // Set up the long edge and the upper short edge, and choose their sides. (a, f)
+    Edge<N> longEdge = MakeEdge(*top, *bottom, first - top->y);
+    Edge<N> shortEdge;
+    bool longOnLeft = top->x <= middle->x;
+    if (!flatTop) {
+        shortEdge = MakeEdge(*top, *middle, first - top->y);
+        longOnLeft = flatBottom ? bottom->x < middle->x : longEdge.step[0] < shortEdge.step[0];
+    }
+    // Take the lower short edge at once where the upper one has no row. (c, d)
+    if (flatTop || middle->y < first) {
+        shortEdge = MakeEdge(*middle, *bottom, first - middle->y);
+    }
+    const std::int32_t bend = flatTop ? last : middle->y;
+    Edge<N>& left = longOnLeft ? longEdge : shortEdge;
+    Edge<N>& right = longOnLeft ? shortEdge : longEdge;
+
+    for (std::int32_t row = first; row < last; ++row) {
+        drawSpan(row, left.slot, right.slot);
+        ForEachSlot<0, N>([&](int k) {
+            longEdge.slot[k] += longEdge.step[k];
+            shortEdge.slot[k] += shortEdge.step[k];
+        });
+        // Turn at the middle corner: its own row was still drawn with the upper short edge. (b)
+        if (row == bend) {
+            shortEdge = MakeEdge(*middle, *bottom, 1);
+        }
+    }
+}
+
+} // namespace ombrel
