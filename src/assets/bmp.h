@@ -1,13 +1,13 @@
-// BMP files, textures cut from them, and mip levels.
+// BMP files, textures cut from them, and mip levels. The object loader and the font code read their
+// images through here, at start-up only. Results are 1 for success and 0 for failure.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "assets/texture.h"
 
 namespace ombrel {
-
-inline constexpr std::int32_t kTextureGuard = 256; // bytes of guard before and behind the pixels
 
 #pragma pack(push, 1)
 struct BmpFileHeader { // 14 bytes, as in the file
@@ -34,20 +34,43 @@ struct BmpImage {
     std::uint8_t* pixels;
 };
 
-int loadBmp(BmpImage* image, const char* path); // 1 or 0; a failure keeps the image that was there
-int releaseBmp(BmpImage* image);
+// Reads an uncompressed bottom-up image of 8, 16 or 24 bits a pixel; 24-bit pixels become 16-bit
+// ones of the display's format, the others stay as they are. The pixels are the last sizeImage
+// bytes of the file, row padding included in the count but not skipped. 0: no such file, not a BMP,
+// another bit count, width or height below 1, sizeImage below what width and height need or above
+// the file's size, no memory. A failure keeps the image that was there; a success frees it.
+int loadBmp(BmpImage* image, const char* path);
+int releaseBmp(BmpImage* image); // frees the pixels, keeps the headers; 1
+
+// Zeroed bytes on each side of a texture's pixels: two rows of 16-bit pixels and 256 bytes more, so
+// that a filler whose rounding goes a row or a texel too far still reads memory of its own texture.
+constexpr std::size_t TextureGuardBytes(std::int32_t width) {
+    return static_cast<std::size_t>(width) * 4 + 256;
+}
 
 struct TextureShape {
     std::int32_t originX, originY, width, height, bitsPerPixel;
 };
+// Fills texture with a zeroed image. 0, with pixels null and the rest untouched: no memory, a
+// width or height outside 0..32767, or a depth other than 8 and 16. An 8-bit texture is given the
+// memory of a 16-bit one, for fillers that take it for one.
 int createTexture(Texture* texture, const TextureShape& shape);
-void releaseTexture(Texture* texture); // frees the pixels with their guard
+void releaseTexture(Texture* texture); // frees the pixels with their guard, clears the record
+
+// Copies a rectangle of the texture's size out of the image and sets TEX_FILLED.
 // direct != 0: from pixel (x, y); 0: from cell (x, y) of a sheet with one-pixel lines.
+// Rows that leave the image on a side run on in the row next to it; what lies before its first or
+// behind its last pixel is not copied. 0 for a null texture, an image without pixels, or a texture
+// too small for pixels of that size.
 int copyPixels8(Texture* texture, const BmpImage* image, std::int32_t x, std::int32_t y,
                 std::int32_t direct);
 int copyPixels16(Texture* texture, const BmpImage* image, std::int32_t x, std::int32_t y,
                  std::int32_t direct);
-// Array of floor(log2(width)) + 1 textures, entry 0 the texture itself. 1, or 0 without memory.
+
+// Stores an array of floor(log2(width)) + 1 textures, entry 0 the texture itself, each of the
+// others half the size of the one before (halves cut, so a height can be 0) and 16 bits a pixel. A
+// texel is sum of four * brightness / 4 + 0.5 for each channel, cut down, at most the channel's
+// largest value. 0, and *chain null: no memory, or a width outside the floor-log2 table (0..1024).
 int buildMipChain(Texture* texture, Texture*** chain, float brightness);
 void releaseMipChain(Texture** chain); // the levels above 0 and the array, not the texture itself
 

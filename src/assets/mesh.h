@@ -112,6 +112,8 @@ struct Material {
 };
 
 inline constexpr std::int32_t kMaxMaterials = 255;
+inline constexpr std::int32_t kMaxMeshVertices = 8192; // more fail the load
+inline constexpr std::int32_t kMaxMeshFaces = 16384;   // likewise
 // Written by the object loader; read by it alone. materialBase counts the records in use.
 extern Material materials[kMaxMaterials];
 extern std::int32_t materialBase;
@@ -126,9 +128,12 @@ static_assert(sizeof(void*) != 4 || sizeof(Face) == 17 * 4);
 // Returns 1, or 0 when an allocation fails or a count is negative (what was allocated stays).
 int AllocateMeshArrays(Mesh* mesh, std::int32_t vertexCount, std::int32_t faceCapacity,
                        std::int32_t copyCount, bool releaseFirst);
-int ReleaseMesh(Mesh* mesh);         // frees the arrays (not the texture), clears the record; 1
-float ComputeMeshRadius(Mesh* mesh); // fills avgRadius and maxRadius of the current copy
-int ComputeFaceSizes(Mesh* mesh);    // 1; 0 for null
-int SmoothVertexNormals(Mesh* mesh); // from the plastic faces only; 1; 0 for null
+int ReleaseMesh(Mesh* mesh); // frees the arrays (not the texture), clears the record; 1
+// Fills avgRadius and maxRadius of the current copy; returns the maximum. Without vertices: NaN and
+// 0.
+float ComputeMeshRadius(Mesh* mesh);
+int ComputeFaceSizes(Mesh* mesh); // 1; 0 for null
+// From the plastic faces and up to kMaxMeshVertices vertices only. 1; 0 for null.
+int SmoothVertexNormals(Mesh* mesh);
 
 } // namespace ombrel
