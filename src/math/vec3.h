@@ -1,6 +1,8 @@
 // Vectors, matrices and the degree tables: the floor of everything three-dimensional.
 // Single precision; row vectors, multiplied on the left (v * M), translation in the last row.
 // Angles are degrees. +X right, +Y up, +Z ahead. Outputs may not alias inputs except where said.
+// Every sum and product is rounded to a single in the mode in force, in the order written here.
+// What the per-frame loops call is inline.
 #pragma once
 
 #include <cstdint>
@@ -30,23 +32,40 @@ inline constexpr std::int32_t kTrigTableSize = 362;
 extern float SinTableDeg[kTrigTableSize];
 extern float CosTableDeg[kTrigTableSize];
 
+// Written by InitTrigTables at start-up; read by SinDeg and CosDeg alone.
 void InitTrigTables();  // stores to nearest, whatever mode is set
 void ResetTrigTables(); // all zero
 
-// Linear interpolation between whole degrees; any finite angle. Truncates the angle to its degree.
+// Linear interpolation between whole degrees; truncates the angle to its degree. Any finite angle;
+// an infinite one or NaN counts as 0.
 float SinDeg(float degrees);
 float CosDeg(float degrees);
 
 // Sine, cosine and tangent of radians in double precision, our own, so that every system gets the
-// same bits. Any finite argument up to about 1e9; error below 4 units in the last place.
+// same bits. Arguments up to 1e9 in size; the error is below 4 units in the last place (in either
+// rounding mode), and close to a zero of the function below 1e-25. Beyond 1e9 the result is defined
+// but means nothing.
 double SinRad(double radians);
 double CosRad(double radians);
 double TanRad(double radians);
 
-void Vec3Sub(const Vec3* a, const Vec3* b, Vec3* out); // b - a: the vector from a to b
-void Vec3Add(const Vec3* a, const Vec3* b, Vec3* out);
-float Vec3Dot(const Vec3* a, const Vec3* b);
-void Vec3Cross(const Vec3* a, const Vec3* b, Vec3* out);
+// b - a: the vector from a to b. The first argument is the one subtracted.
+inline void Vec3Sub(const Vec3* a, const Vec3* b, Vec3* out) {
+    *out = {b->x - a->x, b->y - a->y, b->z - a->z, 1.0F};
+}
+
+inline void Vec3Add(const Vec3* a, const Vec3* b, Vec3* out) {
+    *out = {a->x + b->x, a->y + b->y, a->z + b->z, 1.0F};
+}
+
+inline float Vec3Dot(const Vec3* a, const Vec3* b) {
+    return a->x * b->x + a->y * b->y + a->z * b->z;
+}
+
+inline void Vec3Cross(const Vec3* a, const Vec3* b, Vec3* out) {
+    *out = {a->y * b->z - a->z * b->y, a->z * b->x - a->x * b->z, a->x * b->y - a->y * b->x, 1.0F};
+}
+
 float Vec3Length(const Vec3* v);
 // max + 11/32 mid + 1/4 min of the sizes, in 1/1024, cut to a whole number. Components up to
 // 2,097,151; beyond, ToIntChop's value of an overflow is used and wraps.
@@ -56,8 +75,14 @@ void Vec3NormalizeTo(const Vec3* v, float out[3]); // shorter than 1e-5: zero
 
 void Matrix4Set(Matrix4* out, const float values[16]); // row-major
 void Matrix4Multiply(const Matrix4* a, const Matrix4* b, Matrix4* out);
-void Vec3TransformMatrix4(const Vec3* v, const Matrix4* m, Vec3* out); // all four components
-void Matrix4RotationXYZ(float ax, float ay, float az, Matrix4* out);   // X first, then Y, then Z
+// v * m, all four components; the caller supplies w.
+inline void Vec3TransformMatrix4(const Vec3* v, const Matrix4* m, Vec3* out) {
+    const auto column = [v, m](int j) {
+        return v->x * m->m[0][j] + v->y * m->m[1][j] + v->z * m->m[2][j] + v->w * m->m[3][j];
+    };
+    *out = {column(0), column(1), column(2), column(3)};
+}
+void Matrix4RotationXYZ(float ax, float ay, float az, Matrix4* out); // X first, then Y, then Z
 void RayInit(Ray* out, const Vec3* origin, const Vec3* direction, std::int32_t normalize);
 
 } // namespace ombrel

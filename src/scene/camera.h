@@ -51,11 +51,17 @@ struct CameraSetup {
     float screenWidth, screenHeight;
 };
 void CameraInit(Camera* camera, const CameraSetup& setup);
+// Sets fov, tanHalfFov and the four clip planes; exactly 1 and +-0.7071068 for 90 degrees.
 void CameraSetFov(Camera* camera, float fov);
-void CameraBuildView(Camera* camera, std::int32_t order); // order 0..5; the scenes pass 4
+// The view from position and angles. order 0..5 of the inverse rotations: 0 XYZ, 1 YXZ, 2 XZY, 3 YZX,
+// 4 ZYX (the scenes'), 5 ZXY; any other leaves the view alone.
+void CameraBuildView(Camera* camera, std::int32_t order);
+// The basis and the view from position and target. fromAngles 1: the target is first taken from the
+// first two angles, a point of the unit sphere about the world's origin.
 void CameraLookAt(Camera* camera, std::int32_t fromAngles);
 
-// Sampling state, one for the program: switching tracks does not reset it.
+// Sampling state, one for the program: switching tracks does not reset it. Written and read by
+// TrackSample alone; trackT is the place between keys trackSegment + 1 and + 2, from 0 to 1.
 extern std::int32_t trackSegment;
 extern float trackT;
 void ResetTrackState();
@@ -66,7 +72,7 @@ void ResetTrackState();
 std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
 
 // Writes the sampled values into the camera, steps on, returns the segment just sampled. With fewer
-// than 3 keys the camera stays where it is and 0 is returned.
+// than 3 keys the camera and trackT stay as they are, the segment becomes 0 and 0 is returned.
 std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count);
 
 } // namespace ombrel

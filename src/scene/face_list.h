@@ -47,4 +47,8 @@ void FaceListClear(FaceList* list);
 // behind the one before. Returns 1, or 0 when the list is full (then nothing is added).
 int FaceListAdd(FaceList* list, const Face* face);
 
+// Adds a copy of a record of the list, linked behind the last one: what a cut leaves over becomes a
+// face of its own. Returns the new record, or null when the list is full (then nothing is added).
+RenderFace* FaceListAddCopy(FaceList* list, const RenderFace* face);
+
 } // namespace ombrel

@@ -40,14 +40,17 @@ constexpr std::uint32_t PackLightColor(std::uint32_t r, std::uint32_t g, std::ui
 }
 
 void ClearLights(Light* lights, std::int32_t count); // all words 0
-// Stores the light with its position and (normalised) direction in source and working copy alike.
+// Stores the light; its sourcePosition and sourceDirection (normalised first) go into the source and
+// the working fields alike, so the working fields of values are not read.
 void SetLight(Light* light, const Light& values);
 
 // mode 0: source in place, 1: working in place, 2: source into working, 3: source copied into
 // working (matrix unused, may be null). Other modes: nothing.
 void LightsTransform(Light* lights, std::int32_t count, const Matrix4* matrix, std::int32_t mode);
 
-// Writes the lit colours of every drawable, not yet lit face.
+// Writes the lit colours of every drawable, not yet lit face, from its base colour and its working
+// vertices in world space. Flat faces get colour 0, gouraud ones all three; a face that is neither
+// gets its base colour as colour 0. Channels end at 255. The camera is not used.
 void LightFaces(FaceList* list, const Camera* camera, const Light* lights, std::int32_t count);
 
 } // namespace ombrel

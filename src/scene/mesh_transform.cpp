@@ -1,0 +1,120 @@
+// Objects on the move: the vertex arrays of a mesh multiplied, turned and shifted, and its faces
+// handed to the face list. Called by the scenes, object by object.
+#include "scene/mesh_transform.h"
+
+#include "scene/vertex_parts.h"
+
+namespace ombrel {
+
+namespace {
+
+struct VertexArrays {
+    Vertex* original;
+    Vertex* transformed;
+    std::int32_t count;
+};
+
+VertexArrays ChooseArrays(const Mesh& mesh, std::int32_t useCurrent) {
+    if (useCurrent != 0) {
+        return {mesh.curVertices, mesh.curTransformed, mesh.slotCount};
+    }
+    return {mesh.vertices, mesh.transformed, mesh.vertexCount};
+}
+
+// from and to may be the same array.
+void TransformVertices(const Vertex* from, Vertex* to, std::int32_t count, const Matrix4* matrix) {
+    for (std::int32_t i = 0; i < count; ++i) {
+        const Vec3 position = PositionOf(from[i]);
+        Vec3 result;
+        Vec3TransformMatrix4(&position, matrix, &result);
+        SetPosition(&to[i], result);
+        if ((from[i].vflags & VERTEX_HAS_NORMAL) != 0) {
+            const Vec3 normal = NormalOf(from[i]);
+            Vec3TransformMatrix4(&normal, matrix, &result);
+            SetNormal(&to[i], result);
+        }
+    }
+}
+
+} // namespace
+
+void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions& options) {
+    const VertexArrays arrays = ChooseArrays(*mesh, options.useCurrent);
+    switch (options.mode) {
+    case 0:
+        TransformVertices(arrays.original, arrays.original, arrays.count, matrix);
+        break;
+    case 1:
+        TransformVertices(arrays.transformed, arrays.transformed, arrays.count, matrix);
+        break;
+    case 2:
+        TransformVertices(arrays.original, arrays.transformed, arrays.count, matrix);
+        break;
+    default:
+        return;
+    }
+    if (options.withAxes != 0) {
+        for (Vec3& axis : mesh->axes) {
+            const Vec3 before = axis;
+            Vec3TransformMatrix4(&before, matrix, &axis);
+        }
+    }
+}
+
+void MeshRotate(Mesh* mesh, float ax, float ay, float az, std::int32_t useCurrent) {
+    // REQUIRED R38: off the whole degrees each turn shrinks the object a little.
+    Matrix4 rotation;
+    Matrix4RotationXYZ(ax, ay, az, &rotation);
+    MeshTransform(mesh, &rotation, {.mode = 0, .withAxes = 1, .useCurrent = useCurrent});
+}
+
+void MeshTranslate(Mesh* mesh, std::int32_t mode, std::int32_t useCurrent) {
+    const VertexArrays arrays = ChooseArrays(*mesh, useCurrent);
+    const Vec3& shift = mesh->position;
+    if (mode != 2) {
+        for (std::int32_t i = 0; i < arrays.count; ++i) {
+            Vertex& v = arrays.transformed[i];
+            v.x += shift.x;
+            v.y += shift.y;
+            v.z += shift.z;
+        }
+        return;
+    }
+    for (std::int32_t i = 0; i < arrays.count; ++i) {
+        const Vertex& from = arrays.original[i];
+        Vertex& to = arrays.transformed[i];
+        SetPosition(&to, {from.x + shift.x, from.y + shift.y, from.z + shift.z, 1.0F});
+        SetNormal(&to, NormalOf(from));
+    }
+}
+
+int MeshAddFaces(FaceList* list, Mesh* mesh, std::int32_t fromVertices) {
+    constexpr std::uint32_t kMask = MESH_LIVE | MESH_DRAWABLE | MESH_CULLED;
+    if ((mesh->state & kMask) != (MESH_LIVE | MESH_DRAWABLE)) {
+        return 0;
+    }
+    Vertex* const vertices = fromVertices != 0 ? mesh->vertices : mesh->transformed;
+    for (std::int32_t i = 0; i < mesh->faceCount; ++i) {
+        Face& face = mesh->faces[i];
+        if (!IsDrawable(face.active)) {
+            continue;
+        }
+        face.vertexArray = vertices;
+        if (FaceListAdd(list, &face) == 0) {
+            return 0;
+        }
+    }
+    return 1;
+}
+
+void MeshResetFrame(Mesh* mesh) {
+    mesh->state &= ~MESH_CULLED;
+    for (std::int32_t i = 0; i < mesh->faceCount; ++i) {
+        Face& face = mesh->faces[i];
+        if ((face.active & FACE_LIVE) != 0) {
+            face.active &= ~(FACE_OUTSIDE | FACE_BACK | FACE_LIT);
+        }
+    }
+}
+
+} // namespace ombrel

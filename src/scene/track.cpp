@@ -1,0 +1,155 @@
+// Camera tracks: reading the keys, and the spline that moves the camera along them frame by frame.
+// A segment runs from key s + 1 to key s + 2; key s only shapes its tangents.
+#include <cstdio>
+#include <string>
+
+#include "base/data_file.h"
+#include "base/parse_number.h"
+#include "scene/camera.h"
+
+namespace ombrel {
+
+constinit std::int32_t trackSegment = 0;
+constinit float trackT = 0.0F;
+
+void ResetTrackState() {
+    trackSegment = 0;
+    trackT = 0.0F;
+}
+
+namespace {
+
+constexpr std::int32_t kColumns = 11;
+constexpr char kLinePattern[] = "%f, %f, %f;\t%f, %f, %f;\t%f, %f, %f;\t%f;\t%f;\n";
+constexpr std::size_t kMaxFileSize = std::size_t{16} << 20; // bytes; far above any true track
+
+bool IsBlank(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+// The whole text of a file; empty when there is none. A zero byte in it ends the text.
+std::string ReadText(const char* path) {
+    std::string text;
+    std::FILE* file = OpenDataFile(path, "r");
+    if (file == nullptr) {
+        return text;
+    }
+    char block[4096];
+    std::size_t length = 0;
+    while (text.size() < kMaxFileSize && (length = std::fread(block, 1, sizeof block, file)) > 0) {
+        text.append(block, length);
+    }
+    std::fclose(file);
+    return text;
+}
+
+// One reading of the line pattern, from *text on, which moves behind what matched. Returns how many
+// columns were read; the others are left alone.
+std::int32_t ReadColumns(const char** text, float columns[kColumns]) {
+    std::int32_t read = 0;
+    const char* p = *text;
+    for (const char* pattern = kLinePattern; *pattern != '\0'; ++pattern) {
+        if (IsBlank(*pattern)) {
+            // Any blanks match, none too.
+            while (IsBlank(*p)) {
+                ++p;
+            }
+        } else if (*pattern == '%') {
+            ++pattern;
+            const char* end = p;
+            const float value = ParseFloat(p, &end);
+            if (end == p) {
+                break;
+            }
+            columns[read++] = value;
+            p = end;
+        } else if (*p == *pattern) {
+            ++p;
+        } else {
+            break;
+        }
+    }
+    *text = p;
+    return read;
+}
+
+// REQUIRED R29: the first three columns are stored in reverse.
+void StoreKey(Camera* key, const float columns[kColumns]) {
+    key->keyBias = columns[0];
+    key->keyContinuity = columns[1];
+    key->tension = columns[2];
+    key->position = {columns[3], columns[4], columns[5], 1.0F};
+    key->angles = {columns[6], columns[7], columns[8], 1.0F};
+    key->key.fov = columns[9];
+    key->key.step = columns[10];
+}
+
+// Hermite basis at one place of a segment, and the shape of its tangents.
+struct Spline {
+    float u, u2, u3;
+    float bias, continuity, tension;
+};
+
+// From p1 to p2. REQUIRED R30: both tangents come from the two differences about p1; the key behind
+// p2 has no say.
+float Interpolate(const Spline& s, float p0, float p1, float p2) {
+    const float d0 = (p1 - p0) * (1.0F + s.bias);
+    const float d1 = (p2 - p1) * (1.0F - s.bias) - d0;
+    const float g = 1.0F - s.tension;
+    const float m0 = ((1.0F + s.continuity) * d1 * 0.5F + d0) * g;
+    const float m1 = ((1.0F - s.continuity) * d1 * 0.5F + d0) * g;
+    return (s.u3 - 2.0F * s.u2 + s.u) * m0 + (s.u3 - s.u2) * m1 +
+           (2.0F * s.u3 - 3.0F * s.u2 + 1.0F) * p1 + (3.0F - 2.0F * s.u) * s.u * s.u * p2;
+}
+
+} // namespace
+
+std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
+    const std::string text = ReadText(path);
+    const char* p = text.c_str();
+    // REQUIRED R39: columns that a read does not reach keep what the read before left in them.
+    float columns[kColumns] = {};
+    std::int32_t count = 0;
+    while (count < capacity && ReadColumns(&p, columns) > 0) {
+        StoreKey(&keys[count], columns);
+        ++count;
+    }
+    return count;
+}
+
+std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count) {
+    if (count < 3) {
+        trackSegment = 0;
+        return trackSegment;
+    }
+
+    // Go on to the next segment. REQUIRED R31: what the last step went too far is dropped.
+    if (trackT >= 1.0F) {
+        trackSegment += 1;
+        trackT = 0.0F;
+    }
+    if (trackSegment > count - 3) {
+        trackSegment = 0;
+    }
+
+    // Interpolate position, angles and field of view.
+    const Camera& k0 = keys[trackSegment];
+    const Camera& k1 = keys[trackSegment + 1];
+    const Camera& k2 = keys[trackSegment + 2];
+    const float u = trackT;
+    const float u2 = u * u;
+    const Spline spline = {u, u2, u2 * u, k1.keyBias, k1.keyContinuity, k1.tension};
+    camera->position.x = Interpolate(spline, k0.position.x, k1.position.x, k2.position.x);
+    camera->position.y = Interpolate(spline, k0.position.y, k1.position.y, k2.position.y);
+    camera->position.z = Interpolate(spline, k0.position.z, k1.position.z, k2.position.z);
+    camera->angles.x = Interpolate(spline, k0.angles.x, k1.angles.x, k2.angles.x);
+    camera->angles.y = Interpolate(spline, k0.angles.y, k1.angles.y, k2.angles.y);
+    camera->angles.z = Interpolate(spline, k0.angles.z, k1.angles.z, k2.angles.z);
+    CameraSetFov(camera, Interpolate(spline, k0.key.fov, k1.key.fov, k2.key.fov));
+
+    // Step on.
+    trackT += k1.key.step > 0.0F ? k1.key.step : 0.02F;
+    return trackSegment;
+}
+
+} // namespace ombrel
