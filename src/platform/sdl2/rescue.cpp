@@ -1,0 +1,75 @@
+// The ways out that are not the end of the loop: a crash puts the desktop back and then dies as it
+// would have; a request to end from outside becomes the destroy message.
+#include <signal.h>
+#include <unistd.h>
+
+#include <cstdint>
+
+#include "platform/sdl2/sdl2_state.h"
+
+namespace ombrel {
+
+namespace {
+
+constexpr int kCrashes[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGSYS};
+constexpr int kRequests[] = {SIGINT, SIGTERM, SIGHUP};
+constexpr unsigned kSecondsToRescue = 2;
+constexpr std::size_t kStackSize = 1 << 16;
+
+struct CrashHandler {
+    int signal;
+    struct sigaction before;
+};
+constinit CrashHandler handlers[sizeof kCrashes / sizeof kCrashes[0]]{};
+constinit volatile sig_atomic_t endRequested = 0;
+alignas(16) constinit unsigned char rescueStack[kStackSize]{};
+
+void OnCrash(int signal) {
+    // Whoever crashed may hold a lock that is needed here: then the alarm ends the process.
+    alarm(kSecondsToRescue);
+    for (const CrashHandler& handler : handlers) {
+        sigaction(handler.signal, &handler.before, nullptr);
+    }
+    SDL_ShowCursor(SDL_ENABLE);
+    SDL_EnableScreenSaver();
+    SDL_VideoQuit(); // full screen and grabs end with the window
+    alarm(0);
+    raise(signal); // waits until this handler returns, then does what it would have done
+}
+
+void OnRequest(int signal) {
+    if (endRequested != 0) {
+        ::signal(signal, SIG_DFL);
+        raise(signal);
+    }
+    endRequested = 1;
+}
+
+} // namespace
+
+void InstallRescue() {
+    // A stack of its own, for the crash that ran out of one.
+    stack_t stack{};
+    stack.ss_sp = rescueStack;
+    stack.ss_size = kStackSize;
+    sigaltstack(&stack, nullptr);
+
+    struct sigaction action {};
+    action.sa_handler = OnCrash;
+    action.sa_flags = SA_ONSTACK;
+    for (std::size_t i = 0; i < sizeof kCrashes / sizeof kCrashes[0]; ++i) {
+        handlers[i].signal = kCrashes[i];
+        sigaction(kCrashes[i], &action, &handlers[i].before);
+    }
+    action.sa_handler = OnRequest;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : kRequests) {
+        sigaction(signal, &action, nullptr);
+    }
+}
+
+bool EndRequested() {
+    return endRequested != 0;
+}
+
+} // namespace ombrel
