@@ -45,8 +45,8 @@ int DrawLine(const Line2d& line, Pixel16 color, Pixel16* pixels, std::int32_t pi
     const std::int32_t dx = line.x1 >= line.x0 ? line.x1 - line.x0 : line.x0 - line.x1;
     const std::int32_t dy = line.y1 >= line.y0 ? line.y1 - line.y0 : line.y0 - line.y1;
 
-    // The longer direction is stepped for every pixel, the other when the error says so. The exact
-    // diagonal counts as steep.
+    // The longer direction is stepped for every pixel, the other when the error says so.
+    // REQUIRED R48: the exact diagonal counts as steep.
     const bool steep = dx <= dy;
     const std::int32_t longer = steep ? dy : dx;
     const std::int32_t shorter = steep ? dx : dy;

@@ -21,8 +21,9 @@ struct World {
     std::int32_t objectCounter;     // index of the last scene-list object; 11 when there is none
     Camera camera;
     Light lights[kMaxLights];
-    std::uint32_t* depth;    // screenWidth * screenHeight cells
-    std::int32_t depthPitch; // bytes
+    std::uint32_t* depth;     // screenWidth * screenHeight cells
+    std::int32_t depthPitch;  // bytes
+    std::int32_t pitchPixels; // row step of the locked frame; set by start-up and every frame
 };
 extern World world;
 extern FaceList sceneFaces;

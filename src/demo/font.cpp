@@ -1,0 +1,108 @@
+// Cutting font sheets into surfaces and drawing text with them.
+#include "demo/font.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+#include "assets/bmp.h"
+#include "base/convert.h"
+
+namespace ombrel {
+
+namespace {
+
+constexpr std::int32_t kColumns = 16;
+constexpr std::uint32_t kKeyColor = 0;
+
+// The part of a sheet that belongs to a character, cut to the sheet.
+Rect CellOf(std::int32_t code, const BmpInfoHeader& sheet) {
+    Rect cell;
+    cell.left = code % kColumns * (kGlyphWidth + 1) + 1;
+    cell.top = code / kColumns * (kGlyphHeight + 1) + 1;
+    cell.right = std::min(cell.left + kGlyphWidth, sheet.width);
+    cell.bottom = std::min(cell.top + kGlyphHeight, sheet.height);
+    return cell;
+}
+
+void FillFrame(GlyphSet* set, std::int32_t code, const BmpImage& sheet) {
+    FrameBuffer memory{};
+    if (!LockSurface(set->frames[code], &memory)) {
+        return;
+    }
+    const Rect cell = CellOf(code, sheet.infoHeader);
+    const std::size_t columns = static_cast<std::size_t>(std::max(cell.right - cell.left, 0));
+    const std::size_t sheetPitch = static_cast<std::size_t>(sheet.infoHeader.width) * 2;
+    for (std::int32_t y = 0; y < kGlyphHeight; ++y) {
+        Pixel16* const row = memory.pixels + static_cast<std::ptrdiff_t>(y) * (memory.pitch / 2);
+        std::memset(row, 0, kGlyphWidth * sizeof(Pixel16));
+        if (cell.top + y < cell.bottom && columns > 0) {
+            const std::size_t from = static_cast<std::size_t>(cell.top + y) * sheetPitch +
+                                     static_cast<std::size_t>(cell.left) * 2;
+            std::memcpy(row, sheet.pixels + from, columns * sizeof(Pixel16));
+        }
+    }
+    UnlockSurface(set->frames[code]);
+    set->attributes |= GLYPHS_FILLED;
+}
+
+// Blits the current frame at the set's position.
+void DrawFrame(const GlyphSet& set, Surface* surface) {
+    if ((set.attributes & GLYPHS_VISIBLE) == 0) {
+        return;
+    }
+    Rect target;
+    target.left = ToIntChop(set.x);
+    target.top = ToIntChop(set.y);
+    target.right = target.left + set.width;
+    target.bottom = target.top + set.height;
+    BlitKeyed(surface, &target, set.frames[set.currentFrame]);
+}
+
+} // namespace
+
+int LoadGlyphSet(const char* path, GlyphSet* set) {
+    if (!loadBmp(&fontImage, path) || fontImage.infoHeader.bitCount != 16) {
+        return 0;
+    }
+    ReleaseGlyphSet(set);
+    set->width = kGlyphWidth;
+    set->height = kGlyphHeight;
+    set->frameCount = kGlyphCount;
+    set->attributes = kGlyphAttributesAtStart;
+    for (std::int32_t code = 0; code < kGlyphCount; ++code) {
+        set->frames[code] =
+            MakeOffscreenSurface(kGlyphWidth, kGlyphHeight, SurfaceMemory::System, kKeyColor);
+    }
+    for (std::int32_t code = 0; code < kGlyphCount; ++code) {
+        FillFrame(set, code, fontImage);
+    }
+    return 1;
+}
+
+void ReleaseGlyphSet(GlyphSet* set) {
+    for (Surface* const frame : set->frames) {
+        ReleaseSurface(frame);
+    }
+    *set = GlyphSet{};
+}
+
+std::int32_t DrawGlyphText(GlyphSet* set, const TextPlace& place, const char* text,
+                           Surface* surface) {
+    if (text == nullptr || surface == nullptr || *text == '\0') {
+        return 0;
+    }
+    float x = place.x;
+    std::int32_t width = 0;
+    for (const char* p = text; *p != '\0'; ++p) {
+        set->x = x;
+        set->y = place.y;
+        set->currentFrame = static_cast<unsigned char>(*p);
+        DrawFrame(*set, surface);
+        x += static_cast<float>(place.advance);
+        width += place.advance;
+    }
+    return width;
+}
+
+} // namespace ombrel

@@ -1,0 +1,36 @@
+// Calls the reset of every folder.
+#include "demo/reset.h"
+
+#include "assets/mesh.h"
+#include "assets/object_loader.h"
+#include "base/float_mode.h"
+#include "base/pixel16.h"
+#include "base/random15.h"
+#include "base/rect.h"
+#include "base/shell_state.h"
+#include "demo/world.h"
+#include "math/vec3.h"
+#include "platform/display.h"
+#include "platform/sound.h"
+#include "raster/blend_tables.h"
+#include "scene/camera.h"
+
+namespace ombrel {
+
+void ResetWorld() {
+    ResetDemo();
+    ResetTrackState();
+    ResetMaterials();
+    ResetObjectLoader();
+    ResetBlendTables();
+    ResetTrigTables();
+    ResetDisplayState();
+    ResetDisplayFormat();
+    ResetClipRect();
+    ResetRandom15();
+    ResetShellState();
+    UseSoundCalls(nullptr);
+    SetFloatMode(FloatMode::Nearest);
+}
+
+} // namespace ombrel

@@ -1,0 +1,32 @@
+// What both scenes do in a frame: gather the faces of their objects, bring them to the screen and
+// draw them. Each scene calls these in its own order.
+#pragma once
+
+#include <cstdint>
+
+#include "demo/world.h"
+#include "platform/display.h"
+
+namespace ombrel {
+
+// One step of a big slow object (the skies, the stand): reset, then -0.02 degrees about Y, which
+// adds up from frame to frame.
+void TurnObject(Mesh* object);
+// Puts an object into the world at its position and adds its faces.
+void AddObject(FaceList* list, Mesh* object);
+// The same, if its bounding sphere is in sight.
+void AddObjectInSight(FaceList* list, Mesh* object, const Camera& camera);
+// The field: gridSize x gridSize places 1000 apart around the origin, without the four corners, the
+// same object at each that is in sight. An odd size counts as the even one below it.
+void AddGroundTiles(FaceList* list, Mesh* tile, const Camera& camera, std::int32_t gridSize);
+// The scene-list objects in sight but the last; the third and second before the end turn.
+void AddListObjects(FaceList* list, World* scene);
+
+// Back faces, lights, camera space, clipping, order and projection, as the switches have it.
+void RunFacePipeline(FaceList* list, World* scene, const SceneSwitches& set);
+
+enum class View { Nothing, Dots, Wire, Filled };
+// Draws the mapped list into the locked back surface; does nothing when it is not locked.
+void DrawView(FaceList* list, World* scene, View view);
+
+} // namespace ombrel

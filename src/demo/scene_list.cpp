@@ -1,0 +1,183 @@
+// Reading the scene list. The scanner is our own, so that every system reads a list alike.
+#include "demo/scene_list.h"
+
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "assets/object_loader.h"
+#include "base/data_file.h"
+#include "base/parse_number.h"
+#include "scene/mesh_transform.h"
+
+namespace ombrel {
+
+namespace {
+
+// A number longer than this is cut: what is left out is used up but does not count.
+constexpr std::int32_t kMaxNumber = 127;
+
+constexpr std::uint32_t kListOptions =
+    LOAD_SWAP_YZ | LOAD_MIRROR_V | LOAD_OBJECT_FRAME | LOAD_TRANSFORM;
+static_assert(kListOptions == 0x708);
+
+bool IsBlank(char c) {
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+void SkipBlanks(SceneListText* text) {
+    while (text->at < text->end && IsBlank(*text->at)) {
+        ++text->at;
+    }
+}
+
+bool ReadWord(SceneListText* text, char* word, std::int32_t capacity) {
+    SkipBlanks(text);
+    if (text->at == text->end) {
+        return false;
+    }
+    std::int32_t length = 0;
+    for (; text->at < text->end && !IsBlank(*text->at); ++text->at) {
+        if (length < capacity) {
+            word[length++] = *text->at;
+        }
+    }
+    word[length] = '\0';
+    return true;
+}
+
+// The characters of a number as they are used up.
+struct NumberText {
+    char characters[kMaxNumber + 1];
+    std::int32_t length;
+};
+
+void TakeCharacter(SceneListText* text, NumberText* number) {
+    if (number->length < kMaxNumber) {
+        number->characters[number->length++] = *text->at;
+    }
+    ++text->at;
+}
+
+bool NextIs(const SceneListText& text, char a, char b) {
+    return text.at < text.end && (*text.at == a || *text.at == b);
+}
+
+std::int32_t TakeDigits(SceneListText* text, NumberText* number) {
+    std::int32_t digits = 0;
+    while (text->at < text->end && IsDigit(*text->at)) {
+        TakeCharacter(text, number);
+        ++digits;
+    }
+    return digits;
+}
+
+bool ReadNumber(SceneListText* text, float* value) {
+    NumberText number{};
+    SkipBlanks(text);
+    if (NextIs(*text, '+', '-')) {
+        TakeCharacter(text, &number);
+    }
+    std::int32_t digits = TakeDigits(text, &number);
+    if (NextIs(*text, '.', '.')) {
+        TakeCharacter(text, &number);
+        digits += TakeDigits(text, &number);
+    }
+    if (digits == 0) {
+        return false;
+    }
+    if (NextIs(*text, 'e', 'E')) {
+        TakeCharacter(text, &number);
+        if (NextIs(*text, '+', '-')) {
+            TakeCharacter(text, &number);
+        }
+        if (TakeDigits(text, &number) == 0) {
+            return false;
+        }
+    }
+    *value = ParseFloat(number.characters, nullptr);
+    return true;
+}
+
+bool SkipLiteral(SceneListText* text, char literal) {
+    if (!NextIs(*text, literal, literal)) {
+        return false;
+    }
+    ++text->at;
+    return true;
+}
+
+std::string ReadWholeFile(const char* path) {
+    std::string content;
+    std::FILE* const file = OpenDataFile(path, "r");
+    if (file == nullptr) {
+        return content;
+    }
+    char block[4096];
+    for (std::size_t n = 0; (n = std::fread(block, 1, sizeof block, file)) > 0;) {
+        content.append(block, n);
+    }
+    std::fclose(file);
+    return content;
+}
+
+bool FileExists(const char* path) {
+    std::FILE* const file = OpenDataFile(path, "r");
+    if (file == nullptr) {
+        return false;
+    }
+    std::fclose(file);
+    return true;
+}
+
+void LoadSceneObject(Mesh* mesh, const SceneLine& line) {
+    const float* const v = line.values;
+    const float scale[3] = {v[0] * 0.1F, v[1] * 0.1F, v[2] * 0.1F};
+    const Vec3 position{v[3] * 0.1F, v[4] * 0.1F, v[5] * 0.1F, 1.0F};
+    const Vec3 reserved{0.0F, 0.0F, 0.0F, 1.0F};
+    loadObject(mesh, line.path, LoadRequest{scale, &position, &reserved, kListOptions, 0});
+    MeshRotate(mesh, v[6], v[7], v[8], 0);
+}
+
+} // namespace
+
+std::int32_t ReadSceneLine(SceneListText* text, SceneLine* line) {
+    if (!ReadWord(text, line->path, kMaxScenePath)) {
+        return -1;
+    }
+    // REQUIRED R47: what is not reached keeps the value of the read before.
+    for (std::int32_t i = 0; i < 9; ++i) {
+        // Each number skips blanks before itself, which covers the blanks of the pattern.
+        if (!ReadNumber(text, &line->values[i])) {
+            return 1 + i;
+        }
+        if (!SkipLiteral(text, i % 3 == 2 ? ';' : ',')) {
+            return 2 + i;
+        }
+    }
+    SkipBlanks(text);
+    return 10;
+}
+
+void LoadSceneList(World* destination, const char* path) {
+    const std::string content = ReadWholeFile(path);
+    SceneListText text{content.data(), content.data() + content.size()};
+    SceneLine line{};
+    while (destination->objectCounter < kMaxSceneObjects - 1 && ReadSceneLine(&text, &line) >= 0) {
+        // A "#" anywhere in the path makes the line a comment; its numbers were read all the same.
+        if (std::strchr(line.path, '#') != nullptr || !FileExists(line.path)) {
+            continue;
+        }
+        LoadSceneObject(&destination->objects[destination->objectCounter + 1], line);
+        ++destination->objectCounter;
+    }
+    Mesh* const last = &destination->objects[destination->objectCounter];
+    for (std::int32_t i = 0; i < last->faceCount; ++i) {
+        last->faces[i].flags |= FACE_TWO_SIDED;
+    }
+}
+
+} // namespace ombrel

@@ -1,0 +1,138 @@
+// Scene one, step by step.
+#include "demo/scene_one.h"
+
+#include "base/convert.h"
+#include "base/shell_state.h"
+#include "demo/blur.h"
+#include "demo/font.h"
+#include "demo/scene_frame.h"
+#include "demo/texts.h"
+#include "platform/display.h"
+
+namespace ombrel {
+
+namespace {
+
+constexpr float kStartFov = 146.5F;
+constexpr std::int32_t kLights = 2;
+constexpr std::int32_t kLastSegment = 31; // the next one belongs to scene two
+constexpr std::int32_t kBuildOrder = 4;
+
+constexpr float kFadeEnd = 128.4F; // for the green of light 0
+constexpr float kAmbientStep[3] = {0.225F, 0.2F, 0.225F};
+constexpr float kLightStep[3] = {0.3609375F, 0.3421875F, 0.2703125F};
+
+constexpr float kBoxSide = 3500.0F; // |x|, |z| and y stay below it
+constexpr float kBoxFloor = -100.0F;
+constexpr std::int32_t kGridInside = 8;
+constexpr std::int32_t kGridOutside = 6;
+constexpr std::uint32_t kWhite = 0xFFFF;
+
+constexpr TextPlace kTitlePlace{210.0F, 200.0F, 20};
+constexpr TextPlace kSubtitlePlace{100.0F, 240.0F, 12};
+
+void Start() {
+    sceneOne.started = true;
+    switches.blur = -1;
+    sceneOne.keyCount = TrackLoad("./data/cam/scene1.trk", sceneOne.keys, kMaxTrackKeys);
+    switches.cameraRunning = 1;
+    sceneOne.titleDone = false;
+    CameraSetFov(&world.camera, kStartFov);
+    switches.lightCount = kLights;
+}
+
+std::uint32_t PackFade(const float fade[3]) {
+    return PackLightColor(static_cast<std::uint32_t>(ToIntChop(fade[0])),
+                          static_cast<std::uint32_t>(ToIntChop(fade[1])),
+                          static_cast<std::uint32_t>(ToIntChop(fade[2])));
+}
+
+void FadeLights() {
+    if (sceneOne.ambientFade[1] > kFadeEnd) {
+        sceneOne.titleDone = true;
+        return;
+    }
+    world.lights[0].ambientColor = PackFade(sceneOne.ambientFade);
+    world.lights[1].lightColor = PackFade(sceneOne.lightFade);
+    for (int i = 0; i < 3; ++i) {
+        sceneOne.ambientFade[i] += kAmbientStep[i];
+        sceneOne.lightFade[i] += kLightStep[i];
+    }
+}
+
+// REQUIRED R43: the eye is that of the frame before; the camera moves later in the frame.
+void TestBox() {
+    const Vec3& eye = world.camera.position;
+    sceneOne.insideBox = eye.x > -kBoxSide && eye.x < kBoxSide && eye.y > kBoxFloor &&
+                         eye.y < kBoxSide && eye.z > -kBoxSide && eye.z < kBoxSide;
+    sceneOne.gridSize = sceneOne.insideBox ? kGridInside : kGridOutside;
+    if (!sceneOne.insideBox) {
+        FillSurface(display.backSurface, kWhite, nullptr);
+    }
+}
+
+void MoveCamera() {
+    if (switches.cameraRunning != 0) {
+        const std::int32_t segment = TrackSample(&world.camera, sceneOne.keys, sceneOne.keyCount);
+        if (segment > kLastSegment) {
+            ++frame.sceneIndex;
+        }
+    }
+    CameraBuildView(&world.camera, kBuildOrder);
+}
+
+void GatherObjects() {
+    if (sceneOne.insideBox) {
+        TurnObject(&world.sky);
+        AddObjectInSight(&sceneFaces, &world.sky, world.camera);
+    }
+    AddGroundTiles(&sceneFaces, &world.ground, world.camera, sceneOne.gridSize);
+    AddListObjects(&sceneFaces, &world);
+    if (!sceneOne.insideBox) {
+        TurnObject(&world.stay);
+        AddObject(&sceneFaces, &world.stay);
+        TurnObject(&world.skyAlpha0);
+        AddObject(&sceneFaces, &world.skyAlpha0);
+    }
+}
+
+View ChooseView() {
+    if (switches.renderMode1 == 0) {
+        return View::Dots;
+    }
+    if (switches.renderMode1 == 1 && switches.renderMode2 == 0) {
+        return View::Wire;
+    }
+    return switches.renderMode1 == 1 && switches.renderMode2 == 1 ? View::Filled : View::Nothing;
+}
+
+// Places are fixed pixels, whatever the resolution.
+void DrawTitles() {
+    DrawGlyphText(&fonts.big, kTitlePlace, kTitleText, display.backSurface);
+    DrawGlyphText(&fonts.small, kSubtitlePlace, kSubtitleText, display.backSurface);
+}
+
+} // namespace
+
+void SceneOne() {
+    if (!sceneOne.started) {
+        Start();
+    }
+    FadeLights();
+    TestBox();
+    FaceListClear(&sceneFaces);
+    MoveCamera();
+    GatherObjects();
+    RunFacePipeline(&sceneFaces, &world, switches);
+    LockFrame();
+    DrawView(&sceneFaces, &world, ChooseView());
+    if (switches.blur == 1) {
+        BlurFrame(display.back.pixels, world.pitchPixels, shell.screenWidth, shell.screenHeight);
+    }
+    UnlockFrame();
+    if (!sceneOne.titleDone) {
+        DrawTitles();
+    }
+}
+
+} // namespace ombrel

@@ -1,0 +1,28 @@
+// Scene one: the flight along the first track, while the light rises from black and the title
+// stands over it. The frame driver calls it for every frame with scene index 0.
+#pragma once
+
+#include <cstdint>
+
+#include "demo/world.h"
+
+namespace ombrel {
+
+inline constexpr std::int32_t kMaxTrackKeys = 1024; // of each track; later keys are not read
+
+// Written and read by SceneOne alone.
+struct SceneOneState {
+    bool started;
+    bool insideBox;
+    bool titleDone;
+    std::int32_t gridSize; // of the field of ground tiles: 8 inside the box, 6 outside
+    float ambientFade[3];  // red, green, blue of light 0, from 0
+    float lightFade[3];    // of light 1
+    Camera keys[kMaxTrackKeys];
+    std::int32_t keyCount;
+};
+extern SceneOneState sceneOne;
+
+void SceneOne(); // one frame; raises frame.sceneIndex in the frame that passes key 31
+
+} // namespace ombrel

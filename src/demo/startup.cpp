@@ -1,0 +1,204 @@
+// Start-up and shut-down, step by step.
+#include "demo/startup.h"
+
+#include <cstddef>
+#include <cstdlib>
+
+#include "assets/object_loader.h"
+#include "base/random15.h"
+#include "base/shell_state.h"
+#include "demo/font.h"
+#include "demo/scene_list.h"
+#include "demo/soundtrack.h"
+#include "demo/world.h"
+#include "platform/display.h"
+#include "platform/system.h"
+#include "raster/blend_tables.h"
+#include "scene/mesh_transform.h"
+
+namespace ombrel {
+
+namespace {
+
+constexpr std::int32_t kBitsPerPixel = 16;
+constexpr std::uint32_t kRandomSeed = 564546;
+constexpr std::uint32_t kDepthFormat = 32;
+
+constexpr Vec3 kOrigin{0.0F, 0.0F, 0.0F, 1.0F};
+constexpr std::int32_t kCameraMode = 8;
+constexpr float kNear = 1.0F;
+constexpr float kFar = 15000.0F;
+constexpr float kFov = 90.0F;
+
+constexpr std::uint32_t kFixedOptions = LOAD_SWAP_XZ | LOAD_OBJECT_FRAME | LOAD_TRANSFORM;
+static_assert(kFixedOptions == 0x610);
+constexpr float kGroundShift = 50.0F;
+
+// The fixed objects, in the order in which they are loaded.
+struct FixedObject {
+    Mesh World::*mesh;
+    const char* path;
+    float scale[3];
+    Vec3 position;
+    bool shifted; // the x of its vertex 0 grows by kGroundShift
+};
+// clang-format off
+constexpr FixedObject kFixedObjects[] = {
+    {&World::sky,         "./data/3d/sky-sphere-04.cob",          {1000.0F, 1000.0F, 1000.0F}, {0.0F, 2000.0F, 0.0F, 1.0F}, false},
+    {&World::skyAlpha0,   "./data/3d/sky-sphere-04-alpha0.cob",   {1000.0F, 1000.0F, 1000.0F}, {0.0F, 2000.0F, 0.0F, 1.0F}, false},
+    {&World::skyAlphaS2,  "./data/3d/sky-sphere-04-alpha-s2.cob", {1000.0F, 1000.0F, 1000.0F}, {0.0F, 2000.0F, 0.0F, 1.0F}, false},
+    {&World::stay,        "./data/3d/stay-01.cob",                {1100.0F, 1100.0F, 1100.0F}, {0.0F, -560.0F, 0.0F, 1.0F}, false},
+    {&World::ground,      "./data/3d/ground-lowpoly-03.cob",      {  80.0F,  125.0F,  125.0F}, {0.0F,    0.0F, 0.0F, 1.0F}, true},
+    {&World::groundAlpha, "./data/3d/ground-lowpoly-03-alpha.cob",{  80.0F,  125.0F,  125.0F}, {0.0F,    0.0F, 0.0F, 1.0F}, true},
+};
+
+struct LightRow {
+    std::uint32_t kind;
+    std::uint32_t ambientColor, lightColor;
+    Vec3 position, direction;
+    float c1, exponent;
+};
+constexpr Vec3 kNone{0.0F, 0.0F, 0.0F, 0.0F};
+constexpr Vec3 kSun{1.0F, 0.8F, 1.0F, 1.0F};
+constexpr Vec3 kAbove{0.0F, 1000.0F, 0.0F, 1.0F};
+constexpr LightRow kLights[] = {
+    // kind             ambient                       light                         position direction c1      exponent
+    {LIGHT_AMBIENT,     PackLightColor(140, 134, 107), 0,                            kNone,   kNone,   0.0F,   0.0F},
+    {LIGHT_DIRECTIONAL, 0,                            PackLightColor(231, 219, 173), kNone,   kSun,    0.0F,   0.0F},
+    {LIGHT_POINT,       0,                            PackLightColor(255, 128, 0),   kAbove,  kNone,   0.001F, 1.0F},
+    {LIGHT_POINT,       0,                            PackLightColor(0, 0, 255),     kAbove,  kNone,   0.001F, 1.0F},
+    {LIGHT_POINT,       0,                            PackLightColor(255, 0, 0),     kAbove,  kNone,   0.001F, 1.0F},
+    {LIGHT_POINT,       0,                            PackLightColor(255, 0, 0),     kAbove,  kNone,   0.001F, 1.0F},
+};
+// clang-format on
+
+void SetUpCamera() {
+    CameraSetup setup{};
+    setup.mode = kCameraMode;
+    setup.position = kOrigin;
+    setup.angles = kOrigin;
+    setup.target = &kOrigin;
+    setup.zNear = kNear;
+    setup.zFar = kFar;
+    setup.fov = kFov;
+    setup.screenWidth = static_cast<float>(shell.screenWidth);
+    setup.screenHeight = static_cast<float>(shell.screenHeight);
+    CameraInit(&world.camera, setup);
+    startUp.marker = {20.0F, 20.0F, 20.0F, 1.0F};
+}
+
+void SetUpLights() {
+    ClearLights(world.lights, kMaxLights);
+    std::int32_t number = 0;
+    for (const LightRow& row : kLights) {
+        Light values{};
+        values.enabled = 1;
+        values.kind = row.kind;
+        values.ambientColor = row.ambientColor;
+        values.lightColor = row.lightColor;
+        values.sourcePosition = row.position;
+        values.sourceDirection = row.direction;
+        values.c1 = row.c1;
+        values.exponent = row.exponent;
+        SetLight(&world.lights[number++], values);
+    }
+}
+
+void LoadFixedObject(const FixedObject& object) {
+    Mesh* const mesh = &(world.*object.mesh);
+    loadObject(mesh, object.path,
+               LoadRequest{object.scale, &object.position, &kOrigin, kFixedOptions, 0});
+    MeshRotate(mesh, 0.0F, 0.0F, 90.0F, 0);
+    // REQUIRED R40: vertex 0 of the ground objects stands 50 to the side of where its file has it.
+    if (object.shifted && mesh->slotCount > 0 && mesh->curVertices != nullptr &&
+        mesh->curTransformed != nullptr) {
+        mesh->curVertices[0].x += kGroundShift;
+        mesh->curTransformed[0].x += kGroundShift;
+    }
+}
+
+void LoadLightMarker() {
+    constexpr float kScale[3] = {100.0F, 100.0F, 100.0F};
+    Mesh* const mesh = &world.lightMarker;
+    loadObject(mesh, "./data/3d/light_debug.cob",
+               LoadRequest{kScale, &kOrigin, &kOrigin, kFixedOptions, 0});
+    for (std::int32_t i = 0; i < mesh->faceCount; ++i) {
+        if (IsDrawable(mesh->faces[i].active)) {
+            mesh->faces[i].color = displayFormat.pack(0, 0, 0);
+        }
+    }
+}
+
+void ParkCursor() {
+    MoveMouseCursor(shell.screenCenterX, shell.screenCenterY);
+    frame.sceneIndex = 0;
+    world.pitchPixels = display.back.pitch / 2;
+    ReadMouseCursor(&startUp.cursorX, &startUp.cursorY);
+    if (switches.hideCursor == 1) {
+        ShowMouseCursor(false);
+    }
+}
+
+} // namespace
+
+void* AllocateDepthBuffer(std::int32_t width, std::int32_t height, std::uint32_t formatBit) {
+    if ((formatBit != 16 && formatBit != 32) || width < 1 || height < 1) {
+        return nullptr;
+    }
+    return std::calloc(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
+                       formatBit / 8);
+}
+
+int StartUp() {
+    // Take the screen. What cannot be had is done without.
+    EnableScreenSaver(false);
+    OpenDisplay(shell.screenWidth, shell.screenHeight, kBitsPerPixel, shell.windowed, 0);
+    if (!shell.windowed) {
+        ShowMouseCursor(false);
+    }
+
+    // Make the numbers and tables; these round to nearest.
+    SeedRandom15(kRandomSeed);
+    InitTrigTables();
+    SetUpCamera();
+    SetUpLights();
+    world.depth = static_cast<std::uint32_t*>(
+        AllocateDepthBuffer(shell.screenWidth, shell.screenHeight, kDepthFormat));
+    world.depthPitch = shell.screenWidth * 4;
+    BuildBlendTables(kBlendTableCount, BlendTables[0]);
+
+    // From here on everything is cut toward zero.
+    SetRenderFloatMode();
+
+    // Load.
+    for (const FixedObject& object : kFixedObjects) {
+        LoadFixedObject(object);
+    }
+    LoadSceneList(&world, "./data/scene1.po");
+    LoadLightMarker();
+    LoadGlyphSet("./data/2d/font-48.bmp", &fonts.big);
+    LoadGlyphSet("./data/2d/font-48-16px.bmp", &fonts.small);
+
+    ParkCursor();
+    startUp.cameraStart = (180.0F - world.camera.fov) * 0.3F * (1.0F / 90.0F);
+    switches.cameraRunning = 0;
+
+    if (!shell.noSound) {
+        StartSoundtrack();
+    }
+    frame.demoStartTick = TickCount();
+    return 1;
+}
+
+void ShutDown() {
+    CloseDisplay();
+    EnableScreenSaver(true);
+    if (shell.windowed) {
+        RestoreDesktopDepth();
+    }
+    if (!shell.noSound) {
+        StopSoundtrack();
+    }
+}
+
+} // namespace ombrel
