@@ -3,8 +3,8 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2 SDL2_mixer)
 find_package(PNG REQUIRED)
 
-ombrel_library(platform/offscreen ombrel_platform_soft)
-ombrel_library(platform/sdl2 ombrel_platform_soft PkgConfig::SDL2)
+ombrel_back_end(offscreen SOFT)
+ombrel_back_end(sdl2 SOFT PkgConfig::SDL2)
 
 # A program of ours: its main file and the libraries behind it, the back end last.
 function(ombrel_program name source)

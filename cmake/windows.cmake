@@ -3,9 +3,8 @@
 enable_language(RC)
 add_link_options(-static -s -Wl,--no-insert-timestamp)
 
-ombrel_library(platform/offscreen ombrel_platform_soft)
-ombrel_library(platform/win32 ombrel_platform)
-target_link_libraries(ombrel_platform_win32 PUBLIC ddraw dxguid winmm gdi32 user32)
+ombrel_back_end(offscreen SOFT)
+ombrel_back_end(win32 OWN ddraw dxguid winmm gdi32 user32)
 
 # The data stands beside the program, as it ships.
 file(CREATE_LINK ${CMAKE_SOURCE_DIR}/data ${CMAKE_BINARY_DIR}/data SYMBOLIC)
