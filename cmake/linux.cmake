@@ -16,10 +16,10 @@ function(ombrel_program name source)
   target_link_libraries(${name} PRIVATE ombrel_flags ${ARGN})
 endfunction()
 
-ombrel_program(larkfen src/app/entry_sdl2.cpp ombrel_app ombrel_platform_sdl2)
-ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_platform_offscreen PNG::PNG)
-ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_platform_offscreen PNG::PNG)
-ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_platform_offscreen PNG::PNG)
+ombrel_program(larkfen src/app/entry_sdl2.cpp ombrel_app ombrel_demo ombrel_platform_sdl2)
+ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
+ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
+ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 
 if(OMBREL_TESTS)
   enable_testing()
@@ -30,7 +30,7 @@ if(OMBREL_BENCH)
   file(GLOB bench_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/bench/*.cpp)
   if(bench_sources)
     add_executable(larkfen-bench ${bench_sources})
-    target_link_libraries(larkfen-bench PRIVATE ombrel_flags ombrel_app ombrel_platform_offscreen
+    target_link_libraries(larkfen-bench PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_offscreen
                                                 benchmark::benchmark)
   endif()
 endif()

@@ -11,7 +11,7 @@ file(CREATE_LINK ${CMAKE_SOURCE_DIR}/data ${CMAKE_BINARY_DIR}/data SYMBOLIC)
 
 if(TARGET ombrel_app AND EXISTS ${CMAKE_SOURCE_DIR}/src/app/shell.cpp)
   add_executable(larkfen WIN32 src/app/entry_win32.cpp src/platform/win32/larkfen.rc)
-  target_link_libraries(larkfen PRIVATE ombrel_flags ombrel_app ombrel_platform_win32)
+  target_link_libraries(larkfen PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_win32)
 endif()
 
 add_subdirectory(tests/windows)
