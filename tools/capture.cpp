@@ -1,0 +1,271 @@
+// larkfen-capture: plays the production over the offscreen back end and records its frames as
+// pictures, as a video with sound, or as one line of digest a frame. Two runs give the same bytes.
+#include <algorithm>
+#include <cerrno>
+#include <cinttypes>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "app/command_line.h"
+#include "app/shell.h"
+#include "base/data_file.h"
+#include "base/float_mode.h"
+#include "base/hash.h"
+#include "base/shell_state.h"
+#include "demo/scene_one.h"
+#include "demo/world.h"
+#include "larkfen-capture/options.h"
+#include "larkfen-capture/picture.h"
+#include "larkfen-capture/progress.h"
+#include "larkfen-capture/video.h"
+#include "platform/offscreen/offscreen.h"
+
+namespace {
+
+using namespace capture;
+
+constexpr std::uint32_t kMsPerFrame = 25;
+constexpr std::int64_t kSceneTwoFrames = 3968; // calls of scene two, the last one included
+
+// Everything a run of the tool works on.
+struct Recorder {
+    Options options;
+    Progress progress{};
+    Video video;
+    std::FILE* hashes = nullptr;
+    std::vector<std::uint8_t> rgb;
+    std::int64_t played = 0;
+    std::int64_t recorded = 0;
+    std::int32_t scene = 0; // that draws the frame of this turn; it may name the next while it does
+    std::string problem;    // the first one ends the run
+};
+
+volatile std::sig_atomic_t interrupted = 0;
+
+void OnInterrupt(int) {
+    interrupted = 1;
+}
+
+// The first problem counts; the run ends with the frame.
+void Note(Recorder* recorder, const std::string& problem) {
+    if (recorder->problem.empty() && !problem.empty()) {
+        recorder->problem = problem;
+        ombrel::PostQuit(1);
+    }
+}
+
+// Frames until t has grown from 0 to 1 by the step of a track key.
+std::int64_t FramesOfSegment(float step) {
+    const float add = step <= 0.0F ? 0.02F : step;
+    std::int64_t frames = 0;
+    for (float t = 0.0F; t < 1.0F && frames < 1000000; t += add) {
+        ++frames;
+    }
+    return frames;
+}
+
+// Of the whole production; 0 when its first track never hands over.
+std::int64_t FramesOfProduction() {
+    constexpr std::int32_t kNeededKeys = 35;
+    const std::int32_t count =
+        ombrel::TrackLoad("./data/cam/scene1.trk", ombrel::sceneOne.keys, ombrel::kMaxTrackKeys);
+    std::int64_t frames = 1;
+    if (count >= kNeededKeys) {
+        const ombrel::ScopedFloatMode asPlayed(ombrel::FloatMode::Chop);
+        for (std::int32_t i = 1; i <= 32; ++i) {
+            frames += FramesOfSegment(ombrel::sceneOne.keys[i].key.step);
+        }
+        frames += kSceneTwoFrames;
+    }
+    std::memset(static_cast<void*>(ombrel::sceneOne.keys), 0, sizeof ombrel::sceneOne.keys);
+    return count >= kNeededKeys ? frames : 0;
+}
+
+std::int32_t DrawnFaces() {
+    std::int32_t count = 0;
+    for (std::int32_t i = 0; i < ombrel::sceneFaces.count; ++i) {
+        count += ombrel::IsDrawable(ombrel::sceneFaces.records[i].state) ? 1 : 0;
+    }
+    return count;
+}
+
+void WriteHashLine(Recorder* recorder, const ombrel::PresentedFrame& shown) {
+    const std::uint64_t hash =
+        ombrel::HashPicture(shown.pixels, shown.pitch, shown.width, shown.height);
+    if (std::fprintf(recorder->hashes, "frame %" PRId64 " scene %d faces %d hash %016" PRIx64 "\n",
+                     shown.number, recorder->scene, DrawnFaces(), hash) < 0) {
+        Note(recorder, recorder->options.hashFile + ": " + std::strerror(errno));
+    }
+}
+
+void WritePicture(Recorder* recorder, const ombrel::PresentedFrame& shown) {
+    char name[64];
+    std::snprintf(name, sizeof name, "frame-%06" PRId64 ".png", shown.number);
+    const std::filesystem::path path = std::filesystem::path(recorder->options.pngFolder) / name;
+    const std::int32_t scale = recorder->options.scale;
+    Note(recorder,
+         WritePng(path.string(), recorder->rgb, shown.width * scale, shown.height * scale));
+}
+
+void RecordFrame(Recorder* recorder, const ombrel::PresentedFrame& shown) {
+    const Options& options = recorder->options;
+    const bool picked = (shown.number - options.first) % options.every == 0;
+    if (options.hashFile.empty() == false && picked) {
+        WriteHashLine(recorder, shown);
+    }
+    const bool wantsPicture = !options.pngFolder.empty() && picked;
+    if (wantsPicture || recorder->video.pipe != nullptr) {
+        ToRgb(shown.pixels, shown.pitch, shown.width, shown.height, options.scale, &recorder->rgb);
+    }
+    if (wantsPicture) {
+        WritePicture(recorder, shown);
+    }
+    if (recorder->video.pipe != nullptr) {
+        Note(recorder, WriteVideo(&recorder->video, recorder->rgb));
+    }
+    recorder->recorded += picked || recorder->video.pipe != nullptr ? 1 : 0;
+}
+
+void OnFrame(const ombrel::PresentedFrame& shown, void* user) {
+    auto* recorder = static_cast<Recorder*>(user);
+    if (shown.number >= recorder->options.first && shown.number < recorder->options.end &&
+        recorder->problem.empty()) {
+        RecordFrame(recorder, shown);
+    }
+    ++recorder->played;
+    ShowProgress(&recorder->progress, recorder->played);
+    if (interrupted != 0) {
+        Note(recorder, "interrupted");
+    }
+    if (shown.number + 1 >= recorder->options.end) {
+        ombrel::PostQuit(0);
+    }
+}
+
+void HoldSwitches(const Recorder& recorder) {
+    for (const SwitchSetting& setting : recorder.options.settings) {
+        *setting.target = setting.value;
+    }
+}
+
+void OnTurn(std::int64_t, void* user) {
+    auto* recorder = static_cast<Recorder*>(user);
+    HoldSwitches(*recorder);
+    recorder->scene = std::clamp(ombrel::frame.sceneIndex, 0, 6);
+}
+
+void OnMessage(const char* text, ombrel::MessageKind kind, void*) {
+    if (kind != ombrel::MessageKind::YesNo) {
+        std::printf("%s\n", text);
+    }
+}
+
+std::string OpenOutputs(Recorder* recorder) {
+    const Options& options = recorder->options;
+    if (!options.pngFolder.empty()) {
+        std::error_code error;
+        std::filesystem::create_directories(options.pngFolder, error);
+        if (error) {
+            return options.pngFolder + ": " + error.message();
+        }
+    }
+    if (options.hashFile == "-") {
+        recorder->hashes = stdout;
+    } else if (!options.hashFile.empty()) {
+        recorder->hashes = std::fopen(options.hashFile.c_str(), "wb");
+        if (recorder->hashes == nullptr) {
+            return options.hashFile + ": " + std::strerror(errno);
+        }
+    }
+    if (options.videoFile.empty()) {
+        return "";
+    }
+    const ombrel::CommandLine line = ombrel::ParseCommandLine(options.production.c_str());
+    std::string soundtrack = line.noSound ? "" : ombrel::FindDataFile("./data/sfx/soundtrack.mp3");
+    if (!soundtrack.empty() && !CanDecode(soundtrack)) {
+        std::fprintf(stderr, "%s: no sound in it; the video is silent\n", soundtrack.c_str());
+        soundtrack.clear();
+    }
+    return OpenVideo({options.videoFile, soundtrack, options.first, line.width * options.scale,
+                      line.height * options.scale},
+                     &recorder->video);
+}
+
+void CloseOutputs(Recorder* recorder) {
+    if (recorder->hashes != nullptr) {
+        const bool written = std::fflush(recorder->hashes) == 0;
+        const int reason = errno;
+        const bool closed = recorder->hashes == stdout || std::fclose(recorder->hashes) == 0;
+        if (!written || !closed) {
+            Note(recorder, recorder->options.hashFile + ": " + std::strerror(reason));
+        }
+    }
+    if (recorder->video.pipe == nullptr) {
+        return;
+    }
+    if (!recorder->problem.empty() || recorder->recorded == 0) {
+        DropVideo(&recorder->video);
+        return;
+    }
+    Note(recorder, CloseVideo(&recorder->video));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    Recorder recorder;
+    const std::string wrong = ReadOptions(argc, argv, &recorder.options);
+    if (!wrong.empty()) {
+        std::fprintf(stderr, "larkfen-capture: %s\n", wrong.c_str());
+        return 2;
+    }
+    if (recorder.options.help) {
+        std::fputs(HelpText().c_str(), stdout);
+        return 0;
+    }
+    std::signal(SIGINT, OnInterrupt);
+    std::signal(SIGTERM, OnInterrupt);
+#ifdef SIGPIPE
+    std::signal(SIGPIPE, SIG_IGN); // a pipe that breaks is a write that fails
+#endif
+    ombrel::SetDataFolder(recorder.options.dataFolder.empty()
+                              ? ombrel::DataFolderOf(ombrel::ProgramFolder())
+                              : recorder.options.dataFolder);
+    const std::string unopened = OpenOutputs(&recorder);
+    if (!unopened.empty()) {
+        DropVideo(&recorder.video);
+        std::fprintf(stderr, "larkfen-capture: %s\n", unopened.c_str());
+        return 1;
+    }
+
+    // Play as fast as it goes; the clock moves by exactly one frame a frame.
+    const std::int64_t whole = FramesOfProduction();
+    const bool bounded = whole == 0 || recorder.options.end < whole;
+    recorder.progress =
+        StartProgress(bounded && recorder.options.end != INT64_MAX ? recorder.options.end : whole);
+    HoldSwitches(recorder);
+    ombrel::script.msPerRead = 0;
+    ombrel::script.msPerPresent = kMsPerFrame;
+    ombrel::script.onFrame = OnFrame;
+    ombrel::script.onTurn = OnTurn;
+    ombrel::script.onMessage = OnMessage;
+    ombrel::script.user = &recorder;
+    const int result = ombrel::RunProduction(recorder.options.production.c_str());
+    const bool helped = recorder.played == 0 && result == 0;
+
+    CloseOutputs(&recorder);
+    if (!recorder.problem.empty()) {
+        std::fprintf(stderr, "%slarkfen-capture: %s\n", recorder.progress.terminal ? "\n" : "",
+                     recorder.problem.c_str());
+        return 1;
+    }
+    if (!helped) {
+        EndProgress(recorder.progress, recorder.played, recorder.recorded);
+    }
+    return 0;
+}

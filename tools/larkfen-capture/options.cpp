@@ -1,0 +1,223 @@
+// Reading the arguments: two tables, one of the options and one of the switches that can be set.
+#include "options.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include "app/command_line.h"
+#include "base/shell_state.h"
+#include "demo/world.h"
+
+namespace capture {
+
+namespace {
+
+struct NamedSwitch {
+    const char* name;
+    std::int32_t* target;
+    const char* meaning;
+};
+
+// clang-format off
+const NamedSwitch kSwitches[] = {
+    {"scene",         &ombrel::frame.sceneIndex,       "0 scene one, 1 scene two, 2..6 none"},
+    {"crosshair",     &ombrel::frame.crosshairSwitch,  "1 draws it (-1)"},
+    {"frameCap",      &ombrel::frame.frameCapSwitch,   "1 holds a frame for 25 ms (1)"},
+    {"renderMode1",   &ombrel::switches.renderMode1,   "0 draws corner dots (1)"},
+    {"renderMode2",   &ombrel::switches.renderMode2,   "0 draws wires (1)"},
+    {"backFace",      &ombrel::switches.backFace,      "1 culls back faces (1)"},
+    {"lighting",      &ombrel::switches.lighting,      "1 lights the faces (1)"},
+    {"sort",          &ombrel::switches.sort,          "1 sorts them by depth (-1)"},
+    {"cameraMode",    &ombrel::switches.cameraMode,    "-1 view from angles, else look-at (-1)"},
+    {"blur",          &ombrel::switches.blur,          "1 blurs (set by each scene)"},
+    {"lightCount",    &ombrel::switches.lightCount,    "lights in use (set by each scene)"},
+    {"hideCursor",    &ombrel::switches.hideCursor,    "1 hides the cursor (1)"},
+    {"cameraRunning", &ombrel::switches.cameraRunning, "1 follows the track (set by each scene)"},
+};
+// clang-format on
+
+bool ReadNumber(const std::string& text, std::int64_t low, std::int64_t high, std::int64_t* out) {
+    char* end = nullptr;
+    errno = 0;
+    const long long value = std::strtoll(text.c_str(), &end, 10);
+    if (text.empty() || *end != '\0' || errno != 0 || value < low || value > high) {
+        return false;
+    }
+    *out = value;
+    return true;
+}
+
+std::string ReadFrames(const std::string& text, Options* options) {
+    const std::size_t colon = text.find(':');
+    const std::string problem = "--frames: \"" + text + "\" is not A:B with A below B";
+    if (colon == std::string::npos || text.size() == 1) {
+        return problem;
+    }
+    const std::string from = text.substr(0, colon);
+    const std::string to = text.substr(colon + 1);
+    if (!from.empty() && !ReadNumber(from, 0, INT64_MAX - 1, &options->first)) {
+        return problem;
+    }
+    if (!to.empty() && !ReadNumber(to, 1, INT64_MAX, &options->end)) {
+        return problem;
+    }
+    return options->first < options->end ? "" : problem;
+}
+
+std::string ReadSwitch(const std::string& text, Options* options) {
+    const std::size_t sign = text.find('=');
+    std::int64_t value = 0;
+    if (sign == std::string::npos ||
+        !ReadNumber(text.substr(sign + 1), INT32_MIN, INT32_MAX, &value)) {
+        return "--switch: \"" + text + "\" is not NAME=NUMBER";
+    }
+    for (const NamedSwitch& known : kSwitches) {
+        if (text.compare(0, sign, known.name) == 0) {
+            options->settings.push_back({known.target, static_cast<std::int32_t>(value)});
+            return "";
+        }
+    }
+    return "--switch: there is no switch \"" + text.substr(0, sign) + "\"";
+}
+
+std::string ReadCount(const char* name, const std::string& text, std::int64_t high,
+                      std::int64_t* out) {
+    if (ReadNumber(text, 1, high, out)) {
+        return "";
+    }
+    return std::string(name) + ": \"" + text + "\" is not a whole number from 1 to " +
+           std::to_string(high);
+}
+
+std::string ReadPath(const char* name, const std::string& text, std::string* out) {
+    *out = text;
+    return text.empty() ? std::string(name) + ": the name is empty" : "";
+}
+
+// An option of the tool with its value.
+std::string ReadOption(const std::string& name, const std::string& value, Options* options) {
+    if (name == "--data") {
+        return ReadPath("--data", value, &options->dataFolder);
+    }
+    if (name == "--frames") {
+        return ReadFrames(value, options);
+    }
+    if (name == "--every") {
+        return ReadCount("--every", value, 1000000, &options->every);
+    }
+    if (name == "--png") {
+        return ReadPath("--png", value, &options->pngFolder);
+    }
+    if (name == "--video") {
+        return ReadPath("--video", value, &options->videoFile);
+    }
+    if (name == "--scale") {
+        std::int64_t scale = 0;
+        std::string problem = ReadCount("--scale", value, 16, &scale);
+        options->scale = static_cast<std::int32_t>(scale);
+        return problem;
+    }
+    if (name == "--hashes") {
+        return ReadPath("--hashes", value, &options->hashFile);
+    }
+    return ReadSwitch(value, options);
+}
+
+constexpr const char* kOptionNames[] = {"--data",  "--frames", "--every",  "--png",
+                                        "--video", "--scale",  "--hashes", "--switch"};
+
+bool IsOption(const std::string& name) {
+    for (const char* known : kOptionNames) {
+        if (name == known) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool IsProductionSwitch(const std::string& text) {
+    if (text == "-w" || text == "-ns" || text == "-?") {
+        return true;
+    }
+    for (const ombrel::ResolutionSwitch& row : ombrel::kResolutions) {
+        if (text == row.text) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+std::string ReadOptions(int argc, char** argv, Options* options) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument == "--help" || argument == "-h") {
+            options->help = true;
+            return "";
+        }
+        if (IsProductionSwitch(argument)) {
+            options->production += options->production.empty() ? argument : " " + argument;
+            continue;
+        }
+        // "--name value" and "--name=value" are the same.
+        const std::size_t sign = argument.find('=');
+        const std::string name = argument.substr(0, sign);
+        if (!IsOption(name)) {
+            return "unknown argument \"" + argument + "\"; --help lists them";
+        }
+        std::string value = sign == std::string::npos ? "" : argument.substr(sign + 1);
+        if (sign == std::string::npos) {
+            if (i + 1 >= argc) {
+                return name + ": a value is missing";
+            }
+            value = argv[++i];
+        }
+        const std::string problem = ReadOption(name, value, options);
+        if (!problem.empty()) {
+            return problem;
+        }
+    }
+    const bool asksHelp = options->production.find("-?") != std::string::npos;
+    if (options->pngFolder.empty() && options->videoFile.empty() && options->hashFile.empty() &&
+        !asksHelp) {
+        return "nothing to record: give --png, --video or --hashes; --help tells more";
+    }
+    return "";
+}
+
+std::string HelpText() {
+    std::string text =
+        "Usage: larkfen-capture [switches of the production] [options]\n"
+        "Plays the production without a screen and records it frame by frame, as fast as it goes.\n"
+        "\n"
+        "Switches of the production: -w, -ns (a video without sound), -resolution=640x480 and so\n"
+        "on, -? (its own help). It never asks anything.\n"
+        "\n"
+        "  --frames A:B       frames A to B - 1, counted from 0; either may be left out; the run\n"
+        "                     ends after frame B - 1\n"
+        "  --png DIR          writes every frame to DIR/frame-000123.png\n"
+        "  --video FILE.mp4   writes a video, 40 frames a second, with the soundtrack; needs the\n"
+        "                     program ffmpeg\n"
+        "  --hashes FILE      writes a line a frame: frame 123 scene 0 faces 4567 hash 0123...\n"
+        "                     (scene that drew it, faces drawn, hash of its pixels); - is\n"
+        "                     standard output\n"
+        "  --every N          only every Nth frame as picture and hash line; a video is whole\n"
+        "  --scale N          pictures and video N times as large, 1 to 16\n"
+        "  --data DIR         takes the data files from DIR\n"
+        "  --switch NAME=N    holds a switch at a number from the first frame on; what a scene\n"
+        "                     sets itself in its first frame holds from its second:\n";
+    for (const NamedSwitch& known : kSwitches) {
+        std::string line = "                       ";
+        line += known.name;
+        line.append(39 > line.size() ? 39 - line.size() : 1, ' ');
+        text += line + known.meaning + "\n";
+    }
+    text += "  --help             this text\n"
+            "\n"
+            "Exit code: 0 done, 1 something could not be written, 2 an argument is wrong.\n";
+    return text;
+}
+
+} // namespace capture
