@@ -28,10 +28,10 @@ std::int32_t RandomBetween(RandomSource* source, std::int32_t first, std::int32_
 inline constexpr std::int32_t kMaxFrameWidth = 64;
 inline constexpr std::int32_t kMaxFrameHeight = 48;
 inline constexpr std::int32_t kTrianglesPerScene = 16;
-// 45 times this makes a little more than two million triangles.
-inline constexpr std::int32_t kScenesPerFiller = 2816;
+// 45 times this makes 5.9 million triangles.
+inline constexpr std::int32_t kScenesPerFiller = 8192;
 // A checksum over the first scenes alone, for runs with a smaller share.
-inline constexpr std::int32_t kFirstScenes = 88;
+inline constexpr std::int32_t kFirstScenes = 160;
 
 // The memory that all comparisons share; frames and depth buffers once against the page before,
 // once against the page behind.

@@ -1,0 +1,250 @@
+// The fast fillers against the slow ones: 5.9 million random triangles, and a checksum a
+// filler that says whether the pictures are still those of the day they were accepted.
+//
+// OMBREL_RANDOM_SHARE=10 runs a tenth. OMBREL_UPDATE_CHECKSUMS=1 writes filler_checksums.txt anew:
+// only when a picture is meant to change.
+#include <cinttypes>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "base/float_mode.h"
+#include "raster/blend_tables.h"
+#include "raster/fillers.h"
+#include "support/random_triangles.h"
+#include "support/reference_fillers.h"
+
+namespace ombrel {
+namespace {
+
+constexpr char kChecksumFile[] = OMBREL_SOURCE_DIR "/tests/unit/raster/filler_checksums.txt";
+
+struct Checksums {
+    std::string firstScenes;
+    std::string all;
+};
+
+std::map<std::string, Checksums> ReadChecksums() {
+    std::map<std::string, Checksums> rows;
+    std::ifstream file(kChecksumFile);
+    std::string line;
+    while (std::getline(file, line)) {
+        std::istringstream words(line);
+        std::string name;
+        Checksums sums;
+        if (line.rfind("#", 0) != 0 && words >> name >> sums.firstScenes >> sums.all) {
+            rows[name] = sums;
+        }
+    }
+    return rows;
+}
+
+void WriteChecksums(const std::map<std::string, Checksums>& rows) {
+    std::ofstream file(kChecksumFile);
+    file << "# filler, checksum of its first " << kFirstScenes * kTrianglesPerScene
+         << " random triangles, of all " << kScenesPerFiller * kTrianglesPerScene << "\n";
+    for (const reference::Filler& row : reference::kFillers) {
+        const auto found = rows.find(row.name);
+        if (found != rows.end()) {
+            file << row.name << " " << found->second.firstScenes << " " << found->second.all
+                 << "\n";
+        }
+    }
+}
+
+std::string Hex(std::uint64_t value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%016" PRIx64, value);
+    return text;
+}
+
+bool Updating() {
+    const char* wish = std::getenv("OMBREL_UPDATE_CHECKSUMS");
+    return wish != nullptr && std::string(wish) == "1";
+}
+
+// The number of a filler in the fast family's table; -1 when it has none of that name.
+int FastNumber(const char* name) {
+    for (int i = 0; i < kFillerCount; ++i) {
+        if (std::string(kFillerTable[i].name) == name) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+class RandomTriangles : public testing::TestWithParam<int> {
+protected:
+    static void SetUpTestSuite() {
+        const ScopedFloatMode nearest(FloatMode::Nearest);
+        BuildBlendTables(8, BlendTables[0]);
+        stage = MakeRandomStage();
+    }
+    static void TearDownTestSuite() { FreeRandomStage(&stage); }
+    static RandomStage stage;
+};
+RandomStage RandomTriangles::stage;
+
+TEST_P(RandomTriangles, AreDrawnAsByTheReference) {
+    const reference::Filler& row = reference::kFillers[GetParam()];
+    const int number = FastNumber(row.name);
+    ASSERT_GE(number, 0) << "the family has no " << row.name;
+    const std::int32_t percent = Updating() ? 100 : RandomSharePercent();
+    std::int32_t scenes = kScenesPerFiller * percent / 100;
+    scenes = scenes < kFirstScenes ? kFirstScenes : scenes;
+
+    ScopedFloatMode chop(FloatMode::Chop);
+    const RandomComparison result =
+        CompareRandomTriangles(&stage, row, kScalarFillers[number], scenes);
+    ASSERT_EQ(result.failure, "");
+    EXPECT_EQ(result.triangles, std::int64_t{scenes} * kTrianglesPerScene);
+    // Triangles that draw nothing prove little: most of them must be seen.
+    EXPECT_GT(result.visible * 4, result.triangles) << "too few triangles were visible";
+    EXPECT_GT(result.hidden * 50, result.triangles) << "too few triangles were not";
+
+    std::map<std::string, Checksums> stored = ReadChecksums();
+    if (Updating()) {
+        stored[row.name] = {Hex(result.firstScenesHash), Hex(result.hash)};
+        WriteChecksums(stored);
+        return;
+    }
+    EXPECT_EQ(Hex(result.firstScenesHash), stored[row.name].firstScenes);
+    if (percent == 100) {
+        EXPECT_EQ(Hex(result.hash), stored[row.name].all);
+    }
+}
+
+std::string NameOfRow(const testing::TestParamInfo<int>& info) {
+    return reference::kFillers[info.param].name;
+}
+INSTANTIATE_TEST_SUITE_P(Fillers, RandomTriangles, testing::Range(0, reference::kCount), NameOfRow);
+
+TEST(FillerFamily, HasTheSame45NamesInBothTables) {
+    for (const reference::Filler& row : reference::kFillers) {
+        EXPECT_GE(FastNumber(row.name), 0) << row.name;
+    }
+    for (const FillerRow& row : kFillerTable) {
+        EXPECT_NE(reference::FindFiller(row.name), nullptr) << row.name;
+    }
+}
+
+// --- every named function is the filler of its own row ------------------------------------------
+
+struct Call {
+    int number;
+    ScreenPolygon* polygon;
+    FillTarget target;
+};
+Call lastCall;
+
+template <int kNumber> void Record(ScreenPolygon* polygon, const FillTarget& target) {
+    lastCall = {kNumber, polygon, target};
+}
+template <int... kNumbers> void RecordAll(std::integer_sequence<int, kNumbers...>) {
+    ((activeFillers[kNumbers] = Record<kNumbers>), ...);
+}
+
+TEST(FillerFamily, EveryNamedFillerPassesItsArgumentsOn) {
+    RecordAll(std::make_integer_sequence<int, kFillerCount>{});
+    ScreenPolygon polygon = {};
+    Pixel16 framePixel = 0;
+    std::uint32_t depthCell = 0;
+    Pixel16* frame = &framePixel;
+    std::uint32_t* depth = &depthCell;
+    const std::int32_t framePitch = 1282;
+    const std::int32_t depthPitch = 2564;
+    const std::uint32_t level = 5;
+    int number = 0;
+// The argument lists typed by hand: with depth, with a level, or both.
+#define CHECK_COMMON(Fn)                                                                           \
+    EXPECT_STREQ(kFillerTable[lastCall.number].name, #Fn);                                         \
+    EXPECT_EQ(lastCall.polygon, &polygon);                                                         \
+    EXPECT_EQ(lastCall.target.frame, frame);                                                       \
+    EXPECT_EQ(lastCall.target.framePitch, framePitch);                                             \
+    ++number
+#define CHECK_DEPTH                                                                                \
+    EXPECT_EQ(lastCall.target.depth, depth);                                                       \
+    EXPECT_EQ(lastCall.target.depthPitch, depthPitch)
+#define CHECK_LEVEL EXPECT_EQ(lastCall.target.level, level)
+#define PLAIN(Fn)                                                                                  \
+    Fn(&polygon, frame, framePitch);                                                               \
+    CHECK_COMMON(Fn)
+#define PLAIN_BLEND(Fn)                                                                            \
+    Fn(&polygon, frame, framePitch, level);                                                        \
+    CHECK_COMMON(Fn);                                                                              \
+    CHECK_LEVEL
+#define DEPTH(Fn)                                                                                  \
+    Fn(&polygon, frame, framePitch, depth, depthPitch);                                            \
+    CHECK_COMMON(Fn);                                                                              \
+    CHECK_DEPTH
+#define DEPTH_BLEND(Fn)                                                                            \
+    Fn(&polygon, frame, framePitch, depth, depthPitch, level);                                     \
+    CHECK_COMMON(Fn);                                                                              \
+    CHECK_DEPTH;                                                                                   \
+    CHECK_LEVEL
+    PLAIN(FillFlat);
+    PLAIN_BLEND(FillFlatBlend);
+    PLAIN(FillGouraud);
+    PLAIN_BLEND(FillGouraudBlend);
+    PLAIN(FillTex);
+    PLAIN(FillTexAlt);
+    PLAIN_BLEND(FillTexBlend);
+    PLAIN(FillTexFlat);
+    PLAIN_BLEND(FillTexFlatBlend);
+    PLAIN(FillTexGouraud);
+    PLAIN_BLEND(FillTexGouraudBlend);
+    DEPTH(FillFlatZ);
+    DEPTH_BLEND(FillFlatZBlend);
+    DEPTH(FillGouraudZ);
+    DEPTH(FillGouraudZKeyedKind);
+    DEPTH_BLEND(FillGouraudZBlend);
+    DEPTH(FillTexZ);
+    DEPTH(FillTexZKeyed);
+    DEPTH(FillTexKeyedZWrite);
+    DEPTH(FillTexZAlt);
+    DEPTH_BLEND(FillTexZBlend);
+    DEPTH(FillTexFlatZ);
+    DEPTH(FillTexFlatKeyedZWrite);
+    DEPTH_BLEND(FillTexFlatZBlend);
+    DEPTH(FillTexGouraudZ);
+    DEPTH_BLEND(FillTexGouraudZBlend);
+    DEPTH(FillFlatW);
+    DEPTH_BLEND(FillFlatWBlend);
+    DEPTH(FillGouraudW);
+    DEPTH_BLEND(FillGouraudWBlend);
+    DEPTH(FillTexWAffine);
+    DEPTH(FillTexWAlt);
+    DEPTH(FillTexWPerPixel);
+    DEPTH(FillTexWSpan);
+    DEPTH_BLEND(FillTexWAffineBlend);
+    DEPTH_BLEND(FillTexWPerPixelBlend);
+    DEPTH_BLEND(FillTexWSpanBlend);
+    DEPTH(FillTexFlatWAffine);
+    DEPTH(FillTexFlatWPerPixel);
+    DEPTH(FillTexFlatWSpan);
+    DEPTH_BLEND(FillTexFlatWAffineBlend);
+    DEPTH_BLEND(FillTexFlatWPerPixelBlend);
+    DEPTH_BLEND(FillTexFlatWSpanBlend);
+    DEPTH(FillTexGouraudW);
+    DEPTH_BLEND(FillTexGouraudWBlend);
+#undef PLAIN
+#undef PLAIN_BLEND
+#undef DEPTH
+#undef DEPTH_BLEND
+#undef CHECK_COMMON
+#undef CHECK_DEPTH
+#undef CHECK_LEVEL
+    EXPECT_EQ(number, 45);
+    ResetFillers();
+    for (int i = 0; i < kFillerCount; ++i) {
+        EXPECT_EQ(activeFillers[i], kScalarFillers[i]) << kFillerTable[i].name;
+    }
+}
+
+} // namespace
+} // namespace ombrel
