@@ -43,6 +43,15 @@ std::string ReadText(const char* path) {
     return text;
 }
 
+// Behind what a scanner takes in before it finds that no number is there: blanks, a sign, a point.
+const char* SkipFalseStart(const char* p) {
+    while (IsBlank(*p)) {
+        ++p;
+    }
+    p += *p == '+' || *p == '-' ? 1 : 0;
+    return *p == '.' ? p + 1 : p;
+}
+
 // One reading of the line pattern, from *text on, which moves behind what matched. Returns how many
 // columns were read; the others are left alone.
 std::int32_t ReadColumns(const char** text, float columns[kColumns]) {
@@ -59,6 +68,7 @@ std::int32_t ReadColumns(const char** text, float columns[kColumns]) {
             const char* end = p;
             const float value = ParseFloat(p, &end);
             if (end == p) {
+                p = SkipFalseStart(p);
                 break;
             }
             columns[read++] = value;

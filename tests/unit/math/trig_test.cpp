@@ -59,7 +59,8 @@ std::uint64_t Fingerprint(FloatMode mode) {
     Sequence sequence{99};
     std::uint64_t hash = kHashStart;
     for (int i = 0; i < 20000; ++i) {
-        const double x = sequence.Next(-1000.0, 1000.0);
+        // volatile: worked out here, before the mode changes.
+        const volatile double x = sequence.Next(-1000.0, 1000.0);
         double values[3];
         {
             const ScopedFloatMode scope(mode);
