@@ -16,6 +16,7 @@
 #include "base/float_mode.h"
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
+#include "support/filler_recorder.h"
 #include "support/random_triangles.h"
 #include "support/reference_fillers.h"
 
@@ -135,22 +136,9 @@ TEST(FillerFamily, HasTheSame45NamesInBothTables) {
 
 // --- every named function is the filler of its own row ------------------------------------------
 
-struct Call {
-    int number;
-    ScreenPolygon* polygon;
-    FillTarget target;
-};
-Call lastCall;
-
-template <int kNumber> void Record(ScreenPolygon* polygon, const FillTarget& target) {
-    lastCall = {kNumber, polygon, target};
-}
-template <int... kNumbers> void RecordAll(std::integer_sequence<int, kNumbers...>) {
-    ((activeFillers[kNumbers] = Record<kNumbers>), ...);
-}
-
 TEST(FillerFamily, EveryNamedFillerPassesItsArgumentsOn) {
-    RecordAll(std::make_integer_sequence<int, kFillerCount>{});
+    RecordFillers();
+    const RecordedCall& lastCall = recordedCalls[0];
     ScreenPolygon polygon = {};
     Pixel16 framePixel = 0;
     std::uint32_t depthCell = 0;
@@ -163,9 +151,11 @@ TEST(FillerFamily, EveryNamedFillerPassesItsArgumentsOn) {
 // The argument lists typed by hand: with depth, with a level, or both.
 #define CHECK_COMMON(Fn)                                                                           \
     EXPECT_STREQ(kFillerTable[lastCall.number].name, #Fn);                                         \
-    EXPECT_EQ(lastCall.polygon, &polygon);                                                         \
+    EXPECT_EQ(lastCall.address, &polygon);                                                         \
     EXPECT_EQ(lastCall.target.frame, frame);                                                       \
     EXPECT_EQ(lastCall.target.framePitch, framePitch);                                             \
+    EXPECT_EQ(recordedCount, 1);                                                                   \
+    ForgetCalls();                                                                                 \
     ++number
 #define CHECK_DEPTH                                                                                \
     EXPECT_EQ(lastCall.target.depth, depth);                                                       \
