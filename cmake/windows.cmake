@@ -9,9 +9,13 @@ ombrel_back_end(win32 OWN ddraw dxguid winmm gdi32 user32)
 # The data stands beside the program, as it ships.
 file(CREATE_LINK ${CMAKE_SOURCE_DIR}/data ${CMAKE_BINARY_DIR}/data SYMBOLIC)
 
-if(TARGET ombrel_app AND EXISTS ${CMAKE_SOURCE_DIR}/src/app/shell.cpp)
-  add_executable(larkfen WIN32 src/app/entry_win32.cpp src/platform/win32/larkfen.rc)
-  target_link_libraries(larkfen PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_win32)
-endif()
+add_executable(larkfen WIN32 src/app/entry_win32.cpp src/platform/win32/larkfen.rc)
+target_link_libraries(larkfen PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_win32)
+
+# The recorder without pictures and video: writes the digest lines of the frames on Windows.
+file(GLOB capture_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/*.cpp)
+add_executable(larkfen-hashes tools/capture.cpp ${capture_sources})
+target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_demo
+                                             ombrel_platform_offscreen)
 
 add_subdirectory(tests/windows)

@@ -18,11 +18,12 @@ enum class PresentPath {
     Stretch, // no such mode: a bitmap over the whole monitor, enlarged by whole factors
 };
 
-// instance: written by the entry. window, entryMode: written by the window set-up. The rest:
+// instance: written by the entry. window, quitPosted, entryMode: written by window.cpp. The rest:
 // written by OpenDisplay, read by presentation and release.
 struct Win32State {
     HINSTANCE instance;
     HWND window;
+    bool quitPosted;    // the quit message is on its way
     DEVMODEA entryMode; // all zero until a windowed run reads the desktop's mode into it
     IDirectDraw7* directDraw;
     IDirectDrawSurface7* primary;

@@ -16,7 +16,7 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wide, LPARAM 
     case WM_CREATE:
         return 0;
     case WM_DESTROY:
-        win32Calls.postQuitMessage(0);
+        PostQuit(0);
         return 0;
     case WM_PAINT: {
         PAINTSTRUCT paint = {};
@@ -115,8 +115,12 @@ void RestoreDisplayModeAtExit() {
 }
 
 Pump PumpMessage(std::int32_t* quitParameter) {
+    // The system hands out the quit message last, when no other is left. Escape that is held down
+    // posts another message every frame, so once the quit message is posted it is asked for first.
     MSG message = {};
-    if (!win32Calls.peekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
+    const bool quitting = win32State.quitPosted &&
+                          win32Calls.peekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    if (!quitting && !win32Calls.peekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
         return Pump::None;
     }
     if (message.message == WM_QUIT) {
@@ -129,6 +133,7 @@ Pump PumpMessage(std::int32_t* quitParameter) {
 }
 
 void PostQuit(std::int32_t quitParameter) {
+    win32State.quitPosted = true;
     win32Calls.postQuitMessage(quitParameter);
 }
 
