@@ -1,7 +1,7 @@
 // The dispatcher: walks a face list once and hands each drawable face to the one filler that kind
 // of list, material and path choose. Draws nothing itself. Called by the scenes.
 #include <algorithm>
-#include <array>
+#include <cstddef>
 
 #include "base/convert.h"
 #include "base/log2_table.h"
@@ -21,50 +21,49 @@ constexpr std::uint32_t kKindBits[kKindCount] = {DRAW_NO_DEPTH, DRAW_DEPTH_KEYED
 // Column of the table of textured faces. Far and near are the two halves of the by-distance path.
 enum Path { Path1, Path1Alt, Path2, Path3, Far, Near, kPathCount };
 
-// Rows within a kind; each is followed by its blended form.
-enum Class { Unlit = 0, FlatLit = 2, GouraudLit = 4, kClassCount = 6 };
-enum PlainClass { PlainFlat = 0, PlainGouraud = 2, kPlainClassCount = 4 };
+// Pair of rows within a kind: set, blended.
+enum Class { Unlit, FlatLit, GouraudLit, kClassCount };
 
 // clang-format off
-constexpr FillerId kUntextured[kKindCount][kPlainClassCount] = {
-//                  flat        flat, blended     gouraud                  gouraud, blended
-/* NoDepth     */ { FillFlat,   FillFlatBlend,    FillGouraud,             FillGouraudBlend  },
-/* DepthKeyed  */ { FillFlatZ,  FillFlatZBlend,   FillGouraudZKeyedKind,   FillGouraudZBlend },
-/* InvDepth    */ { FillFlatW,  FillFlatWBlend,   FillGouraudW,            FillGouraudWBlend },
-/* DepthTested */ { FillFlatZ,  FillFlatZBlend,   FillGouraudZ,            FillGouraudZBlend },
+constexpr FillerId kUntextured[kKindCount][2][2] = {
+//                   flat        flat, blended        gouraud                  gouraud, blended
+/* NoDepth     */ {{ FillFlat,   FillFlatBlend  }, {  FillGouraud,             FillGouraudBlend  }},
+/* DepthKeyed  */ {{ FillFlatZ,  FillFlatZBlend }, {  FillGouraudZKeyedKind,   FillGouraudZBlend }},
+/* InvDepth    */ {{ FillFlatW,  FillFlatWBlend }, {  FillGouraudW,            FillGouraudWBlend }},
+/* DepthTested */ {{ FillFlatZ,  FillFlatZBlend }, {  FillGouraudZ,            FillGouraudZBlend }},
 };
 
 // Far, gouraud-lit, not blended in the inverse-depth kind is flat-lit: REQUIRED R1.
-constexpr FillerId kTextured[kKindCount][kClassCount][kPathCount] = {
+constexpr FillerId kTextured[kKindCount][kClassCount][2][kPathCount] = {
 //                     path 1                      path 1, alternate           path 2                        path 3                     far                         near
 { // NoDepth
-/* unlit          */ { FillTex,                    FillTexAlt,                 FillTex,                      FillTex,                   FillTex,                    FillTex                   },
-/*       , blended*/ { FillTexBlend,               FillTexBlend,               FillTexBlend,                 FillTexBlend,              FillTexBlend,               FillTexBlend              },
-/* flat           */ { FillTexFlat,                FillTexFlat,                FillTexFlat,                  FillTexFlat,               FillTexFlat,                FillTexFlat               },
-/*       , blended*/ { FillTexFlatBlend,           FillTexFlatBlend,           FillTexFlatBlend,             FillTexFlatBlend,          FillTexFlatBlend,           FillTexFlatBlend          },
-/* gouraud        */ { FillTexGouraud,             FillTexGouraud,             FillTexGouraud,               FillTexGouraud,            FillTexGouraud,             FillTexGouraud            },
-/*       , blended*/ { FillTexGouraudBlend,        FillTexGouraudBlend,        FillTexGouraudBlend,          FillTexGouraudBlend,       FillTexGouraudBlend,        FillTexGouraudBlend       },
+/* unlit          */ {{ FillTex,                    FillTexAlt,                 FillTex,                      FillTex,                   FillTex,                    FillTex                   },
+/*       , blended*/  { FillTexBlend,               FillTexBlend,               FillTexBlend,                 FillTexBlend,              FillTexBlend,               FillTexBlend              }},
+/* flat           */ {{ FillTexFlat,                FillTexFlat,                FillTexFlat,                  FillTexFlat,               FillTexFlat,                FillTexFlat               },
+/*       , blended*/  { FillTexFlatBlend,           FillTexFlatBlend,           FillTexFlatBlend,             FillTexFlatBlend,          FillTexFlatBlend,           FillTexFlatBlend          }},
+/* gouraud        */ {{ FillTexGouraud,             FillTexGouraud,             FillTexGouraud,               FillTexGouraud,            FillTexGouraud,             FillTexGouraud            },
+/*       , blended*/  { FillTexGouraudBlend,        FillTexGouraudBlend,        FillTexGouraudBlend,          FillTexGouraudBlend,       FillTexGouraudBlend,        FillTexGouraudBlend       }},
 }, { // DepthKeyed
-/* unlit          */ { FillTexZKeyed,              FillTexZAlt,                FillTexZKeyed,                FillTexZKeyed,             FillTexZKeyed,              FillTexZKeyed             },
-/*       , blended*/ { FillTexZBlend,              FillTexZBlend,              FillTexZBlend,                FillTexZBlend,             FillTexZBlend,              FillTexZBlend             },
-/* flat           */ { FillTexFlatZ,               FillTexFlatZ,               FillTexFlatZ,                 FillTexFlatZ,              FillTexFlatZ,               FillTexFlatZ              },
-/*       , blended*/ { FillTexFlatZBlend,          FillTexFlatZBlend,          FillTexFlatZBlend,            FillTexFlatZBlend,         FillTexFlatZBlend,          FillTexFlatZBlend         },
-/* gouraud        */ { FillTexGouraudZ,            FillTexGouraudZ,            FillTexGouraudZ,              FillTexGouraudZ,           FillTexGouraudZ,            FillTexGouraudZ           },
-/*       , blended*/ { FillTexGouraudZBlend,       FillTexGouraudZBlend,       FillTexGouraudZBlend,         FillTexGouraudZBlend,      FillTexGouraudZBlend,       FillTexGouraudZBlend      },
+/* unlit          */ {{ FillTexZKeyed,              FillTexZAlt,                FillTexZKeyed,                FillTexZKeyed,             FillTexZKeyed,              FillTexZKeyed             },
+/*       , blended*/  { FillTexZBlend,              FillTexZBlend,              FillTexZBlend,                FillTexZBlend,             FillTexZBlend,              FillTexZBlend             }},
+/* flat           */ {{ FillTexFlatZ,               FillTexFlatZ,               FillTexFlatZ,                 FillTexFlatZ,              FillTexFlatZ,               FillTexFlatZ              },
+/*       , blended*/  { FillTexFlatZBlend,          FillTexFlatZBlend,          FillTexFlatZBlend,            FillTexFlatZBlend,         FillTexFlatZBlend,          FillTexFlatZBlend         }},
+/* gouraud        */ {{ FillTexGouraudZ,            FillTexGouraudZ,            FillTexGouraudZ,              FillTexGouraudZ,           FillTexGouraudZ,            FillTexGouraudZ           },
+/*       , blended*/  { FillTexGouraudZBlend,       FillTexGouraudZBlend,       FillTexGouraudZBlend,         FillTexGouraudZBlend,      FillTexGouraudZBlend,       FillTexGouraudZBlend      }},
 }, { // InvDepth
-/* unlit          */ { FillTexWAffine,             FillTexWAlt,                FillTexWPerPixel,             FillTexWSpan,              FillTexWAffine,             FillTexWSpan              },
-/*       , blended*/ { FillTexWAffineBlend,        FillTexWAffineBlend,        FillTexWPerPixelBlend,        FillTexWSpanBlend,         FillTexWAffineBlend,        FillTexWSpanBlend         },
-/* flat           */ { FillTexFlatWAffine,         FillTexFlatWAffine,         FillTexFlatWPerPixel,         FillTexFlatWSpan,          FillTexFlatWAffine,         FillTexFlatWSpan          },
-/*       , blended*/ { FillTexFlatWAffineBlend,    FillTexFlatWAffineBlend,    FillTexFlatWPerPixelBlend,    FillTexFlatWSpanBlend,     FillTexFlatWAffineBlend,    FillTexFlatWSpanBlend     },
-/* gouraud        */ { FillTexGouraudW,            FillTexGouraudW,            FillTexGouraudW,              FillTexGouraudW,           FillTexFlatWAffine,         FillTexGouraudW           },
-/*       , blended*/ { FillTexGouraudWBlend,       FillTexGouraudWBlend,       FillTexGouraudWBlend,         FillTexGouraudWBlend,      FillTexGouraudWBlend,       FillTexGouraudWBlend      },
+/* unlit          */ {{ FillTexWAffine,             FillTexWAlt,                FillTexWPerPixel,             FillTexWSpan,              FillTexWAffine,             FillTexWSpan              },
+/*       , blended*/  { FillTexWAffineBlend,        FillTexWAffineBlend,        FillTexWPerPixelBlend,        FillTexWSpanBlend,         FillTexWAffineBlend,        FillTexWSpanBlend         }},
+/* flat           */ {{ FillTexFlatWAffine,         FillTexFlatWAffine,         FillTexFlatWPerPixel,         FillTexFlatWSpan,          FillTexFlatWAffine,         FillTexFlatWSpan          },
+/*       , blended*/  { FillTexFlatWAffineBlend,    FillTexFlatWAffineBlend,    FillTexFlatWPerPixelBlend,    FillTexFlatWSpanBlend,     FillTexFlatWAffineBlend,    FillTexFlatWSpanBlend     }},
+/* gouraud        */ {{ FillTexGouraudW,            FillTexGouraudW,            FillTexGouraudW,              FillTexGouraudW,           FillTexFlatWAffine,         FillTexGouraudW           },
+/*       , blended*/  { FillTexGouraudWBlend,       FillTexGouraudWBlend,       FillTexGouraudWBlend,         FillTexGouraudWBlend,      FillTexGouraudWBlend,       FillTexGouraudWBlend      }},
 }, { // DepthTested
-/* unlit          */ { FillTexKeyedZWrite,         FillTexZAlt,                FillTexZ,                     FillTexZ,                  FillTexZ,                   FillTexZ                  },
-/*       , blended*/ { FillTexZBlend,              FillTexZBlend,              FillTexZBlend,                FillTexZBlend,             FillTexZBlend,              FillTexZBlend             },
-/* flat           */ { FillTexFlatKeyedZWrite,     FillTexFlatKeyedZWrite,     FillTexFlatZ,                 FillTexFlatZ,              FillTexFlatZ,               FillTexFlatZ              },
-/*       , blended*/ { FillTexFlatZBlend,          FillTexFlatZBlend,          FillTexFlatZBlend,            FillTexFlatZBlend,         FillTexFlatZBlend,          FillTexFlatZBlend         },
-/* gouraud        */ { FillTexGouraudZ,            FillTexGouraudZ,            FillTexGouraudZ,              FillTexGouraudZ,           FillTexGouraudZ,            FillTexGouraudZ           },
-/*       , blended*/ { FillTexGouraudZBlend,       FillTexGouraudZBlend,       FillTexGouraudZBlend,         FillTexGouraudZBlend,      FillTexGouraudZBlend,       FillTexGouraudZBlend      },
+/* unlit          */ {{ FillTexKeyedZWrite,         FillTexZAlt,                FillTexZ,                     FillTexZ,                  FillTexZ,                   FillTexZ                  },
+/*       , blended*/  { FillTexZBlend,              FillTexZBlend,              FillTexZBlend,                FillTexZBlend,             FillTexZBlend,              FillTexZBlend             }},
+/* flat           */ {{ FillTexFlatKeyedZWrite,     FillTexFlatKeyedZWrite,     FillTexFlatZ,                 FillTexFlatZ,              FillTexFlatZ,               FillTexFlatZ              },
+/*       , blended*/  { FillTexFlatZBlend,          FillTexFlatZBlend,          FillTexFlatZBlend,            FillTexFlatZBlend,         FillTexFlatZBlend,          FillTexFlatZBlend         }},
+/* gouraud        */ {{ FillTexGouraudZ,            FillTexGouraudZ,            FillTexGouraudZ,              FillTexGouraudZ,           FillTexGouraudZ,            FillTexGouraudZ           },
+/*       , blended*/  { FillTexGouraudZBlend,       FillTexGouraudZBlend,       FillTexGouraudZBlend,         FillTexGouraudZBlend,      FillTexGouraudZBlend,       FillTexGouraudZBlend      }},
 } };
 // clang-format on
 
@@ -119,48 +118,48 @@ bool ChooseTexture(const DrawJob& job, const RenderFace& face, ScreenPolygon* po
     return texture != nullptr && texture->pixels != nullptr;
 }
 
-// Copies of the face what its class needs; false when the face draws nothing.
-bool PreparePolygon(const DrawJob& job, const RenderFace& face, ScreenPolygon* polygon) {
+// Copies what the class reads; the rest of the polygon keeps what the face before left there.
+void CopyFace(const RenderFace& face, Class light, ScreenPolygon* polygon) {
     const bool textured = (face.flags & MAT_TEXTURED) != 0;
-    std::copy_n(face.litColors, 3, polygon->litColors);
+    std::copy_n(face.litColors, light == Unlit ? 0 : light == FlatLit ? 1 : 3, polygon->litColors);
     for (int i = 0; i < 3; ++i) {
-        polygon->vertices[i].x = face.work[i].x;
-        polygon->vertices[i].y = face.work[i].y;
-        polygon->vertices[i].z = face.work[i].z;
-        polygon->vertices[i].u = face.work[i].u;
-        polygon->vertices[i].v = face.work[i].v;
+        Vertex& to = polygon->vertices[i];
+        const Vertex& from = face.work[i];
+        to.x = from.x;
+        to.y = from.y;
+        to.z = from.z;
+        if (textured) {
+            to.u = from.u;
+            to.v = from.v;
+        }
     }
-    return !textured || ChooseTexture(job, face, polygon);
 }
 
 void DrawFace(const DrawJob& job, Kind kind, const RenderFace& face, ScreenPolygon* polygon) {
-    if (!PreparePolygon(job, face, polygon)) {
+    // Class the face. Without a texture there is no unlit one, and gouraud must be asked for.
+    const bool textured = (face.flags & MAT_TEXTURED) != 0;
+    const Class light = (face.flags & MAT_UNLIT) != 0  ? (textured ? Unlit : FlatLit)
+                        : (face.flags & MAT_FLAT) != 0 ? FlatLit
+                                                       : GouraudLit;
+    if (!textured && light == GouraudLit && (face.flags & MAT_GOURAUD) == 0) {
         return;
     }
+    CopyFace(face, light, polygon);
+
     // The job's level comes before the face's own; no more than the blend tables have.
     const std::uint32_t level =
         std::min(job.level >= 0 ? static_cast<std::uint32_t>(job.level) : face.color >> 24,
                  std::uint32_t{7});
     const bool blended =
         (job.flags & DRAW_BLEND) != 0 && ((face.flags & MAT_TRANSLUCENT) != 0 || job.level >= 0);
-    const int blendStep = blended ? 1 : 0;
 
-    FillerId id = FillFlat;
-    if ((face.flags & MAT_TEXTURED) != 0) {
+    FillerId id = kUntextured[kind][light == GouraudLit][blended];
+    if (textured) {
         const Path path = PathOf(job, face.work[0].z);
-        if (path == kPathCount) {
+        if (!ChooseTexture(job, face, polygon) || path == kPathCount) {
             return;
         }
-        const Class light = (face.flags & MAT_UNLIT) != 0  ? Unlit
-                            : (face.flags & MAT_FLAT) != 0 ? FlatLit
-                                                           : GouraudLit;
-        id = kTextured[kind][light + blendStep][path];
-    } else if ((face.flags & (MAT_UNLIT | MAT_FLAT)) != 0) {
-        id = kUntextured[kind][PlainFlat + blendStep];
-    } else if ((face.flags & MAT_GOURAUD) != 0) {
-        id = kUntextured[kind][PlainGouraud + blendStep];
-    } else {
-        return;
+        id = kTextured[kind][light][blended][path];
     }
     activeFillers[static_cast<int>(id)](
         polygon, {job.frame, job.framePitch, job.depth, job.depthPitch, level});
