@@ -47,10 +47,10 @@ TEST_F(Bmp, RowsAreTurnedOver) {
     recipe.pixels = Bytes({1, 2, 3, 4, 5, 6});
     ASSERT_EQ(Load(recipe), 1);
     EXPECT_EQ(std::string(image.pixels, image.pixels + 6), Bytes({5, 6, 3, 4, 1, 2}));
-    EXPECT_EQ(image.infoHeader.width, 2);
-    EXPECT_EQ(image.infoHeader.height, 3);
-    EXPECT_EQ(image.infoHeader.bitCount, 8);
-    EXPECT_EQ(image.fileHeader.type, 0x4D42);
+    EXPECT_EQ(+image.infoHeader.width, 2);
+    EXPECT_EQ(+image.infoHeader.height, 3);
+    EXPECT_EQ(+image.infoHeader.bitCount, 8);
+    EXPECT_EQ(+image.fileHeader.type, 0x4D42);
 }
 
 TEST_F(Bmp, SixteenBitsStayAsTheyAre) {
@@ -71,7 +71,7 @@ TEST_F(Bmp, TwentyFourBitsBecomeTheDisplaysFormat) {
     recipe.height = 1;
     recipe.pixels = Bytes({0, 0, 255, 0, 255, 0, 255, 0, 0, 0x12, 0x34, 0x56});
     ASSERT_EQ(Load(recipe), 1);
-    EXPECT_EQ(image.infoHeader.bitCount, 16);
+    EXPECT_EQ(+image.infoHeader.bitCount, 16);
     EXPECT_EQ(Pixel(image, 0), 0xF800);
     EXPECT_EQ(Pixel(image, 1), 0x07E0);
     EXPECT_EQ(Pixel(image, 2), 0x001F);
@@ -186,8 +186,8 @@ TEST_F(Bmp, FailureKeepsTheImageThatWasThere) {
     EXPECT_EQ(LoadBytes("XX" + PlainBmp(8, 8, 0).substr(2)), 0);
     EXPECT_EQ(LoadBytes(PlainBmp(8, 8, 0).substr(0, 60)), 0);
     EXPECT_EQ(image.pixels, pixels);
-    EXPECT_EQ(image.infoHeader.width, 4);
-    EXPECT_EQ(image.infoHeader.bitCount, 16);
+    EXPECT_EQ(+image.infoHeader.width, 4);
+    EXPECT_EQ(+image.infoHeader.bitCount, 16);
     EXPECT_EQ(Pixel(image, 0), 0xF800);
 }
 
@@ -195,7 +195,7 @@ TEST_F(Bmp, ReleaseKeepsHeaders) {
     ASSERT_EQ(LoadBytes(PlainBmp(4, 4, 0xFF0000)), 1);
     EXPECT_EQ(releaseBmp(&image), 1);
     EXPECT_EQ(image.pixels, nullptr);
-    EXPECT_EQ(image.infoHeader.width, 4);
+    EXPECT_EQ(+image.infoHeader.width, 4);
     EXPECT_EQ(releaseBmp(&image), 1);
 }
 

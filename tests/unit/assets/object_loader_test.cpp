@@ -565,7 +565,7 @@ TEST_F(ObjectLoader, OnlyTheFirstTextureIsLoaded) {
     EXPECT_EQ(mesh_.faces[0].texture.single, mesh_.texture.single);
     EXPECT_EQ(mesh_.faces[1].texture.single, mesh_.texture.single);
     EXPECT_STREQ(materials[1].textureName, " x/other.bmp ");
-    EXPECT_EQ(loaderImage.infoHeader.width, 8) << "the second file is not opened";
+    EXPECT_EQ(+loaderImage.infoHeader.width, 8) << "the second file is not opened";
 }
 
 TEST_F(ObjectLoader, R18_NameStartsBehindEighteenCharacters) {
