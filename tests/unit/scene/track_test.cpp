@@ -150,7 +150,7 @@ TEST_F(Track, ReadsWhatTheLibrarysScannerReads) {
     const char kAlphabet[] = "0123456789  ,,;;\t\n+-..a";
     test::Numbers numbers{7};
     int keysSeen = 0;
-    for (int round = 0; round < 1000; ++round) {
+    for (int round = 0; round < 300; ++round) {
         std::string text;
         for (std::uint32_t line = numbers.Below(5); line > 0; --line) {
             text += "0.5, -1, 2;\t12.25, 0, +7;\t.5, 90, 360.;\t90;\t0.02;\n";
@@ -194,7 +194,7 @@ TEST_F(Track, ReadsWhatTheLibrarysScannerReads) {
         ASSERT_EQ(count, want) << text;
         keysSeen += count;
     }
-    EXPECT_GT(keysSeen, 1000);
+    EXPECT_GT(keysSeen, 300);
 }
 
 // --- sampling ----------------------------------------------------------------------------------
