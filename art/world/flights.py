@@ -1,0 +1,131 @@
+"""The two flights: named waypoints, each with its reason; writes the tracks and prints figures."""
+import math
+
+import numpy as np
+
+import island
+import layout
+
+# name: x y z, ax (down +), ay (bearing).  Steps are powers of two, so that frame counts are exact.
+SCENE_ONE = [
+    ("shapes the first tangent", -760, 215, -3560, 60, 15),
+    ("black water, lamps below", -735, 215, -3500, 54, 15),
+    ("the way lifts the eyes", -715, 215, -3440, 32, 15),
+    ("three gates stand against the sky", -692, 216, -3370, 10, 15),
+    ("slow approach", -664, 218, -3280, 0, 16),
+    ("the parasol fills the first gate", -628, 222, -3160, -5, 17),
+    ("through the first gate", -576, 226, -3000, -6, 18),
+    ("between the gates, the boat on the right", -512, 230, -2820, -6, 20),
+    ("low, the dunes grow", -440, 226, -2630, -7, 20),
+    ("through the second gate", -352, 224, -2400, -8, 18),
+    ("the tower shows in the third gate", -270, 236, -2170, -8, 16),
+    ("through the third gate", -190, 256, -1930, -10, 13),
+    ("the dial opens, title done", -120, 290, -1690, -12, 9),
+    ("over the hour stones' circle", -30, 310, -1430, -13, 5),
+    ("under the canopy's edge", 100, 310, -1180, -17, 2),
+    ("round the pole, looking up to the lanterns", 290, 320, -930, -17, 3),
+    ("out of the shade towards the tower", 530, 340, -640, -12, 16),
+    ("the sun beside the tower", 770, 350, -330, -9, 30),
+    ("between the hour stones", 920, 365, 10, -9, 37),
+    ("the stair in view", 880, 410, 330, -12, 39),
+    ("circling begins, westward", 680, 500, 690, -10, 54),
+    ("level with the windows", 520, 640, 1180, -6, 83),
+    ("behind, the viaduct walks to sea", 590, 820, 1780, 0, 116),
+    ("level with the lamp room", 1010, 1010, 2260, 5, 151),
+    ("tower before parasol", 1760, 1230, 2420, 9, 200),
+    ("the climb begins", 2440, 1540, 1760, 15, 232),
+    ("the whole island turns", 2720, 1960, 640, 23, 257),
+    ("over the eastern rocks", 2440, 2420, -480, 32, 281),
+    ("the parasol below the middle", 1700, 2920, -1480, 40, 311),
+    ("the ring of the stand enters", 560, 3360, -2300, 45, 345),
+    ("through the glass", -620, 3960, -3200, 43, 369.5),
+    ("away", -1900, 4420, -4650, 35, 381.5),
+    ("the globe whole", -3200, 4400, -6100, 26.5, 387),
+    ("rest", -4350, 4050, -7400, 18.5, 390.2),
+    ("shapes the last tangent", -5000, 3850, -8150, 16, 391.2),
+]
+
+
+def ring(bearing, radius, height, down, look_off=0.0):
+    """An eye on a circle around the parasol that looks to the middle."""
+    a = math.radians(bearing)
+    x, z = radius * math.sin(a), radius * math.cos(a)
+    return (x, height, z, down, bearing + 180.0 + look_off)
+
+
+def scene_two():
+    keys = [("shapes the first tangent", -1420, 400, -3000, 2, 26)]
+    keys.append(("behind the gates, low", -1340, 400, -2860, 2, 27))
+    # one slow turn of the night garden; bearings fall, so that ay falls
+    plan = [(208, 2850, 420, 3, 0), (202, 2620, 460, 4, 2), (194, 2420, 520, 6, 4),
+            (184, 2300, 600, 9, 4), (172, 2250, 690, 11, 2), (159, 2280, 780, 13, 0),
+            (146, 2350, 860, 15, -2), (133, 2420, 920, 16, -3), (120, 2480, 960, 16, -3),
+            (107, 2520, 1000, 16, -2), (94, 2560, 1060, 17, 0), (81, 2620, 1130, 18, 2),
+            (69, 2760, 1240, 19, 2)]
+    names = ["past the second gate", "the dial from the sea", "over the shore", "boats behind",
+             "the stands", "the basin in colour", "east shore", "pools of light cross",
+             "the tower to the right", "the tower before the dial", "its stair near", "above it",
+             "turning out"]
+    for n, (b, r, h, d, off) in zip(names, plan):
+        x, y, z, ax, ay = ring(b, r, h, d, off)
+        keys.append((n, x, y, z, ax, ay - 180 - 180 if False else ay))
+    # the points: far, slow, from above, a third of a turn and rest
+    dots = [(58, 2980, 1320, 19, 1), (50, 3120, 1360, 19, 0), (43, 3220, 1380, 19, 0),
+            (36, 3300, 1390, 18, 0), (29, 3350, 1400, 18, 0), (22, 3380, 1430, 19, 0),
+            (15, 3400, 1500, 20, 0), (8, 3400, 1600, 21, 0), (1, 3400, 1720, 23, 0),
+            (-6, 3400, 1860, 25, 0), (-13, 3400, 1990, 27, 0), (-20, 3400, 2090, 29, 0),
+            (-27, 3400, 2120, 30, 0), (-34, 3400, 2080, 29, 0), (-41, 3390, 1970, 28, 0),
+            (-48, 3370, 1830, 26, 0), (-55, 3350, 1690, 24, 0), (-61, 3330, 1570, 22, 0),
+            (-66, 3310, 1480, 21, 0), (-69, 3300, 1430, 20, 0)]
+    for k, (b, r, h, d, off) in enumerate(dots):
+        x, y, z, ax, ay = ring(b, r, h, d, off)
+        keys.append(("points %d" % (k + 1), x, y, z, ax, ay))
+    return keys
+
+
+def unwrap(keys):
+    """Bearings as numbers without jumps."""
+    out, last = [], None
+    for name, x, y, z, ax, ay in keys:
+        if last is not None:
+            while ay - last > 180:
+                ay -= 360
+            while ay - last < -180:
+                ay += 360
+        last = ay
+        out.append((name, x, y, z, ax, ay))
+    return out
+
+
+def write(path, keys, step, rest_key=None):
+    lines = []
+    for k, (_, x, y, z, ax, ay) in enumerate(keys):
+        s = 1.0 if k == rest_key else step
+        lines.append("%.1f, %.1f, %.1f;\t%.2f, %.2f, %.2f;\t%.3f, %.3f, %.3f;\t%.1f;\t%.7f;" % (
+            0, -1, 0, x, y, z, ax, ay, 0, 90, s))
+    path.write_bytes(("\n".join(lines) + "\n").encode("ascii"))
+
+
+def sample(keys, step, frames):
+    """The renderer's own curve for continuity -1: m0 = d0, m1 = d1."""
+    p = np.array([k[1:] for k in keys], float)
+    n = int(round(1 / step))
+    out = []
+    for s in range(len(p) - 2):
+        d0, d1 = p[s + 1] - p[s], p[s + 2] - p[s + 1]
+        for f in range(n):
+            u = f / n
+            out.append((u ** 3 - 2 * u * u + u) * d0 + (u ** 3 - u * u) * d1
+                       + (2 * u ** 3 - 3 * u * u + 1) * p[s + 1] + (3 - 2 * u) * u * u * p[s + 2])
+            if len(out) >= frames:
+                return np.array(out)
+    return np.array(out)
+
+
+def tracks(folder):
+    folder.mkdir(parents=True, exist_ok=True)
+    two = unwrap(scene_two())
+    assert len(SCENE_ONE) == 35 and len(two) == 35, (len(SCENE_ONE), len(two))
+    write(folder / "scene1.trk", unwrap(SCENE_ONE), 1 / 64, rest_key=33)
+    write(folder / "scene2.trk", two, 1 / 128)
+    return {"scene1": (unwrap(SCENE_ONE), 1 / 64, 2049), "scene2": (two, 1 / 128, 3967)}

@@ -1,0 +1,139 @@
+"""Makes every file of data/ but the soundtrack.  Usage: make.py DATA_FOLDER CACHE_FOLDER [--plain]
+
+Bakes are read from CACHE_FOLDER/bake (see bake.py); --plain colours the faces flat instead.
+"""
+import pathlib
+import sys
+
+import numpy as np
+
+import bitmap
+import cobfile
+import fixed
+import flights
+import fonts
+import island
+import layout
+import models
+import paint
+
+MODELS = {
+    "causeway": models.causeway, "gate": models.gate, "parasol-pole": models.parasol_pole,
+    "tower": models.tower, "viaduct": models.viaduct, "pavilion": models.pavilion,
+    "armillary": models.armillary, "basin": models.basin, "hour-stone": models.hour_stone,
+    "lamp": models.lamp, "stand": models.shade_stand, "pine": models.pine,
+    "islet": models.islet, "reef": models.reef, "spire": models.spire, "boat": models.boat,
+    "lantern-ring": models.lantern_ring, "canopy": models.canopy,
+}
+
+
+def swatches(mesh):
+    """Flat colours: one texel block for each albedo.  Returns the picture, sets the uv."""
+    colors = sorted({c for c in mesh.colors})
+    side = 1
+    while side * side < len(colors):
+        side *= 2
+    px = max(4, 64 // side)
+    size = side * px
+    page = np.zeros((size, size, 3))
+    where = {}
+    for k, c in enumerate(colors):
+        i, j = k % side, k // side
+        page[j * px:(j + 1) * px, i * px:(i + 1) * px] = c
+        where[c] = ((i * px + px / 2) / (size - 1), 1 - (j * px + px / 2) / (size - 1))
+    mesh.uvs = [(where[c],) * 3 for c in mesh.colors]
+    return page
+
+
+def main():
+    data, cache = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    plain = "--plain" in sys.argv
+    d3, d2, tex, cam = (data / p for p in ("3d", "2d", "texture", "cam"))
+    for p in (d3, d2, tex, cam):
+        p.mkdir(parents=True, exist_ok=True)
+
+    def picture(name, page, amplitude=0.8):
+        bitmap.write_bmp(tex / (name + ".bmp"), bitmap.dither565(page, amplitude))
+        return name + ".bmp"
+
+    def spare(mesh):
+        return (0.0, 0.0, 1.42 * mesh.reach())
+
+    # The fixed objects.
+    day = paint.sky_day()
+    picture("sky-day", day, 1.0)
+    picture("sky-night", paint.sky_night(day), 1.0)
+    water = paint.sea_tile()
+    picture("sea", water)
+    picture("sea-night", paint.sea_night(water)[::2, ::2])
+    picture("sea-far", paint.sea_far())
+    picture("glass", paint.glass())
+    picture("globe-stand", paint.stand())
+    cobfile.write(d3 / "sky-sphere-04.cob", "sky", fixed.sky(), "sky-day.bmp", "fixed",
+                  fixed.SKY_SCALE)
+    cobfile.write(d3 / "sky-sphere-04-alpha-s2.cob", "night", fixed.sky_night(), "sky-night.bmp",
+                  "fixed", fixed.SKY_SCALE)
+    cobfile.write(d3 / "sky-sphere-04-alpha0.cob", "glass", fixed.glass(), "glass.bmp", "fixed",
+                  fixed.SKY_SCALE)
+    cobfile.write(d3 / "stay-01.cob", "stand", fixed.stand(), "globe-stand.bmp", "fixed",
+                  fixed.STAND_SCALE)
+    helper = (0.0, 1062.5, 0.0)
+    cobfile.write(d3 / "ground-lowpoly-03.cob", "water", fixed.ground(10, "plastic"), "sea.bmp",
+                  "fixed", fixed.GROUND_SCALE, helper, True)
+    cobfile.write(d3 / "ground-lowpoly-03-alpha.cob", "night-water",
+                  fixed.ground(8, "tex:plastic:4"), "sea-night.bmp", "fixed", fixed.GROUND_SCALE,
+                  helper, True)
+    cobfile.write(d3 / "light_debug.cob", "light-mark", fixed.light_mark(), None, "fixed",
+                  (100, 100))
+
+    # The island and the dial: painted, times baked light where it is cached.
+    def baked_light(name, page):
+        path = cache / "bake" / (name + ".light.npy")
+        if plain or not path.exists():
+            return page
+        light = np.load(path)
+        return page * light
+
+    for i in range(3):
+        for j in range(3):
+            name = "isle-%d%d" % (i, j)
+            if (i, j) == (1, 1):
+                continue          # under the dial
+            mesh = island.patch(i, j)
+            cx, cy = island.patch_middle(i, j)
+            n = island.texture_size(i, j)
+            y, x = (np.mgrid[0:n, 0:n] + 0.5) / n - 0.5
+            x, y = cx + x * island.PATCH, cy - y * island.PATCH
+            page = paint.sand_color(x, y, island.height(x, y))
+            picture(name, baked_light(name, page))
+            cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
+    for name, mesh, size, radius in (("dial", island.dial_inner(), 512, 756),
+                                     ("dial-ring", island.dial_outer(), 512, 1500)):
+        picture(name, baked_light(name, paint.dial(size, radius)))
+        cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
+    sea = fixed.sea_disc()
+    cobfile.write(d3 / "sea.cob", "sea", sea, "sea-far.bmp", spare=spare(sea))
+
+    # Everything that the list places.
+    for name, make in MODELS.items():
+        mesh = make()
+        bake = cache / "bake" / (name + ".npz")
+        if plain or not bake.exists():
+            page = swatches(mesh)
+        else:
+            stored = np.load(bake)
+            if len(stored["uv"]) != len(mesh.faces):
+                raise SystemExit("%s: the cached bake is of another model" % name)
+            mesh.uvs = [tuple((float(u), float(v)) for u, v in f) for f in stored["uv"]]
+            page = stored["page"]
+        picture(name, page)
+        cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
+    cobfile.write(d3 / "dummy.cob", "dummy", models.dummy(), None)
+
+    layout.scene_list(data / "scene1.po")
+    flights.tracks(cam)
+    fonts.sheets(d2)
+
+
+if __name__ == "__main__":
+    main()
