@@ -264,7 +264,7 @@ TEST_F(Clip, TheLastFreeRecordGoesToTheFirstLeftOver) {
     // A huge face around the eye's line of sight: cut at all four sides of the band, many
     // triangles.
     RenderFace* face =
-        test::AddFace(0, VertexAt(-130, -100, 10), VertexAt(130, -100, 10), VertexAt(0, 300, 10));
+        test::AddFace(0, VertexAt(-150, -100, 10), VertexAt(130, -100, 10), VertexAt(0, 300, 10));
     ClipPolygons(&test::list, &camera_, 7);
     const std::int32_t triangles = test::list.count;
     ASSERT_EQ(triangles, 4);
@@ -272,7 +272,7 @@ TEST_F(Clip, TheLastFreeRecordGoesToTheFirstLeftOver) {
 
     test::ResetList();
     face =
-        test::AddFace(0, VertexAt(-130, -100, 10), VertexAt(130, -100, 10), VertexAt(0, 300, 10));
+        test::AddFace(0, VertexAt(-150, -100, 10), VertexAt(130, -100, 10), VertexAt(0, 300, 10));
     RenderFace* other = test::AddFace(0, VertexAt(0, 0, 5), VertexAt(4, 0, 5), VertexAt(0, 2, -3));
     const Vertex v = VertexAt(0, 0, 9);
     while (test::list.count < 65535) {
