@@ -5,6 +5,8 @@
 
 #include <cmath>
 #include <cstring>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -258,6 +260,24 @@ TEST_F(ObjectLoader, OtherLinesBlanksAndLineEndsBetween) {
     text.replace(face, 17, "< 0 , 0 >\t<1,1><2,2>  ");
     ASSERT_EQ(LoadText(&tabs, text), 1);
     EXPECT_EQ(tabs.faces[0].v1, 1);
+}
+
+TEST_F(ObjectLoader, TheExampleOfTheDocumentation) {
+    std::ifstream file(std::string(OMBREL_SOURCE_DIR) + "/docs/data-formats.md");
+    const std::string page((std::istreambuf_iterator<char>(file)),
+                           std::istreambuf_iterator<char>());
+    const std::size_t start = page.find("```\nName tile\n");
+    ASSERT_NE(start, std::string::npos);
+    const std::size_t end = page.find("```", start + 4);
+    Write("texture/tile.bmp", PlainBmp(16, 16, 0xFF0000));
+    ASSERT_EQ(LoadText(&mesh_, page.substr(start + 4, end - start - 4), PlainRequest(0x610)), 1);
+    EXPECT_EQ(mesh_.faceCount, 1);
+    EXPECT_EQ(mesh_.texture.single->width, 16);
+    EXPECT_EQ(mesh_.faces[0].flags,
+              FACE_TEXTURED | FACE_MATTE | FACE_TRANSPARENT | FACE_LOADED | FACE_FLATCOLOR16);
+    EXPECT_EQ(mesh_.faces[0].color, 0x0400FFFFU);
+    EXPECT_EQ(PositionOf(mesh_, 2), (Triple{0, 0, 4}));
+    EXPECT_EQ(mesh_.texCoords[1].v, 15.0F);
 }
 
 // --- lines that are taken as they come -----------------------------------------------------------
