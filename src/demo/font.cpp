@@ -16,12 +16,12 @@ constexpr std::int32_t kColumns = 16;
 constexpr std::uint32_t kKeyColor = 0;
 
 // The part of a sheet that belongs to a character, cut to the sheet.
-Rect CellOf(std::int32_t code, const BmpInfoHeader& sheet) {
+Rect CellOf(std::int32_t code, std::int32_t sheetWidth, std::int32_t sheetHeight) {
     Rect cell;
     cell.left = code % kColumns * (kGlyphWidth + 1) + 1;
     cell.top = code / kColumns * (kGlyphHeight + 1) + 1;
-    cell.right = std::min(cell.left + kGlyphWidth, sheet.width);
-    cell.bottom = std::min(cell.top + kGlyphHeight, sheet.height);
+    cell.right = std::min(cell.left + kGlyphWidth, sheetWidth);
+    cell.bottom = std::min(cell.top + kGlyphHeight, sheetHeight);
     return cell;
 }
 
@@ -30,9 +30,10 @@ void FillFrame(GlyphSet* set, std::int32_t code, const BmpImage& sheet) {
     if (!LockSurface(set->frames[code], &memory)) {
         return;
     }
-    const Rect cell = CellOf(code, sheet.infoHeader);
+    const std::int32_t sheetWidth = sheet.infoHeader.width;
+    const Rect cell = CellOf(code, sheetWidth, sheet.infoHeader.height);
     const std::size_t columns = static_cast<std::size_t>(std::max(cell.right - cell.left, 0));
-    const std::size_t sheetPitch = static_cast<std::size_t>(sheet.infoHeader.width) * 2;
+    const std::size_t sheetPitch = static_cast<std::size_t>(sheetWidth) * 2;
     for (std::int32_t y = 0; y < kGlyphHeight; ++y) {
         Pixel16* const row = memory.pixels + static_cast<std::ptrdiff_t>(y) * (memory.pitch / 2);
         std::memset(row, 0, kGlyphWidth * sizeof(Pixel16));

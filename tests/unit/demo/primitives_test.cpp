@@ -170,7 +170,8 @@ TEST_F(Primitives, WildLinesStayInsideAndOnTheLine) {
     for (int i = 0; i < 40000; ++i) {
         const int reach = reaches[i % 4];
         const auto any = [&] {
-            return static_cast<int>(random() % (2U * static_cast<unsigned>(reach))) - reach;
+            const std::int64_t room = 2 * std::int64_t{reach};
+            return static_cast<int>(static_cast<std::int64_t>(random()) % room - reach);
         };
         const Line2d line{any(), any(), any(), any()};
         std::fill(pixels.begin(), pixels.end(), Pixel16{0});
