@@ -6,17 +6,18 @@
 
 namespace ombrel {
 
-int OpenScreen(const ScreenRequest& request) {
-    if (sdl2.window == nullptr) {
-        return 0;
-    }
+bool MakeRenderer() {
     SDL_SetHint(SDL_HINT_RENDER_SCALE_QUALITY, "nearest");
     SDL_SetHint(SDL_HINT_RENDER_VSYNC, "0");
     sdl2.renderer = SDL_CreateRenderer(sdl2.window, -1, 0);
     if (sdl2.renderer == nullptr) {
         sdl2.renderer = SDL_CreateRenderer(sdl2.window, -1, SDL_RENDERER_SOFTWARE);
     }
-    if (sdl2.renderer == nullptr) {
+    return sdl2.renderer != nullptr;
+}
+
+int OpenScreen(const ScreenRequest& request) {
+    if (sdl2.window == nullptr || (sdl2.renderer == nullptr && !MakeRenderer())) {
         return 0;
     }
     sdl2.texture = SDL_CreateTexture(sdl2.renderer, SDL_PIXELFORMAT_RGB565,

@@ -20,6 +20,10 @@ struct Sdl2State {
 };
 extern Sdl2State sdl2;
 
+// What draws into the window. Made while the window is hidden, because making it may make the
+// window anew. False when there can be none.
+bool MakeRenderer();
+
 // From now on a crash puts screen saver and cursor back before the process ends, and a request to
 // end (interrupt, terminate, hang up) ends the production in the orderly way; a second one at once.
 void InstallRescue();

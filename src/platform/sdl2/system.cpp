@@ -2,6 +2,7 @@
 #include "platform/system.h"
 
 #include <cstdio>
+#include <cstring>
 
 #include "base/float_mode.h"
 #include "base/shell_state.h"
@@ -24,6 +25,24 @@ constexpr SDL_MessageBoxButtonData kYesNoButtons[] = {
     {SDL_MESSAGEBOX_BUTTON_ESCAPEKEY_DEFAULT, kNo, "No"},
 };
 
+// Drivers that SDL falls back to by itself where there is nothing to see. They count only when the
+// user names one.
+constexpr const char* kBlindDrivers[] = {"offscreen", "dummy", "evdev"};
+
+bool DisplayIsThere() {
+    const char* driver = SDL_GetCurrentVideoDriver();
+    const char* wanted = SDL_getenv("SDL_VIDEODRIVER");
+    if (wanted != nullptr && wanted[0] != '\0') {
+        return true;
+    }
+    for (const char* blind : kBlindDrivers) {
+        if (driver == nullptr || std::strcmp(driver, blind) == 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 void SayNoDisplay() {
@@ -39,8 +58,9 @@ int RegisterWindowClass() {
     SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
     SDL_SetHint(SDL_HINT_APP_NAME, "larkfen");
     SDL_SetMainReady();
-    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+    if (SDL_Init(SDL_INIT_VIDEO) != 0 || !DisplayIsThere()) {
         SayNoDisplay();
+        SDL_Quit();
         return 0;
     }
     return 1;
@@ -54,6 +74,7 @@ int CreateMainWindow() {
         SayNoDisplay();
         return 0;
     }
+    (void)MakeRenderer(); // the display says so when there is none
     InstallRescue();
     return 1;
 }
