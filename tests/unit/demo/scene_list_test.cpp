@@ -132,7 +132,7 @@ TEST(SceneLine, LongWordsAndNumbersAreBounded) {
 
 TEST(SceneLine, BytesOfAnyKindEnd) {
     std::string noise;
-    for (int i = 0; i < 20000; ++i) {
+    for (unsigned i = 0; i < 20000; ++i) {
         noise += static_cast<char>(i * i * 31 + i / 7);
     }
     EXPECT_GT(ReadAll(noise).size(), 10U);
