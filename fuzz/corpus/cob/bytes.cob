@@ -1,0 +1,37 @@
+Name tile
+center 0 0 0
+x axis 1 0 0
+y axis 0 1 0
+z axis 0 0 1
+Transform
+1 0 0 0
+0 1 0 0
+0 0 1 0
+0 0 0 1
+World Vertices 4
+0 0 0
+1 0 0
+1 1 0
+0 1 0.5
+Texture Vertices 4
+-3 7
+1e9 -1e9
+0.5 0.5
+1 1
+Faces 2
+Face verts 3 flags 0 mat 0
+<0,0> <1,1> <2,2>
+Face verts 3 flags 0 mat 0
+<0,0> <2,2> <3,3>
+mat# 0
+rgb 0.2,0.4,0.6
+alpha 1 ka 0.5 ks 0.25 exp 3
+Shader class: color
+Shader name: "texture map"
+file name: string "a/bytes.bmp"
+Shader class: transparency
+Shader name: "filter"
+colour: color (128, 64, 255)
+Shader class: reflectance
+Shader name: "constant"
+END
