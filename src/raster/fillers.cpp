@@ -80,55 +80,54 @@ void DrawSpan(const Brush& triangleBrush, ColumnRange columns, Row row, const st
     }
 }
 
-// Rounds x and y to pixels, in the record itself. False when no pixel can come of it.
-bool RoundVertices(ScreenPolygon* polygon) {
-    std::int32_t above = 0, below = 0, before = 0, behind = 0;
-    for (Vertex& vertex : polygon->vertices) {
-        const std::int32_t x = ToIntChop(vertex.x + 0.5F);
-        const std::int32_t y = ToIntChop(vertex.y + 0.5F);
-        vertex.x = static_cast<float>(x);
-        vertex.y = static_cast<float>(y);
-        above += y < clipRect.top ? 1 : 0;
-        below += y > clipRect.bottom ? 1 : 0;
-        before += x < clipRect.left ? 1 : 0;
-        behind += x > clipRect.right ? 1 : 0;
-    }
-    return above < 3 && below < 3 && before < 3 && behind < 3;
-}
-
 template <FillerRules R> void FillTriangle(ScreenPolygon* polygon, const FillTarget& target) {
     using S = Slots<R>;
-    if (!RoundVertices(polygon)) {
+    // Round x and y to pixels, in the record itself.
+    Corner<S::count> corners[3];
+    for (int i = 0; i < 3; ++i) {
+        Vertex& vertex = polygon->vertices[i];
+        corners[i].x = ToIntChop(vertex.x + 0.5F);
+        corners[i].y = ToIntChop(vertex.y + 0.5F);
+        vertex.x = static_cast<float>(corners[i].x);
+        vertex.y = static_cast<float>(corners[i].y);
+    }
+    const std::int32_t xMin = std::min(corners[0].x, std::min(corners[1].x, corners[2].x));
+    const std::int32_t xMax = std::max(corners[0].x, std::max(corners[1].x, corners[2].x));
+    const std::int32_t yMin = std::min(corners[0].y, std::min(corners[1].y, corners[2].y));
+    const std::int32_t yMax = std::max(corners[0].y, std::max(corners[1].y, corners[2].y));
+    // Return when the triangle is outside, or all in one column or row.
+    if (yMax < clipRect.top || yMin > clipRect.bottom || xMax < clipRect.left ||
+        xMin > clipRect.right || xMin == xMax || yMin == yMax) {
         return;
     }
-    // Fill the slots of the three corners; return when they share a column or a row.
-    const Vertex* v = polygon->vertices;
-    const Corner<S::count> corners[3] = {MakeCorner<R>(v[0], polygon->litColors[0]),
-                                         MakeCorner<R>(v[1], polygon->litColors[1]),
-                                         MakeCorner<R>(v[2], polygon->litColors[2])};
-    const auto [xMin, xMax] = std::minmax({corners[0].x, corners[1].x, corners[2].x});
-    const auto [yMin, yMax] = std::minmax({corners[0].y, corners[1].y, corners[2].y});
-    if (xMin == xMax || yMin == yMax) {
-        return;
+    // Fill the slots of the corners.
+    for (int i = 0; i < 3; ++i) {
+        FillSlots<R>(polygon->vertices[i], polygon->litColors[i], &corners[i]);
     }
     // Leave out the column clipping where the triangle is inside, the texel bound where it can be.
-    // Beyond these limits differences of coordinates would wrap, and edges leave the triangle.
-    constexpr std::int32_t limit = 16384;
-    const bool wraps = xMin < -limit || xMax >= limit || yMin < -limit || yMax >= limit;
+    // From 16,384 on, differences of coordinates may wrap and edges leave the triangle.
+    const auto reach = static_cast<std::uint32_t>((xMin + 16384) | (xMax + 16384) | (yMin + 16384) |
+                                                  (yMax + 16384));
+    const bool wraps = reach >= 32768;
+    constexpr std::int32_t closed = R.edges == EdgeRule::Closed ? 1 : 0;
     const ColumnRange columns = {clipRect.left, clipRect.right,
-                                 wraps || R.edges == EdgeRule::Closed || xMin < clipRect.left ||
+                                 wraps || closed != 0 || xMin < clipRect.left ||
                                      xMax > clipRect.right};
-    const RowRange rows = {clipRect.top, clipRect.bottom};
+    const RowRange rows = {std::max(yMin, clipRect.top), std::min(yMax + closed, clipRect.bottom)};
     const Brush brush = MakeBrush<R>(*polygon, target.level);
+    const std::ptrdiff_t frameStep = target.framePitch >> 1, depthStep = target.depthPitch >> 2;
+    Row row = {target.frame + rows.first * frameStep, nullptr};
+    if constexpr (S::hasDepth) {
+        row.depth = target.depth + rows.first * depthStep;
+    }
     const auto walk = [&](auto bounded) {
-        const auto draw = [&](std::int32_t y, const std::int32_t* left, const std::int32_t* right) {
-            const Row row = {target.frame + std::ptrdiff_t{y} * (target.framePitch >> 1),
-                             S::hasDepth
-                                 ? target.depth + std::ptrdiff_t{y} * (target.depthPitch >> 2)
-                                 : nullptr};
+        WalkTriangle(corners, rows, [&](const std::int32_t* left, const std::int32_t* right) {
             DrawSpan<R, bounded>(brush, columns, row, left, right);
-        };
-        WalkTriangle(corners, rows, R.edges == EdgeRule::Closed ? 1 : 0, draw);
+            row.frame += frameStep;
+            if constexpr (S::hasDepth) {
+                row.depth += depthStep;
+            }
+        });
     };
     if constexpr (S::hasTexels) {
         if (wraps || !TexelsStayInside<R>(brush, corners)) {

@@ -70,32 +70,29 @@ template <FillerRules R> Brush MakeBrush(const ScreenPolygon& polygon, std::uint
     return brush;
 }
 
+// x and y of the corner are set already.
 template <FillerRules R>
-Corner<Slots<R>::count> MakeCorner(const Vertex& vertex, std::uint32_t color) {
+void FillSlots(const Vertex& vertex, std::uint32_t color, Corner<Slots<R>::count>* corner) {
     using S = Slots<R>;
-    Corner<S::count> corner;
-    corner.x = ToIntChop(vertex.x);
-    corner.y = ToIntChop(vertex.y);
-    corner.slot[S::x] = corner.x << 16;
+    corner->slot[S::x] = corner->x << 16;
     [[maybe_unused]] const std::int32_t z = ToIntChop(vertex.z + 0.5F);
     if constexpr (R.depth == DepthRule::W) {
-        corner.slot[S::depth] = DivChop(0x10000000, z);
+        corner->slot[S::depth] = DivChop(0x10000000, z);
     } else if constexpr (S::hasDepth) {
-        corner.slot[S::depth] = z << 16;
+        corner->slot[S::depth] = z << 16;
     }
     if constexpr (S::inPerspective) { // half a texel from the affine ones: REQUIRED R5
-        corner.slot[S::u] = DivChop(ToIntChop(vertex.u + 0.5F) << 22, z);
-        corner.slot[S::v] = DivChop(ToIntChop(vertex.v + 0.5F) << 22, z);
+        corner->slot[S::u] = DivChop(ToIntChop(vertex.u + 0.5F) << 22, z);
+        corner->slot[S::v] = DivChop(ToIntChop(vertex.v + 0.5F) << 22, z);
     } else if constexpr (S::hasTexels) {
-        corner.slot[S::u] = ToIntChop(vertex.u) << 16;
-        corner.slot[S::v] = ToIntChop(vertex.v) << 16;
+        corner->slot[S::u] = ToIntChop(vertex.u) << 16;
+        corner->slot[S::v] = ToIntChop(vertex.v) << 16;
     }
     if constexpr (S::isGouraud) {
-        corner.slot[S::red + 0] = static_cast<std::int32_t>((color >> 8) & 248) << 16;
-        corner.slot[S::red + 1] = static_cast<std::int32_t>((color >> 3) & 252) << 16;
-        corner.slot[S::red + 2] = static_cast<std::int32_t>((color & 31) * 8) << 16;
+        corner->slot[S::red + 0] = static_cast<std::int32_t>((color >> 8) & 248) << 16;
+        corner->slot[S::red + 1] = static_cast<std::int32_t>((color >> 3) & 252) << 16;
+        corner->slot[S::red + 2] = static_cast<std::int32_t>((color & 31) * 8) << 16;
     }
-    return corner;
 }
 
 // Whether no pixel of the triangle can reach past the texture, so that indices need no bound.

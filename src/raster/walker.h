@@ -60,16 +60,15 @@ Edge<N> MakeEdge(const Corner<N>& upper, const Corner<N>& lower, std::int32_t ro
     return edge;
 }
 
-// Rows of the clip rectangle, last excluded.
+// Rows to draw, last excluded.
 struct RowRange {
     std::int32_t first, last;
 };
 
-// Calls drawSpan(row, left slots, right slots) for each row of the triangle within clip, top to
-// bottom. rowsBelow: how many rows from B.y on are drawn too. Not all three y may be equal.
+// Calls drawSpan(left slots, right slots) for each of the rows, top to bottom; they are rows of the
+// triangle within the clip rectangle. Not all three y may be equal.
 template <int N, class DrawSpan>
-void WalkTriangle(const Corner<N> corners[3], RowRange clip, std::int32_t rowsBelow,
-                  DrawSpan drawSpan) {
+void WalkTriangle(const Corner<N> corners[3], RowRange rows, DrawSpan drawSpan) {
     // Order the corners top to bottom; equal ones keep their order.
     const Corner<N>* top = &corners[0];
     const Corner<N>* middle = &corners[1];
@@ -86,28 +85,24 @@ void WalkTriangle(const Corner<N> corners[3], RowRange clip, std::int32_t rowsBe
     const bool flatTop = top->y == middle->y;       // d
     const bool flatBottom = middle->y == bottom->y; // e
 
-    // Find the rows: those of the triangle that the clip rectangle has. (c)
-    const std::int32_t first = std::max(top->y, clip.first);
-    const std::int32_t last = std::min(bottom->y + rowsBelow, clip.last);
-
-    // Set up the long edge and the upper short edge, and choose their sides. (a, f)
-    Edge<N> longEdge = MakeEdge(*top, *bottom, first - top->y);
+    // Set up the long edge and the upper short edge, and choose their sides. (a, c, f)
+    Edge<N> longEdge = MakeEdge(*top, *bottom, rows.first - top->y);
     Edge<N> shortEdge;
     bool longOnLeft = top->x <= middle->x;
     if (!flatTop) {
-        shortEdge = MakeEdge(*top, *middle, first - top->y);
+        shortEdge = MakeEdge(*top, *middle, rows.first - top->y);
         longOnLeft = flatBottom ? bottom->x < middle->x : longEdge.step[0] < shortEdge.step[0];
     }
     // Take the lower short edge at once where the upper one has no row. (c, d)
-    if (flatTop || middle->y < first) {
-        shortEdge = MakeEdge(*middle, *bottom, first - middle->y);
+    if (flatTop || middle->y < rows.first) {
+        shortEdge = MakeEdge(*middle, *bottom, rows.first - middle->y);
     }
-    const std::int32_t bend = flatTop ? last : middle->y;
+    const std::int32_t bend = flatTop ? rows.last : middle->y;
     Edge<N>& left = longOnLeft ? longEdge : shortEdge;
     Edge<N>& right = longOnLeft ? shortEdge : longEdge;
 
-    for (std::int32_t row = first; row < last; ++row) {
-        drawSpan(row, left.slot, right.slot);
+    for (std::int32_t row = rows.first; row < rows.last; ++row) {
+        drawSpan(left.slot, right.slot);
         ForEachSlot<0, N>([&](int k) {
             longEdge.slot[k] += longEdge.step[k];
             shortEdge.slot[k] += shortEdge.step[k];
