@@ -149,10 +149,16 @@ int CloseDisplay() {
     IUnknown* const made[] = {win32State.backClipper, win32State.windowClipper,
                               ObjectOf(display.backSurface), win32State.primary,
                               win32State.directDraw};
+    ULONG left = 0;
     for (IUnknown* object : made) {
         if (object) {
-            win32Calls.release(object);
+            left = win32Calls.release(object);
         }
+    }
+    // The release of the last one gives the desktop its mode back. Glyph surfaces, which live as
+    // long as the process, hold on to it; then it is told to let the screen go.
+    if (win32State.directDraw && left > 0 && !display.windowed) {
+        win32Calls.setCooperativeLevel(win32State.directDraw, win32State.window, DDSCL_NORMAL);
     }
     return 1;
 }

@@ -33,6 +33,12 @@ void ReadMouseCursor(std::int32_t* x, std::int32_t* y) {
 
 void EnableScreenSaver(bool enable) {
     win32Calls.systemParametersInfo(SPI_SETSCREENSAVEACTIVE, enable ? 1 : 0, nullptr, 0);
+    // Wine sends the request off only when something is asked of the screen saver, and the end of
+    // the program is near.
+    if (enable) {
+        BOOL active = FALSE;
+        win32Calls.systemParametersInfo(SPI_GETSCREENSAVEACTIVE, 0, &active, 0);
+    }
 }
 
 std::uint32_t TickCount() {

@@ -1,0 +1,67 @@
+"""Screenshots against frames of the production: a part of the screen is turned back into 5-6-5
+pixels and its hash looked up among the hash lines of the recorder."""
+import time
+
+from wine_desk import WIDTH, Failure, expect
+
+MASK = (1 << 64) - 1
+
+
+def crop(screen, left, top, width, height, step=1):
+    """Bytes of 5-6-5 pixels, little-endian; every step-th pixel and row."""
+    out = bytearray()
+    for y in range(top, top + height * step, step):
+        row = screen[(y * WIDTH + left) * 3:(y * WIDTH + left + width * step) * 3]
+        red, green, blue = row[0::3 * step], row[1::3 * step], row[2::3 * step]
+        for r, g, b in zip(red, green, blue):
+            pixel = (r >> 3) << 11 | (g >> 2) << 5 | b >> 3
+            out.append(pixel & 255)
+            out.append(pixel >> 8)
+    return bytes(out)
+
+
+def fnv(data):
+    """The 64-bit FNV-1a hash, as 16 digits."""
+    value = 0xcbf29ce484222325
+    for byte in data:
+        value = (value ^ byte) * 0x100000001b3 & MASK
+    return f"{value:016x}"
+
+
+def read_hashes(path):
+    """{hash: frame number} of a file of hash lines."""
+    table = {}
+    for line in path.read_text().splitlines():
+        words = line.split()
+        table.setdefault(words[7], int(words[1]))
+    return table
+
+
+def find_frame(desk, name, known, place, scale=1, tries=10):
+    """Screenshots until the pixels at place (left, top, width, height) are a frame; its number.
+    A screenshot can fall between the parts of a frame, or before the first."""
+    left, top, width, height = place
+    for _ in range(tries):
+        screen = desk.screenshot(name)
+        data = crop(screen, left, top, width, height, scale)
+        frame = known.get(fnv(data))
+        if frame is not None and any(data):
+            if scale > 1:
+                expect_sharp(screen, place, scale)
+            return frame
+        time.sleep(0.3)
+    raise Failure(f"no frame of the production at {left}, {top}")
+
+
+def expect_sharp(screen, place, scale):
+    """Every pixel of the frame is a square of scale x scale equal pixels."""
+    left, top, width, height = place
+    for y in range(top, top + height * scale, scale):
+        first = screen[(y * WIDTH + left) * 3:(y * WIDTH + left + width * scale) * 3]
+        for k in range(1, scale):
+            row = screen[((y + k) * WIDTH + left) * 3:][:len(first)]
+            expect(row == first, f"row {y + k} is not row {y}")
+        for channel in range(3):
+            values = first[channel::3]
+            for k in range(1, scale):
+                expect(values[0::scale] == values[k::scale], f"row {y} is not sharp")

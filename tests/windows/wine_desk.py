@@ -1,0 +1,169 @@
+"""A virtual X server with Wine on it: starting both, screenshots, keys, and the programs of a build.
+
+Everything started here is ended here, by its own process id; the Wine prefix is the suite's own and
+stands in the build folder."""
+import os
+import pathlib
+import shutil
+import subprocess
+import time
+
+WIDTH, HEIGHT = 1280, 1024
+SLOW = 90  # seconds that anything may take on a busy machine
+
+
+class Failure(Exception):
+    """What a case says when it fails."""
+
+
+def expect(good, what):
+    """Fails the case unless good."""
+    if not good:
+        raise Failure(what)
+
+
+class Desk:
+    """The X server, the Wine prefix and the folder of the build."""
+
+    def __init__(self, build, depth=24):
+        self.build = pathlib.Path(build).resolve()
+        self.tests = self.build / "windows-tests"
+        self.screens = self.tests / "screens"
+        self.work = self.tests / "work"
+        shutil.rmtree(self.work, ignore_errors=True)
+        for folder in (self.screens, self.work):
+            folder.mkdir(parents=True, exist_ok=True)
+        self.env = dict(os.environ, WINEPREFIX=str(self.tests / "prefix"), WINEDEBUG="-all",
+                        WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=", WINEARCH="win64",
+                        LC_ALL="C.UTF-8")
+        self.env.pop("WAYLAND_DISPLAY", None)
+        read, write = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x{depth}",
+             "-nolisten", "tcp", "-noreset"], pass_fds=[write], stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            self.env["DISPLAY"] = ":" + pipe.readline().strip()
+        self.running = []
+
+    def prepare(self):
+        """Makes the Wine prefix at its first use, without a sound device."""
+        if not (self.tests / "prefix/system.reg").exists():
+            self.wine(["wineboot", "-i"], limit=600)
+        self.wine(["reg", "add", "HKCU\\Software\\Wine\\Drivers", "/v", "Audio", "/d", "", "/f"],
+                  limit=600)
+
+    def end_programs(self):
+        """Ends everything that runs in the prefix, after a case that failed."""
+        for process in self.running:
+            if process.poll() is None:
+                process.kill()
+                process.wait()
+        self.running.clear()
+        subprocess.run(["wineserver", "-k"], env=self.env, check=False, timeout=60,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def close(self):
+        """Ends what is left."""
+        self.end_programs()
+        self.server.terminate()
+        self.server.wait()
+
+    def start(self, command, folder=None):
+        """Starts `wine command` in the background."""
+        process = subprocess.Popen(["wine", *map(str, command)], env=self.env, cwd=folder,
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                   stderr=subprocess.STDOUT)
+        self.running.append(process)
+        return process
+
+    def wine(self, command, folder=None, limit=SLOW):
+        """Runs `wine command` to its end: (exit code, output)."""
+        process = self.start(command, folder)
+        try:
+            output = process.communicate(timeout=limit)[0].decode(errors="replace")
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.communicate()
+            raise Failure(f"{pathlib.Path(str(command[0])).name} took more than {limit} s")
+        return process.returncode, output
+
+    def screenshot(self, name):
+        """The whole screen as bytes of red, green, blue; kept as a picture too."""
+        path = self.screens / f"{name}.png"
+        subprocess.run(["import", "-window", "root", str(path)], env=self.env, check=True)
+        raw = subprocess.run(["convert", str(path), "-depth", "8", "rgb:-"], check=True,
+                             stdout=subprocess.PIPE).stdout
+        expect(len(raw) == WIDTH * HEIGHT * 3, "the screenshot has another size")
+        return raw
+
+    def key(self, *names):
+        """Holds keys down together for a moment, long enough to be seen by a poll."""
+        for name in names:
+            subprocess.run(["xdotool", "keydown", name], env=self.env, check=True)
+        time.sleep(0.4)
+        for name in reversed(names):
+            subprocess.run(["xdotool", "keyup", name], env=self.env, check=True)
+
+    def click(self, x, y):
+        """Clicks the left button."""
+        subprocess.run(["xdotool", "mousemove", str(x), str(y)], env=self.env, check=True)
+        time.sleep(0.3)
+        subprocess.run(["xdotool", "click", "1"], env=self.env, check=True)
+
+
+class Stage:
+    """A program under test inside a Wine desktop of its own, and what it does there."""
+
+    def __init__(self, desk, name, command, options=(), virtual=True, folder=None):
+        self.desk, self.name = desk, name
+        self.log = desk.work / f"{name}.txt"
+        self.log.unlink(missing_ok=True)
+        line = [desk.tests / "stage.exe", windows_path(self.log), *options, "--", *command]
+        if virtual:
+            line = ["explorer", f"/desktop=t{name},{WIDTH}x{HEIGHT}", *line]
+        self.process = desk.start(line, folder or desk.build)
+
+    def lines(self):
+        """What the stage has written so far."""
+        return self.log.read_text(errors="replace").splitlines() if self.log.exists() else []
+
+    def wait(self, start, limit=SLOW):
+        """The first line that begins so, as soon as it is there."""
+        end = time.monotonic() + limit
+        while time.monotonic() < end:
+            for line in self.lines():
+                if line.startswith(start):
+                    return line
+            time.sleep(0.1)
+        raise Failure(f"no '{start}' within {limit} s; last: {self.lines()[-1:]}")
+
+    def window(self, limit=SLOW):
+        """Waits for a visible window: its outer and its client rectangle, as it stands now."""
+        end = time.monotonic() + limit
+        while time.monotonic() < end:
+            found = [line.split() for line in self.lines() if line.startswith("seen window")]
+            if found and found[-1][14] == "1":
+                words = found[-1]
+                return [int(w) for w in words[2:6]], [int(w) for w in words[7:11]]
+            time.sleep(0.1)
+        raise Failure("no visible window")
+
+    def end(self, limit=SLOW):
+        """Waits for the end; fails unless the exit code is 0 and the desktop is as before."""
+        code = self.wait("exit", limit)
+        after = self.wait("after", limit)
+        try:
+            self.process.wait(timeout=SLOW)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+        expect(code == "exit 0", code)
+        before = self.wait("before", 1)
+        expect(before[7:] == after[6:], f"{before}, but {after}")
+        return self.lines()
+
+
+def windows_path(path):
+    """A path of ours as Wine knows it."""
+    return "Z:" + str(path).replace("/", "\\")
