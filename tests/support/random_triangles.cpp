@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "base/hash.h"
+#include "base/parse_number.h"
 #include "base/rect.h"
 
 namespace ombrel {
@@ -595,10 +596,10 @@ RandomComparison CompareRandomTriangles(RandomStage* stage, const reference::Fil
     return result;
 }
 
-std::int32_t RandomSharePercent() {
+float RandomShare() {
     const char* text = std::getenv("OMBREL_RANDOM_SHARE");
-    const int share = text != nullptr ? std::atoi(text) : 100;
-    return share >= 1 && share <= 100 ? share : 100;
+    const float share = text != nullptr ? ParseFloat(text, nullptr) : 1.0F;
+    return share > 0.0F && share <= 1.0F ? share : 1.0F;
 }
 
 } // namespace ombrel

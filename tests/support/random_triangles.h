@@ -61,7 +61,7 @@ struct RandomComparison {
 RandomComparison CompareRandomTriangles(RandomStage* stage, const reference::Filler& row,
                                         Filler fast, std::int32_t scenes);
 
-// What share of the random tests to run: OMBREL_RANDOM_SHARE as a percentage 1..100; else 100.
-std::int32_t RandomSharePercent();
+// The share of the random tests to run: OMBREL_RANDOM_SHARE, above 0 and up to 1; else 1.
+float RandomShare();
 
 } // namespace ombrel

@@ -1,7 +1,7 @@
 // The fast fillers against the slow ones: 5.9 million random triangles, and a checksum a
 // filler that says whether the pictures are still those of the day they were accepted.
 //
-// OMBREL_RANDOM_SHARE=10 runs a tenth. OMBREL_UPDATE_CHECKSUMS=1 writes filler_checksums.txt anew:
+// OMBREL_RANDOM_SHARE=0.1 runs a tenth. OMBREL_UPDATE_CHECKSUMS=1 writes filler_checksums.txt anew:
 // only when a picture is meant to change.
 #include <cinttypes>
 #include <cstdio>
@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/convert.h"
 #include "base/float_mode.h"
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
@@ -95,8 +96,8 @@ TEST_P(RandomTriangles, AreDrawnAsByTheReference) {
     const reference::Filler& row = reference::kFillers[GetParam()];
     const int number = FastNumber(row.name);
     ASSERT_GE(number, 0) << "the family has no " << row.name;
-    const std::int32_t percent = Updating() ? 100 : RandomSharePercent();
-    std::int32_t scenes = kScenesPerFiller * percent / 100;
+    const float share = Updating() ? 1.0F : RandomShare();
+    auto scenes = ToIntChop(static_cast<float>(kScenesPerFiller) * share);
     scenes = scenes < kFirstScenes ? kFirstScenes : scenes;
 
     ScopedFloatMode chop(FloatMode::Chop);
@@ -115,7 +116,7 @@ TEST_P(RandomTriangles, AreDrawnAsByTheReference) {
         return;
     }
     EXPECT_EQ(Hex(result.firstScenesHash), stored[row.name].firstScenes);
-    if (percent == 100) {
+    if (scenes == kScenesPerFiller) {
         EXPECT_EQ(Hex(result.hash), stored[row.name].all);
     }
 }
