@@ -1,6 +1,7 @@
 // The road of one frame, from objects to pixels.
 #include "demo/scene_frame.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 
@@ -26,6 +27,7 @@ constexpr std::int32_t kLodDistance = 1000;
 constexpr MeshTransformOptions kInPlace{0, 0, 0};
 constexpr MeshTransformOptions kIntoTransformed{2, 0, 0};
 constexpr std::int32_t kTranslateCopy = 2;
+constexpr std::int32_t kLightsCopy = 3;
 constexpr std::int32_t kFromTransformed = 0;
 
 void TurnInPlace(Mesh* object, float degrees) {
@@ -122,8 +124,9 @@ void RunFacePipeline(FaceList* list, World* scene, const SceneSwitches& set) {
         CullBackFaces(list, &scene->camera);
     }
     if (set.lighting == 1) {
-        LightsTransform(scene->lights, set.lightCount, nullptr, 3);
-        LightFaces(list, &scene->camera, scene->lights, set.lightCount);
+        const std::int32_t lights = std::clamp(set.lightCount, 0, kMaxLights);
+        LightsTransform(scene->lights, lights, nullptr, kLightsCopy);
+        LightFaces(list, &scene->camera, scene->lights, lights);
     }
     TransformPolygonsToCamera(list, &scene->camera);
     ClipPolygons(list, &scene->camera, kTestAllSides);

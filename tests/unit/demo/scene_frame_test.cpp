@@ -184,6 +184,12 @@ TEST_F(SceneFrame, PipelineFollowsItsSwitches) {
     EXPECT_EQ(run(), (std::set<std::uint32_t>{0}));
     set.backFace = 1;
     EXPECT_EQ(run(), (std::set<std::uint32_t>{FACE_BACK, 0}));
+    // A count of lights beyond the table, or below nothing, ends at the table.
+    set.lighting = 1;
+    for (const std::int32_t count : {kMaxLights + 90, -5}) {
+        set.lightCount = count;
+        EXPECT_EQ(run().count(FACE_LIT), 1U);
+    }
     // Sorting moves the pointers: farthest first.
     set.sort = 1;
     run();
