@@ -25,20 +25,14 @@ float Vec3Length(const Vec3* v) {
 }
 
 float Vec3FastLength(const Vec3* v) {
-    std::int32_t large = SizeIn1024ths(v->x);
-    std::int32_t middle = SizeIn1024ths(v->y);
-    std::int32_t small = SizeIn1024ths(v->z);
+    const std::int32_t a = SizeIn1024ths(v->x);
+    const std::int32_t b = SizeIn1024ths(v->y);
+    const std::int32_t c = SizeIn1024ths(v->z);
 
-    // Sort the three sizes.
-    if (large < middle) {
-        std::swap(large, middle);
-    }
-    if (middle < small) {
-        std::swap(middle, small);
-    }
-    if (large < middle) {
-        std::swap(large, middle);
-    }
+    // Sort the three sizes, without a branch.
+    const std::int32_t large = std::max(std::max(a, b), c);
+    const std::int32_t middle = std::max(std::min(a, b), std::min(std::max(a, b), c));
+    const std::int32_t small = std::min(std::min(a, b), c);
 
     // Weigh them; the sum wraps at 32 bits.
     const std::uint32_t sum = static_cast<std::uint32_t>(large) +
