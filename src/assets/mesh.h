@@ -121,6 +121,7 @@ void ResetMaterials();
 
 static_assert(sizeof(Vertex) == 12 * 4);
 static_assert(sizeof(void*) != 4 || sizeof(Face) == 17 * 4);
+static_assert(sizeof(void*) != 4 || sizeof(Mesh) == 44 * 4);
 
 // Allocates and zeroes the five arrays: vertices and transformed (n * copies), texCoords (3 *
 // faceCapacity), the radii (copies), faces (faceCapacity); points the current arrays at them and
