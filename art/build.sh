@@ -17,5 +17,18 @@ cache=${OMBREL_ART_CACHE:-$here/../build/art-cache}
 mkdir -p "$data" "$cache/bake"
 PYTHON=${PYTHON:-/usr/bin/python3}
 export PYTHONDONTWRITEBYTECODE=1 PYTHONHASHSEED=0
+"$PYTHON" "$here/world/bake_jobs.py" "$cache"
+if grep -q '"name"' "$cache/jobs.json"; then
+    blender -b --factory-startup -noaudio -P "$here/world/bake.py" -- "$cache/jobs.json" |
+        grep -E "^(baked|light|Traceback|Error|  File)" || true
+fi
+mv "$cache/marks.new.json" "$cache/marks.json"
 "$PYTHON" "$here/world/make.py" "$data" "$cache"
-"$PYTHON" "$here/check_world.py" "$data"
+if [ "$data" = "$here/../data" ]; then
+    [ -z "$music" ] || "$here/music/build.sh"
+    "$PYTHON" "$here/world/manifest.py" "$data" "$here/MANIFEST"
+else
+    mkdir -p "$data/sfx"
+    cp "$here/../data/sfx/soundtrack.mp3" "$data/sfx/"
+fi
+"$PYTHON" "$here/check_world.py" "$data" --flights

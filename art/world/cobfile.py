@@ -68,6 +68,15 @@ def write(path, name, mesh, texture=None, kind="list", scale=(1000, 1000), spare
                 uvs.append(pair)
             row.append((f[k] + shift, uv_index[pair]))
         corners.append((row[0], row[2], row[1]))
+    # Rounding can leave a face without area; it goes.
+    rounded = np.round(fv, 4)
+    kept, kept_mats = [], []
+    for m, row in zip(mesh.mats, corners):
+        p, q, r = (rounded[k] for k, _ in row)
+        if np.linalg.norm(np.cross(q - p, r - p)) > 1e-9:
+            kept.append(row)
+            kept_mats.append(m)
+    corners = kept
     out = ["# %s: made by art/build.sh, do not edit" % name, "Name %s" % name, "center 0 0 0",
            "x axis 1 0 0", "y axis 0 1 0", "z axis 0 0 1", "Transform", "1 0 0 0", "0 1 0 0",
            "0 0 1 0", "0 0 0 1", "World Vertices %d" % len(fv)]
@@ -75,7 +84,7 @@ def write(path, name, mesh, texture=None, kind="list", scale=(1000, 1000), spare
     out.append("Texture Vertices %d" % len(uvs))
     out += ["%s %s" % p for p in uvs]
     out.append("Faces %d" % len(corners))
-    for m, row in zip(mesh.mats, corners):
+    for m, row in zip(kept_mats, corners):
         out.append("Face verts 3 flags 0 mat %d" % keys.index(m))
         out.append("<%d,%d> <%d,%d> <%d,%d>" % (row[0] + row[1] + row[2]))
     for k, key in enumerate(keys):

@@ -39,10 +39,10 @@ SCENE_ONE = [
     ("the parasol below the middle", 1700, 2920, -1480, 40, 311),
     ("the ring of the stand enters", 560, 3360, -2300, 45, 345),
     ("through the glass", -620, 3960, -3200, 43, 369.5),
-    ("away", -1900, 4420, -4650, 35, 381.5),
-    ("the globe whole", -3200, 4400, -6100, 26.5, 387),
-    ("rest", -4350, 4050, -7400, 18.5, 390.2),
-    ("shapes the last tangent", -5000, 3850, -8150, 16, 391.2),
+    ("away", -2050, 4430, -4900, 34, 382.2),
+    ("the globe whole", -3560, 4330, -6560, 24.2, 387.8),
+    ("rest", -4620, 4020, -7780, 18, 390.4),
+    ("shapes the last tangent", -5000, 3880, -8200, 16.4, 391.1),
 ]
 
 
@@ -54,29 +54,31 @@ def ring(bearing, radius, height, down, look_off=0.0):
 
 
 def scene_two():
-    keys = [("shapes the first tangent", -1420, 400, -3000, 2, 26)]
-    keys.append(("behind the gates, low", -1340, 400, -2860, 2, 27))
+    first = ring(216, 3000, 405, 2)
+    start = ring(210, 3100, 415, 2)
+    keys = [("shapes the first tangent",) + first, ("behind the gates, low",) + start]
     # one slow turn of the night garden; bearings fall, so that ay falls
-    plan = [(208, 2850, 420, 3, 0), (202, 2620, 460, 4, 2), (194, 2420, 520, 6, 4),
-            (184, 2300, 600, 9, 4), (172, 2250, 690, 11, 2), (159, 2280, 780, 13, 0),
-            (146, 2350, 860, 15, -2), (133, 2420, 920, 16, -3), (120, 2480, 960, 16, -3),
-            (107, 2520, 1000, 16, -2), (94, 2560, 1060, 17, 0), (81, 2620, 1130, 18, 2),
-            (69, 2760, 1240, 19, 2)]
-    names = ["past the second gate", "the dial from the sea", "over the shore", "boats behind",
-             "the stands", "the basin in colour", "east shore", "pools of light cross",
-             "the tower to the right", "the tower before the dial", "its stair near", "above it",
-             "turning out"]
+    plan = [(203, 3210, 440, 3, 0), (196, 3330, 480, 4, 0), (189, 3380, 520, 5, 0),
+            (181, 3320, 570, 7, 2), (172, 3150, 640, 10, 3), (162, 2930, 720, 12, 2),
+            (151, 2740, 800, 14, 0), (140, 2600, 870, 15, -1), (128, 2520, 930, 16, -2),
+            (115, 2500, 990, 17, -2), (102, 2540, 1050, 18, -1), (89, 2620, 1120, 18, 1),
+            (76, 2730, 1200, 19, 2)]
+    names = ["towards the way", "beside the way", "three gates in line, lamps below",
+             "past the way", "the boat passes", "towards the shore", "pools of light cross",
+             "over the pines",
+             "east shore", "the basin in colour", "the tower to the right",
+             "the tower before the dial", "above it"]
     for n, (b, r, h, d, off) in zip(names, plan):
         x, y, z, ax, ay = ring(b, r, h, d, off)
-        keys.append((n, x, y, z, ax, ay - 180 - 180 if False else ay))
+        keys.append((n, x, y, z, ax, ay))
     # the points: far, slow, from above, a third of a turn and rest
-    dots = [(58, 2980, 1320, 19, 1), (50, 3120, 1360, 19, 0), (43, 3220, 1380, 19, 0),
-            (36, 3300, 1390, 18, 0), (29, 3350, 1400, 18, 0), (22, 3380, 1430, 19, 0),
-            (15, 3400, 1500, 20, 0), (8, 3400, 1600, 21, 0), (1, 3400, 1720, 23, 0),
-            (-6, 3400, 1860, 25, 0), (-13, 3400, 1990, 27, 0), (-20, 3400, 2090, 29, 0),
-            (-27, 3400, 2120, 30, 0), (-34, 3400, 2080, 29, 0), (-41, 3390, 1970, 28, 0),
-            (-48, 3370, 1830, 26, 0), (-55, 3350, 1690, 24, 0), (-61, 3330, 1570, 22, 0),
-            (-66, 3310, 1480, 21, 0), (-69, 3300, 1430, 20, 0)]
+    dots = [(64, 2800, 1290, 20, 2), (56, 2790, 1400, 23, 1), (48, 2740, 1540, 26, 0),
+            (40, 2680, 1700, 29, 0), (32, 2620, 1880, 32, 0), (24, 2580, 2060, 35, 0),
+            (16, 2550, 2210, 38, 0), (8.5, 2535, 2320, 40, 0), (1, 2530, 2380, 41, 0),
+            (-6, 2530, 2380, 41, 0), (-13, 2530, 2310, 40, 0), (-20, 2520, 2180, 38, 0),
+            (-27, 2500, 2010, 36, 0), (-34, 2470, 1810, 33, 0), (-41, 2430, 1600, 29, 0),
+            (-48, 2390, 1390, 25, 0), (-54, 2360, 1200, 21, 0), (-59, 2340, 1040, 17, 0),
+            (-63, 2330, 930, 14, 0), (-65.5, 2325, 870, 12, 0)]
     for k, (b, r, h, d, off) in enumerate(dots):
         x, y, z, ax, ay = ring(b, r, h, d, off)
         keys.append(("points %d" % (k + 1), x, y, z, ax, ay))

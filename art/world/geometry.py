@@ -130,7 +130,7 @@ def drop_degenerate(mesh):
         mesh.uvs = [mesh.uvs[k] for k in keep]
 
 
-def box(mesh, center, size, color, mat="matte", turn=0.0, taper=1.0, bottom=False, tilt=None):
+def box(mesh, center, size, color, mat="matte", turn=0.0, taper=1.0, bottom=False, top=True):
     """A box standing on center (the middle of its foot), turned about Z; taper narrows the top."""
     sx, sy, sz = size
     c, s = math.cos(math.radians(turn)), math.sin(math.radians(turn))
@@ -138,11 +138,11 @@ def box(mesh, center, size, color, mat="matte", turn=0.0, taper=1.0, bottom=Fals
     for z, k in ((0.0, 1.0), (sz, taper)):
         for x, y in ((-1, -1), (1, -1), (1, 1), (-1, 1)):
             px, py, pz = x * sx / 2 * k, y * sy / 2 * k, z
-            if tilt is not None:
-                px, py, pz = tilt(px, py, pz)
             corners.append((c * px - s * py + center[0], s * px + c * py + center[1],
                             pz + center[2]))
-    quads = [(0, 1, 5, 4), (1, 2, 6, 5), (2, 3, 7, 6), (3, 0, 4, 7), (4, 5, 6, 7)]
+    quads = [(0, 1, 5, 4), (1, 2, 6, 5), (2, 3, 7, 6), (3, 0, 4, 7)]
+    if top:
+        quads.append((4, 5, 6, 7))
     if bottom:
         quads.append((3, 2, 1, 0))
     hexa(mesh, corners, color, mat, quads)

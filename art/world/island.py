@@ -4,11 +4,11 @@ import math
 import numpy as np
 
 from bitmap import fft_noise
-from geometry import Mesh, lathe
+from geometry import Mesh, drop_degenerate, surface
 
-PATCH, CELLS = 1728.0, 24          # one patch and its cells; three patches a side
+PATCH, CELLS = 1728.0, 18          # one patch and its cells; three patches a side
 HALF = PATCH * 1.5
-PLAZA_TOP, PLAZA_R = 30.0, 1500.0
+PLAZA_TOP, DIAL_REACH = 30.0, 1510.0
 
 # Places that are made level: x, y, radius, height
 LEVEL = ((1500, 1300, 330, 58), (-1650, 560, 300, 46), (-950, 1680, 260, 62),
@@ -110,47 +110,40 @@ def patch(i, j):
 
 def texture_size(i, j):
     """Pictures of the far corners are small."""
-    return 256 if (i, j) in ((0, 0), (0, 2), (2, 0)) else 512
+    return 256 if (i, j) in ((0, 0), (0, 1), (0, 2), (1, 2), (2, 0)) else 512
 
 
 def patch_middle(i, j):
     return (-HALF + (i + 0.5) * PATCH, -HALF + (j + 0.5) * PATCH)
 
 
-def dial_inner():
-    """Disc of radius 756; planar uv."""
+def dial():
+    """The paved disc, radius 1500, with a low kerb; planar uv."""
     m = Mesh()
-    rings = [0.01, 84, 168, 252, 336, 420, 504, 588, 672, 756]
-    pts = []
+    inner = [0.01, 126, 252, 378, 504, 630, 756]
+    outer = [756, 905, 1054, 1203, 1352, 1500]
+
+    def put(rows):
+        uv = [[(0.5 + 0.5 * x / DIAL_REACH, 0.5 + 0.5 * y / DIAL_REACH) for x, y, _ in row]
+              for row in rows]
+        surface(m, rows, (206, 190, 165), "plastic", wrap_i=True, uv=uv)
+
+    def circle(k, n, radii, z=PLAZA_TOP):
+        a = 2 * math.pi * k / n
+        return [(r * math.cos(a), r * math.sin(a), z) for r in radii[::-1]]
+
+    put([circle(k, 36, inner) for k in range(36)])
+    rows = []
     for k in range(48):
-        a = 2 * math.pi * k / 48
-        pts.append([(r * math.cos(a), r * math.sin(a), PLAZA_TOP) for r in rings[::-1]])
-    from geometry import surface, drop_degenerate
-    uv = [[(0.5 + 0.5 * x / 756, 0.5 + 0.5 * y / 756) for x, y, _ in row] for row in pts]
-    surface(m, pts, (206, 190, 165), "plastic", wrap_i=True, uv=uv)
-    drop_degenerate(m)
-    return m
-
-
-def dial_outer():
-    """Ring 756 to 1500 with a low kerb; planar uv."""
-    m = Mesh()
-    from geometry import surface
-    rings = [756, 850, 945, 1040, 1135, 1230, 1325, 1420, 1500]
-    pts, n = [], 60
-    # The inner edge follows the 48-sided disc a little below it, so that no slit opens.
-    for k in range(n):
-        a = 2 * math.pi * k / n
-        row = [(r * math.cos(a), r * math.sin(a), PLAZA_TOP) for r in rings[::-1]]
+        row = circle(k, 48, outer)
+        # The ring reaches a little under the disc, so that no slit opens between their edges.
         row[-1] = (row[-1][0] * 0.985, row[-1][1] * 0.985, PLAZA_TOP - 6)
-        pts.append(row)
-    uv = [[(0.5 + 0.5 * x / 1500, 0.5 + 0.5 * y / 1500) for x, y, _ in row] for row in pts]
-    surface(m, pts, (206, 190, 165), "plastic", wrap_i=True, uv=uv)
+        rows.append(row)
+    put(rows)
     kerb = []
-    for k in range(n):
-        a = 2 * math.pi * k / n
-        c, s = math.cos(a), math.sin(a)
+    for k in range(48):
+        c, s = math.cos(2 * math.pi * k / 48), math.sin(2 * math.pi * k / 48)
         kerb.append([(1508 * c, 1508 * s, -8), (1500 * c, 1500 * s, PLAZA_TOP)])
-    kuv = [[(0.5 + 0.5 * x / 1508, 0.5 + 0.5 * y / 1508) for x, y, _ in row] for row in kerb]
-    surface(m, kerb, (180, 160, 140), "plastic", wrap_i=True, uv=kuv)
+    put(kerb)
+    drop_degenerate(m)
     return m

@@ -41,7 +41,7 @@ def rows():
                 continue          # under the dial
             x, y = island.patch_middle(i, j)
             r.append(("isle-%d%d" % (i, j), x, y, 0, 0, 1))
-    r += [("dial-ring", 0, 0, 0, 0, 1), ("dial", 0, 0, 0, 0, 1)]
+    r.append(("dial", 0, 0, 0, 0, 1))
     for x, y, b in causeway_points():
         r.append(("causeway", x, y, 0, b, 1))
     for x, y, b, s in GATES:
@@ -65,8 +65,8 @@ def rows():
         x, y, b = way[min(k, len(way) - 1)]
         for side in (-1, 1):
             a = math.radians(b + 90)
-            r.append(("lamp", x + side * 118 * math.sin(a), y + side * 118 * math.cos(a), 30, b,
-                      1))
+            r.append(("lamp", x + side * 119 * math.sin(a), y + side * 119 * math.cos(a), 30, b,
+                      0.75))
     for b in (166, 194, 90, 270):
         a = math.radians(b)
         r.append(("lamp", 1390 * math.sin(a), 1390 * math.cos(a), island.PLAZA_TOP, 0, 1))

@@ -26,6 +26,9 @@ MODELS = {
     "lantern-ring": models.lantern_ring, "canopy": models.canopy,
 }
 
+# Models that bring their own uv, and who paints them.
+PAINTED = {"canopy": paint.canopy}
+
 
 def swatches(mesh):
     """Flat colours: one texel block for each albedo.  Returns the picture, sets the uv."""
@@ -43,6 +46,13 @@ def swatches(mesh):
         where[c] = ((i * px + px / 2) / (size - 1), 1 - (j * px + px / 2) / (size - 1))
     mesh.uvs = [(where[c],) * 3 for c in mesh.colors]
     return page
+
+
+def lift(page):
+    """Baked pictures, opened up: the renderer's own light still multiplies them."""
+    page = 255 * (page / 255) ** 0.78
+    grey = page.mean(axis=-1, keepdims=True)
+    return np.clip(grey + 1.14 * (page - grey), 0, 255)
 
 
 def main():
@@ -66,9 +76,9 @@ def main():
     water = paint.sea_tile()
     picture("sea", water)
     picture("sea-night", paint.sea_night(water)[::2, ::2])
-    picture("sea-far", paint.sea_far())
+    picture("sea-far", paint.sea_far(water.mean(axis=(0, 1))))
     picture("glass", paint.glass())
-    picture("globe-stand", paint.stand())
+    picture("globe-stand", paint.stand(256))
     cobfile.write(d3 / "sky-sphere-04.cob", "sky", fixed.sky(), "sky-day.bmp", "fixed",
                   fixed.SKY_SCALE)
     cobfile.write(d3 / "sky-sphere-04-alpha-s2.cob", "night", fixed.sky_night(), "sky-night.bmp",
@@ -88,10 +98,15 @@ def main():
 
     # The island and the dial: painted, times baked light where it is cached.
     def baked_light(name, page):
-        path = cache / "bake" / (name + ".light.npy")
+        path = cache / "bake" / (name + ".light.npz")
         if plain or not path.exists():
             return page
-        light = np.load(path)
+        stored = np.load(path)
+        # Open sky is 1; the sun's shadow leaves 0.62 and goes towards lilac.
+        sky = np.clip(stored["sky"].astype(float), 0, 1.15) ** 0.62
+        shadow = stored["shadow"].astype(float)[..., None]
+        tone = np.array((0.68, 0.66, 0.74))
+        light = (0.42 + 0.58 * sky) * (tone + (1 - tone) * shadow)
         return page * light
 
     for i in range(3):
@@ -107,10 +122,9 @@ def main():
             page = paint.sand_color(x, y, island.height(x, y))
             picture(name, baked_light(name, page))
             cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
-    for name, mesh, size, radius in (("dial", island.dial_inner(), 512, 756),
-                                     ("dial-ring", island.dial_outer(), 512, 1500)):
-        picture(name, baked_light(name, paint.dial(size, radius)))
-        cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
+    mesh = island.dial()
+    picture("dial", baked_light("dial", paint.dial(1024, island.DIAL_REACH)))
+    cobfile.write(d3 / "dial.cob", "dial", mesh, "dial.bmp", spare=spare(mesh))
     sea = fixed.sea_disc()
     cobfile.write(d3 / "sea.cob", "sea", sea, "sea-far.bmp", spare=spare(sea))
 
@@ -118,17 +132,20 @@ def main():
     for name, make in MODELS.items():
         mesh = make()
         bake = cache / "bake" / (name + ".npz")
-        if plain or not bake.exists():
+        if name in PAINTED:
+            page = PAINTED[name]()
+        elif plain or not bake.exists():
             page = swatches(mesh)
         else:
             stored = np.load(bake)
             if len(stored["uv"]) != len(mesh.faces):
                 raise SystemExit("%s: the cached bake is of another model" % name)
             mesh.uvs = [tuple((float(u), float(v)) for u, v in f) for f in stored["uv"]]
-            page = stored["page"]
+            page = lift(stored["page"].astype(float))
         picture(name, page)
         cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
-    cobfile.write(d3 / "dummy.cob", "dummy", models.dummy(), None)
+    dummy = models.dummy()
+    cobfile.write(d3 / "dummy.cob", "dummy", dummy, None, spare=spare(dummy))
 
     layout.scene_list(data / "scene1.po")
     flights.tracks(cam)

@@ -53,29 +53,29 @@ def canopy():
         z += -26 * sag * t * t * t - (9 if inside else 0)
         return (r * math.cos(2 * math.pi * a), r * math.sin(2 * math.pi * a), z)
 
+    # Gores of one colour share one column of the picture (paint.canopy): four columns, outside
+    # coral and cream, inside coral and cream; the valance has a strip of its own.
     for inside in (False, True):
         for g in range(gores):
-            pts = []
+            col = g % 2 + (2 if inside else 0)
+            pts, uv = [], []
             for i in range(sub + 1):
-                a = (g + i / sub) / gores
-                if i == sub:
-                    a -= 1e-9
-                pts.append([point(a, 0.03 + 0.97 * (1 - j / rings), inside)
-                            for j in range(rings + 1)])
-            col = CORAL if g % 2 == 0 else CREAM
-            if inside:
-                col = shade(col, 0.92)
-            surface(m, pts, col, "plastic", flip=inside)
-        # valance: a hanging hem with a scallop in each gore
+                a = (g + i / sub) / gores - (1e-9 if i == sub else 0)
+                ts = [0.03 + 0.97 * (1 - j / rings) for j in range(rings + 1)]
+                pts.append([point(a, t, inside) for t in ts])
+                uv.append([(0.25 * col + 0.01 + 0.23 * i / sub, 0.98 - 0.66 * t) for t in ts])
+            surface(m, pts, CORAL if g % 2 == 0 else CREAM, "plastic", flip=inside, uv=uv)
         for g in range(gores):
-            pts = []
+            col = (g + 1) % 2 + (2 if inside else 0)
+            pts, uv = [], []
             for i in range(sub + 1):
                 a = (g + i / sub) / gores - (1e-9 if i == sub else 0)
                 x, y, z = point(a, 1.0, inside)
                 drop = 46 + 30 * math.sin(math.pi * i / sub)
                 pts.append([(x * 0.992, y * 0.992, z - drop), (x, y, z)])
-            col = CREAM if g % 2 == 0 else CORAL
-            surface(m, pts, shade(col, 0.92 if inside else 1.0), "matte", flip=inside)
+                u = 0.25 * col + 0.01 + 0.23 * i / sub
+                uv.append([(u, 0.20), (u, 0.28)])
+            surface(m, pts, CREAM if g % 2 == 0 else CORAL, "matte", flip=inside, uv=uv)
     # ribs below the cloth
     for g in range(gores):
         path = []
@@ -86,6 +86,10 @@ def canopy():
     # boss and finial on top
     lathe(m, [(74, 1546), (82, 1572), (52, 1602), (22, 1640), (34, 1664), (30, 1684), (9, 1706),
               (5, 1790), (0.01, 1830)], 10, BRASS, "plastic")
+    for k, (uv, col) in enumerate(zip(m.uvs, m.colors)):
+        if uv is None:
+            v = 0.14 if col == WOOD else 0.04
+            m.uvs[k] = tuple((0.06 + 0.8 * (0.37 * k % 1.0) + 0.02 * c, v) for c in range(3))
     return m
 
 
@@ -106,7 +110,8 @@ def lantern_ring():
                     row.append((r * math.cos(a), r * math.sin(a), z - (8 if inside else 0)))
                 pts.append(row)
             col = TEAL if g % 2 == 0 else CREAM
-            surface(m, pts, shade(col, 0.9) if inside else col, "plastic", flip=inside)
+            surface(m, pts, mix(col, (255, 246, 226), 0.3) if inside else col, "plastic",
+                    flip=inside)
     # rim hoop
     hoop = [(512 * math.cos(2 * math.pi * i / 24), 512 * math.sin(2 * math.pi * i / 24), 934)
             for i in range(25)]
@@ -172,7 +177,7 @@ def gate():
             col = CORAL if k % 2 else CREAM
             col = mix(col, STONE, 0.35)
             box(m, (x + 2 * rnd(), 2 * rnd(), z), (140 + 4 * rnd(), depth + 4 * rnd(), h),
-                shade(col, 1 + 0.05 * rnd()), turn=1.2 * rnd(), bottom=False)
+                shade(col, 1 + 0.05 * rnd()), turn=1.2 * rnd(), top=False)
             z += 52
         box(m, (x, 0, z - 2), (176, depth + 34, 28), STONE, bottom=True, taper=1.03)
     spring = z + 22
@@ -191,8 +196,7 @@ def gate():
             for a, r in ((a0, r0), (a0, r1), (a1, r1), (a1, r0)):
                 cs.append((r * math.cos(a), y, spring + r * math.sin(a)))
         # 0-3 front (y -d), 4-7 back
-        quads = [(0, 1, 2, 3), (7, 6, 5, 4), (1, 5, 6, 2), (0, 3, 7, 4), (0, 4, 5, 1),
-                 (3, 2, 6, 7)]
+        quads = [(0, 1, 2, 3), (7, 6, 5, 4), (1, 5, 6, 2), (0, 3, 7, 4)]
         hexa(m, cs, col, "matte", quads)
     # core ring behind the joints
     pts = []

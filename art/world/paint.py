@@ -6,6 +6,7 @@ import numpy as np
 from bitmap import fft_noise, lerp, ramp, smooth
 
 SUN_BEARING, SUN_UP = 65.0, 11.0
+MOON = (318.0, 24.0)                # bearing, elevation
 
 
 def sky_day():
@@ -80,8 +81,8 @@ def sky_day():
                          warm), 0.75 * np.exp(-(np.maximum(e, 0) / 2.2)) * (e >= 0))
 
     # the sea below the horizon, hazy far off, with a glitter below the sun
-    sea = ramp(-e, [(0, (176, 164, 170)), (2.5, (142, 150, 162)), (9, (123, 142, 156)),
-                    (30, (115, 138, 152))])
+    sea = ramp(-e, [(0, (180, 166, 172)), (2.0, (146, 151, 162)), (5, (128, 144, 156)),
+                    (30, (122, 140, 152))])
     sea = lerp(sea, np.full(sky.shape, (236, 196, 158)), 0.75 * warm * np.exp(-np.maximum(
         -e, 0) / 3.5))
     spark = fft_noise((h, w), 13, 0.5, stretch=(0.25, 1.0))
@@ -101,12 +102,30 @@ def sky_day():
 
 
 def sky_night(day):
-    """Half the size, night tint, with the day's clouds."""
-    d = (day[0::2, 0::2] + day[1::2, 0::2] + day[0::2, 1::2] + day[1::2, 1::2]) / 4
-    d = np.minimum(d, 232)
+    """A quarter of the size, night tint, the day's clouds, a moon and stars that outlive the
+    blur."""
+    n = 4
+    d = day.reshape(256, n, 256, n, 3).mean(axis=(1, 3))
+    d = np.minimum(d, 226)
     grey = d.mean(axis=-1, keepdims=True)
-    d = 0.6 * d + 0.4 * grey
-    return d * np.array((0.22, 0.27, 0.47)) + np.array((2.5, 4, 13))
+    d = 0.55 * d + 0.45 * grey
+    d = d * np.array((0.21, 0.27, 0.47)) + np.array((2.5, 4, 14))
+    y, x = np.mgrid[0:256, 0:256] + 0.5
+    bearing = x / 256 * 180 + np.where(y >= 128, 180, 0)
+    lat = 90 - (y % 128) / 128 * 135
+    up = np.degrees(np.arctan2(1780 + 9000 * np.sin(np.radians(lat)), 9000 * np.cos(
+        np.radians(lat))))
+    side = (bearing - MOON[0] + 180) % 360 - 180
+    a = np.hypot(side * np.cos(np.radians(up)), up - MOON[1])
+    glow = 0.55 * np.exp(-(a / 9.0) ** 1.1)
+    d = lerp(d, np.full(d.shape, (132, 140, 176)), glow)
+    d = lerp(d, np.full(d.shape, (255, 240, 206)), smooth(4.4, 3.4, a))
+    rng = np.random.RandomState(3)
+    for _ in range(150):
+        i, j = rng.randint(4, 252), rng.randint(2, 254)
+        if up[i, j] > 12 and a[i, j] > 9:
+            d[i, j] = np.maximum(d[i, j], 110 + 120 * rng.rand() ** 2)
+    return d
 
 
 def sea_tile(size=512):
@@ -115,20 +134,18 @@ def sea_tile(size=512):
     b = fft_noise(size, 22, 0.7, stretch=(0.7, 1.5), low=24, high=150)
     drift = fft_noise(size, 23, 2.2, low=1, high=5)
     n = 0.62 * a + 0.42 * b
-    base = np.full((size, size, 3), (126, 146, 162.0))
-    base = lerp(base, np.full(base.shape, (96, 128, 150)), np.clip(-0.30 * n + 0.10, 0, 0.8))
-    base = lerp(base, np.full(base.shape, (190, 186, 190)), np.clip(0.26 * (n - 0.35), 0, 0.7))
+    base = np.full((size, size, 3), (122, 152, 172.0))
+    base = lerp(base, np.full(base.shape, (90, 132, 158)), np.clip(-0.30 * n + 0.10, 0, 0.8))
+    base = lerp(base, np.full(base.shape, (186, 190, 198)), np.clip(0.26 * (n - 0.35), 0, 0.7))
     base = lerp(base, np.full(base.shape, (238, 214, 190)), np.clip(0.34 * (n - 1.55), 0, 0.5))
     return base + 3.0 * drift[..., None]
 
 
-def sea_far(size=256):
-    n = fft_noise(size, 24, 1.4, low=3)
-    y, x = (np.mgrid[0:size, 0:size] + 0.5) / size * 2 - 1
-    r = np.hypot(x, y)
-    base = lerp(np.full((size, size, 3), (127, 147, 162.0)),
-                np.full((size, size, 3), (123, 142, 156.0)), smooth(0.7, 1.0, r))
-    return base + 2.2 * n[..., None]
+def sea_far(mean, size=256):
+    """The disc below the tiles: their mean colour and something of their grain."""
+    n = fft_noise(size, 24, 0.9, low=6)
+    soft = fft_noise(size, 25, 1.8, low=2)
+    return np.full((size, size, 3), mean) + 5.0 * n[..., None] + 3.0 * soft[..., None]
 
 
 def sea_night(day):
@@ -228,7 +245,7 @@ def glass(size=256):
     # light gathers at the foot on the side away from the sun
     strength = strength * (1.0 + 0.25 * np.clip(y, 0, 1))
     tint = np.array((1.0, 0.72, 0.5))
-    out = 255 * (1 - (strength / level * 7 / 2.2)[..., None] * tint)
+    out = 255 * (1 - (strength / level * 7 / 1.2)[..., None] * tint)
     out = np.clip(out, 0, 255)
     out[(x > 0.9) & (y < -0.9)] = 255
     return out
@@ -268,3 +285,32 @@ def stand(size=512):
     table = np.where((r > 0.93)[..., None], 255.0, table)
     out = np.where(((x >= 0.5) & (y >= 0.5))[..., None], table, out)
     return out
+
+
+def canopy(size=256):
+    """Cloth of the parasol, laid out as models.canopy says: seams, folds, sun-bleached crown."""
+    y, x = (np.mgrid[0:size, 0:size] + 0.5) / size
+    v = 1 - y
+    t = np.clip((0.98 - v) / 0.66, 0, 1)               # 0 at the crown, 1 at the rim
+    column = np.clip((x * 4).astype(int), 0, 3)
+    g = np.clip((x - 0.25 * column - 0.01) / 0.23, 0, 1)
+    weave = fft_noise(size, 71, 0.4, low=30)
+    stain = fft_noise(size, 72, 1.8, stretch=(1.0, 0.6), low=3)
+    # The inside is paler: light comes through the cloth, and the renderer shades it.
+    tones = np.array([(216, 98, 74), (240, 228, 208), (248, 124, 92), (255, 240, 214.0)])
+    out = tones[column]
+    fold = 0.94 + 0.10 * np.sin(math.pi * g) - 0.05 * np.cos(6 * math.pi * g) * t
+    seam = np.exp(-(np.minimum(g, 1 - g) / 0.035) ** 2)
+    hoop = sum(np.exp(-((t - p) / 0.006) ** 2) for p in (0.34, 0.66, 0.965))
+    k = fold - 0.20 * seam - 0.10 * hoop
+    # inside: darker towards the crown and below the ribs; outside: bleached crown
+    inside = column >= 2
+    k = np.where(inside, k * (0.70 + 0.30 * t) - 0.10 * seam, k * (1.03 - 0.07 * t))
+    out = out * k[..., None] + 2.2 * weave[..., None] + 3.5 * stain[..., None]
+    hem = v < 0.31
+    out = np.where(hem[..., None], tones[column] * (0.80 + 0.22 * np.clip((0.28 - v) / 0.08, 0, 1)
+                                                    )[..., None], out)
+    wood = np.array((112, 80, 68)) + 7 * stain[..., None]
+    brass = np.array((214, 162, 80)) + 9 * stain[..., None]
+    out = np.where((v < 0.18)[..., None], wood, out)
+    return np.where((v < 0.09)[..., None], brass, out)
