@@ -36,6 +36,15 @@ const char* const kGreetingTexts[kGreetingSlots] = {
 };
 // clang-format on
 
+namespace {
+
+// «  С праздником весны, друзья! Мира и солнца!»
+constexpr char kSpringGreeting[] =
+    "  \xD1 \xEF\xF0\xE0\xE7\xE4\xED\xE8\xEA\xEE\xEC \xE2\xE5\xF1\xED\xFB, "
+    "\xE4\xF0\xF3\xE7\xFC\xFF! \xCC\xE8\xF0\xE0 \xE8 \xF1\xEE\xEB\xED\xF6\xE0!";
+
+} // namespace
+
 const char* const kScrollerTexts[kScrollerSlots] = {
     // page one
     "",
@@ -61,9 +70,7 @@ const char* const kScrollerTexts[kScrollerSlots] = {
     "",
     "",
     "",
-    // «  С праздником весны, друзья! Мира и солнца!»
-    "  \xD1 \xEF\xF0\xE0\xE7\xE4\xED\xE8\xEA\xEE\xEC \xE2\xE5\xF1\xED\xFB, "
-    "\xE4\xF0\xF3\xE7\xFC\xFF! \xCC\xE8\xF0\xE0 \xE8 \xF1\xEE\xEB\xED\xF6\xE0!",
+    kSpringGreeting,
     "",
     // page three
     "",
