@@ -2,8 +2,9 @@
 // a second, plainer formula; the blend tables; and that no filler leaves the memory it was given.
 #include "canvas.h"
 
-#include <cmath>
+#include <fstream>
 #include <limits>
+#include <string>
 
 #include "support/guard_memory.h"
 
@@ -592,6 +593,32 @@ TEST_F(RulesTest, DepthZeroDoesNotTrap) {
 
 // --- the table
 // ------------------------------------------------------------------------------------
+
+TEST_F(RulesTest, DocumentedTableIsTheTable) {
+    constexpr const char* kDepth[] = {"None", "Z", "ZWrite", "W"};
+    constexpr const char* kTexel[] = {"None", "Affine", "Keyed", "Bilinear", "Span", "PerPixel"};
+    constexpr const char* kLight[] = {"Unlit", "Flat", "Gouraud"};
+    constexpr const char* kWrite[] = {"Set", "Blend"};
+    constexpr const char* kEdges[] = {"Open", "Closed"};
+    std::ifstream file(OMBREL_SOURCE_DIR "/docs/rasterizer.md");
+    std::string line;
+    std::int32_t id = 0;
+    while (std::getline(file, line)) {
+        if (line.rfind("| `Fill", 0) != 0) {
+            continue;
+        }
+        ASSERT_LT(id, kFillerCount);
+        const FillerRules& rules = RulesOf(id);
+        EXPECT_EQ(line, std::string("| `") + kFillerTable[id].name + "` | " +
+                            kDepth[static_cast<int>(rules.depth)] + " | " +
+                            kTexel[static_cast<int>(rules.texel)] + " | " +
+                            kLight[static_cast<int>(rules.light)] + " | " +
+                            kWrite[static_cast<int>(rules.write)] + " | " +
+                            kEdges[static_cast<int>(rules.edges)] + " |");
+        ++id;
+    }
+    EXPECT_EQ(id, kFillerCount);
+}
 
 // Notes what the last call of a filler in use was given.
 struct Seen {
