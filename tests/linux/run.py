@@ -239,7 +239,7 @@ def picture_tests(folder, capture, work, size, keep):
             small = inner[::factor, ::factor]
             bars = not outer.any()
             sharp = bool((numpy.repeat(numpy.repeat(small, factor, 0), factor, 1) == inner).all())
-            found = frames.get(hashlib.sha256(small.tobytes()).digest())
+            found = frames.get(digest565(small))
             if found is not None and found > 0:
                 break
         if keep:
@@ -254,6 +254,11 @@ def picture_tests(folder, capture, work, size, keep):
         screen.close()
 
 
+def digest565(pixels):
+    """Of the 5-6-5 values: systems expand them to 8 bits in their own ways, one apart at most."""
+    return hashlib.sha256((pixels >> numpy.array([3, 2, 3], numpy.uint8)).tobytes()).digest()
+
+
 def capture_frames(capture, folder, out, count):
     """{hash of the pixels: number} of the first frames, from the recorder's PNG files."""
     if not out.exists():
@@ -262,7 +267,7 @@ def capture_frames(capture, folder, out, count):
     found = {}
     for file in sorted(out.glob("*.png")):
         pixels = numpy.array(Image.open(file).convert("RGB"))
-        found.setdefault(hashlib.sha256(pixels.tobytes()).digest(), int(file.stem[6:]))
+        found.setdefault(digest565(pixels), int(file.stem[6:]))
     return found
 
 

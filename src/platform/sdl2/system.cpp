@@ -67,9 +67,18 @@ int RegisterWindowClass() {
 }
 
 int CreateMainWindow() {
-    const Uint32 flags = shell.windowed != 0 ? SDL_WINDOW_HIDDEN : SDL_WINDOW_FULLSCREEN_DESKTOP;
-    sdl2.window = SDL_CreateWindow(kWindowTitle, 0, 0, shell.screenWidth, shell.screenHeight,
-                                   flags | SDL_WINDOW_ALLOW_HIGHDPI);
+    // Full screen has the size of the desktop from the start, for systems where no window manager
+    // would enlarge it.
+    Uint32 flags = SDL_WINDOW_HIDDEN;
+    SDL_DisplayMode mode{};
+    mode.w = shell.screenWidth;
+    mode.h = shell.screenHeight;
+    if (shell.windowed == 0) {
+        flags = SDL_WINDOW_FULLSCREEN_DESKTOP | SDL_WINDOW_BORDERLESS;
+        SDL_GetDesktopDisplayMode(0, &mode);
+    }
+    sdl2.window =
+        SDL_CreateWindow(kWindowTitle, 0, 0, mode.w, mode.h, flags | SDL_WINDOW_ALLOW_HIGHDPI);
     if (sdl2.window == nullptr) {
         SayNoDisplay();
         return 0;
