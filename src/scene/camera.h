@@ -53,8 +53,8 @@ struct CameraSetup {
 void CameraInit(Camera* camera, const CameraSetup& setup);
 // Sets fov, tanHalfFov and the four clip planes; exactly 1 and +-0.7071068 for 90 degrees.
 void CameraSetFov(Camera* camera, float fov);
-// The view from position and angles. order 0..5 of the inverse rotations: 0 XYZ, 1 YXZ, 2 XZY, 3 YZX,
-// 4 ZYX (the scenes'), 5 ZXY; any other leaves the view alone.
+// The view from position and angles. order 0..5 of the inverse rotations: 0 XYZ, 1 YXZ, 2 XZY, 3
+// YZX, 4 ZYX (the scenes'), 5 ZXY; any other leaves the view alone.
 void CameraBuildView(Camera* camera, std::int32_t order);
 // The basis and the view from position and target. fromAngles 1: the target is first taken from the
 // first two angles, a point of the unit sphere about the world's origin.

@@ -40,8 +40,8 @@ constexpr std::uint32_t PackLightColor(std::uint32_t r, std::uint32_t g, std::ui
 }
 
 void ClearLights(Light* lights, std::int32_t count); // all words 0
-// Stores the light; its sourcePosition and sourceDirection (normalised first) go into the source and
-// the working fields alike, so the working fields of values are not read.
+// Stores the light; its sourcePosition and sourceDirection (normalised first) go into the source
+// and the working fields alike, so the working fields of values are not read.
 void SetLight(Light* light, const Light& values);
 
 // mode 0: source in place, 1: working in place, 2: source into working, 3: source copied into

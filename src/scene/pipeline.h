@@ -1,6 +1,7 @@
 // Visibility, clipping, projection and order: the steps that bring a face list to the screen.
 // testMask bits: 1 left and right, 2 top and bottom, 4 near and far.
-// All of them pass over a face that is not live or was rejected before: its vertices stay as they are.
+// All of them pass over a face that is not live or was rejected before: its vertices stay as they
+// are.
 #pragma once
 
 #include "scene/camera.h"
@@ -28,8 +29,8 @@ void ProjectPolygons(FaceList* list, const Camera* camera);
 // The square to pixels: -1 is column 0, +1 the last column; +1 is row 0, -1 the last row.
 void MapPolygonsToScreen(FaceList* list, const Camera* camera);
 
-// 0 average depth, 1 nearest, 2 farthest corner, farthest face first; other: the list stays as it is.
-// Faces of equal depth end in no particular order, but in the same one on every system.
+// 0 average depth, 1 nearest, 2 farthest corner, farthest face first; other: the list stays as it
+// is. Faces of equal depth end in no particular order, but in the same one on every system.
 void SortFaces(FaceList* list, std::int32_t sortMode);
 // Of two elements of FaceList::pointers: -1 when the first lies deeper, +1 when the second, else 0.
 int CompareFaceAverageDepth(const void* a, const void* b);
