@@ -37,10 +37,14 @@ def save_mesh(path, mesh, uvs=False):
     if uvs:
         data["uvs"] = np.array(mesh.uvs)
     np.savez(path, **data)
-    h = hashlib.sha256()
-    for k in sorted(data):
-        h.update(np.ascontiguousarray(data[k]).tobytes())
-    return h.hexdigest()
+
+    def digest(keys):
+        h = hashlib.sha256()
+        for k in keys:
+            h.update(np.ascontiguousarray(data[k]).tobytes())
+        return h.hexdigest()
+
+    return digest(sorted(data)), digest(["faces", "verts"])
 
 
 def main():
@@ -53,9 +57,9 @@ def main():
     new, objects, lights, meshes, shape = {}, [], [], {}, []
     for name, make in MODELS.items():
         path = cache / "mesh" / (name + ".npz")
-        digest = save_mesh(path, make())
+        digest, form = save_mesh(path, make())
         meshes[name] = str(path)
-        shape.append(digest)
+        shape.append(form)
         if name in PAINTED:
             continue
         size, floor, wet, feet = LOOK[name]
@@ -78,11 +82,11 @@ def main():
                 x, y = island.patch_middle(i, j)
                 planar.append(("isle-%d%d" % (i, j), island.patch(i, j), (x, y, 0, 0, 1),
                                island.texture_size(i, j)))
-    planar.append(("dial", island.dial(), (0, 0, 0, 0, 1), 1024))
+    planar.append(("dial", island.dial(), (0, 0, 0, 0, 1), 512))
     digests = []
     for name, mesh, row, size in planar:
         path = cache / "mesh" / (name + ".npz")
-        digests.append(save_mesh(path, mesh, True))
+        digests.append(save_mesh(path, mesh, True)[0])
         meshes[name] = str(path)
         lights.append(dict(name=name, mesh=str(path), row=row, size=size, samples=24,
                            out=str(cache / "bake" / (name + ".light.npz"))))

@@ -105,6 +105,8 @@ def main():
         # Open sky is 1; the sun's shadow leaves 0.62 and goes towards lilac.
         sky = np.clip(stored["sky"].astype(float), 0, 1.15) ** 0.62
         shadow = stored["shadow"].astype(float)[..., None]
+        if len(sky) < len(page):
+            sky, shadow = bitmap.double(sky), bitmap.double(shadow)
         tone = np.array((0.68, 0.66, 0.74))
         light = (0.42 + 0.58 * sky) * (tone + (1 - tone) * shadow)
         return page * light

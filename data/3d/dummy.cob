@@ -9,10 +9,11 @@ Transform
 0 1 0 0
 0 0 1 0
 0 0 0 1
-World Vertices 3
+World Vertices 4
 0 0 0
 0.1 0 0
 0 0 0.1
+0 0 0.142
 Texture Vertices 1
 0 0
 Faces 1

@@ -657,7 +657,7 @@ Texture Vertices 309
 0.7362 0.4461
 0.6653 0.4623
 0.5827 0.4811
-Faces 616
+Faces 596
 Face verts 3 flags 0 mat 0
 <0,0> <13,2> <12,1>
 Face verts 3 flags 0 mat 0
@@ -701,8 +701,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <10,20> <23,22> <22,21>
 Face verts 3 flags 0 mat 0
-<10,20> <11,22> <23,22>
-Face verts 3 flags 0 mat 0
 <12,1> <13,2> <24,23>
 Face verts 3 flags 0 mat 0
 <24,23> <13,2> <25,24>
@@ -744,8 +742,6 @@ Face verts 3 flags 0 mat 0
 <21,18> <22,21> <34,33>
 Face verts 3 flags 0 mat 0
 <22,21> <23,22> <34,33>
-Face verts 3 flags 0 mat 0
-<34,33> <23,22> <35,22>
 Face verts 3 flags 0 mat 0
 <24,23> <37,35> <36,34>
 Face verts 3 flags 0 mat 0
@@ -833,8 +829,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <46,44> <47,22> <58,55>
 Face verts 3 flags 0 mat 0
-<58,55> <47,22> <59,22>
-Face verts 3 flags 0 mat 0
 <48,45> <61,57> <60,56>
 Face verts 3 flags 0 mat 0
 <48,45> <49,46> <61,57>
@@ -921,8 +915,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <70,66> <71,22> <82,77>
 Face verts 3 flags 0 mat 0
-<82,77> <71,22> <83,22>
-Face verts 3 flags 0 mat 0
 <72,67> <85,79> <84,78>
 Face verts 3 flags 0 mat 0
 <72,67> <73,68> <85,79>
@@ -964,8 +956,6 @@ Face verts 3 flags 0 mat 0
 <93,87> <82,77> <94,88>
 Face verts 3 flags 0 mat 0
 <82,77> <95,22> <94,88>
-Face verts 3 flags 0 mat 0
-<82,77> <83,22> <95,22>
 Face verts 3 flags 0 mat 0
 <84,78> <85,79> <96,89>
 Face verts 3 flags 0 mat 0
@@ -1009,8 +999,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <94,88> <95,22> <106,99>
 Face verts 3 flags 0 mat 0
-<106,99> <95,22> <107,22>
-Face verts 3 flags 0 mat 0
 <96,89> <109,101> <108,100>
 Face verts 3 flags 0 mat 0
 <96,89> <97,90> <109,101>
@@ -1052,8 +1040,6 @@ Face verts 3 flags 0 mat 0
 <117,109> <106,99> <118,110>
 Face verts 3 flags 0 mat 0
 <106,99> <119,22> <118,110>
-Face verts 3 flags 0 mat 0
-<106,99> <107,22> <119,22>
 Face verts 3 flags 0 mat 0
 <108,100> <109,101> <120,111>
 Face verts 3 flags 0 mat 0
@@ -1141,8 +1127,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <130,121> <143,22> <142,132>
 Face verts 3 flags 0 mat 0
-<130,121> <131,22> <143,22>
-Face verts 3 flags 0 mat 0
 <132,122> <133,123> <144,133>
 Face verts 3 flags 0 mat 0
 <144,133> <133,123> <145,134>
@@ -1229,8 +1213,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <154,143> <167,22> <166,154>
 Face verts 3 flags 0 mat 0
-<154,143> <155,22> <167,22>
-Face verts 3 flags 0 mat 0
 <156,144> <157,145> <168,155>
 Face verts 3 flags 0 mat 0
 <168,155> <157,145> <169,156>
@@ -1272,8 +1254,6 @@ Face verts 3 flags 0 mat 0
 <165,153> <166,154> <178,165>
 Face verts 3 flags 0 mat 0
 <166,154> <167,22> <178,165>
-Face verts 3 flags 0 mat 0
-<178,165> <167,22> <179,22>
 Face verts 3 flags 0 mat 0
 <168,155> <181,167> <180,166>
 Face verts 3 flags 0 mat 0
@@ -1317,8 +1297,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <178,165> <191,22> <190,176>
 Face verts 3 flags 0 mat 0
-<178,165> <179,22> <191,22>
-Face verts 3 flags 0 mat 0
 <180,166> <181,167> <192,177>
 Face verts 3 flags 0 mat 0
 <192,177> <181,167> <193,178>
@@ -1360,8 +1338,6 @@ Face verts 3 flags 0 mat 0
 <189,175> <190,176> <202,187>
 Face verts 3 flags 0 mat 0
 <190,176> <191,22> <202,187>
-Face verts 3 flags 0 mat 0
-<202,187> <191,22> <203,22>
 Face verts 3 flags 0 mat 0
 <192,177> <205,189> <204,188>
 Face verts 3 flags 0 mat 0
@@ -1449,8 +1425,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <214,198> <215,22> <226,209>
 Face verts 3 flags 0 mat 0
-<226,209> <215,22> <227,22>
-Face verts 3 flags 0 mat 0
 <216,199> <229,211> <228,210>
 Face verts 3 flags 0 mat 0
 <216,199> <217,200> <229,211>
@@ -1537,8 +1511,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <238,220> <239,22> <250,231>
 Face verts 3 flags 0 mat 0
-<250,231> <239,22> <251,22>
-Face verts 3 flags 0 mat 0
 <240,221> <253,233> <252,232>
 Face verts 3 flags 0 mat 0
 <240,221> <241,222> <253,233>
@@ -1580,8 +1552,6 @@ Face verts 3 flags 0 mat 0
 <261,241> <250,231> <262,242>
 Face verts 3 flags 0 mat 0
 <250,231> <263,22> <262,242>
-Face verts 3 flags 0 mat 0
-<250,231> <251,22> <263,22>
 Face verts 3 flags 0 mat 0
 <252,232> <253,233> <264,243>
 Face verts 3 flags 0 mat 0
@@ -1625,8 +1595,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <262,242> <263,22> <274,253>
 Face verts 3 flags 0 mat 0
-<274,253> <263,22> <275,22>
-Face verts 3 flags 0 mat 0
 <264,243> <277,255> <276,254>
 Face verts 3 flags 0 mat 0
 <264,243> <265,244> <277,255>
@@ -1668,8 +1636,6 @@ Face verts 3 flags 0 mat 0
 <285,263> <274,253> <286,264>
 Face verts 3 flags 0 mat 0
 <274,253> <287,22> <286,264>
-Face verts 3 flags 0 mat 0
-<274,253> <275,22> <287,22>
 Face verts 3 flags 0 mat 0
 <276,254> <277,255> <288,265>
 Face verts 3 flags 0 mat 0
@@ -1757,8 +1723,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <298,275> <311,22> <310,286>
 Face verts 3 flags 0 mat 0
-<298,275> <299,22> <311,22>
-Face verts 3 flags 0 mat 0
 <300,276> <301,277> <312,287>
 Face verts 3 flags 0 mat 0
 <312,287> <301,277> <313,288>
@@ -1845,8 +1809,6 @@ Face verts 3 flags 0 mat 0
 Face verts 3 flags 0 mat 0
 <322,297> <335,22> <334,308>
 Face verts 3 flags 0 mat 0
-<322,297> <323,22> <335,22>
-Face verts 3 flags 0 mat 0
 <324,298> <325,299> <0,0>
 Face verts 3 flags 0 mat 0
 <0,0> <325,299> <1,3>
@@ -1888,8 +1850,6 @@ Face verts 3 flags 0 mat 0
 <333,307> <334,308> <10,20>
 Face verts 3 flags 0 mat 0
 <334,308> <335,22> <10,20>
-Face verts 3 flags 0 mat 0
-<10,20> <335,22> <11,22>
 mat# 0
 rgb 1,1,1
 alpha 1 ka 0.1 ks 0.1 exp 0

@@ -1139,7 +1139,7 @@ Texture Vertices 515
 0.9207 0.6127
 0.9318 0.5569
 0.985 0.015
-Faces 1076
+Faces 1075
 Face verts 3 flags 0 mat 0
 <0,0> <2,2> <1,1>
 Face verts 3 flags 0 mat 0
@@ -1254,8 +1254,6 @@ Face verts 3 flags 0 mat 0
 <55,25> <57,6> <56,32>
 Face verts 3 flags 0 mat 0
 <57,6> <58,33> <56,32>
-Face verts 3 flags 0 mat 0
-<57,6> <59,6> <58,33>
 Face verts 3 flags 0 mat 0
 <59,6> <60,34> <58,33>
 Face verts 3 flags 0 mat 0

@@ -2093,3438 +2093,5651 @@ World Vertices 2083
 0.07 2.36 11.7
 -0.07 2.36 11.7
 0 0 20.59
-Texture Vertices 10
-0.8889 0.873
-0.6349 0.619
-0.127 0.619
-0.8889 0.619
-0.6349 0.873
-0.381 0.873
-0.381 0.3651
-0.127 0.3651
-0.381 0.619
-0.127 0.873
-Faces 1710
-Face verts 3 flags 0 mat 0
-<0,0> <3,0> <2,0>
-Face verts 3 flags 0 mat 0
-<0,0> <1,0> <3,0>
-Face verts 3 flags 0 mat 0
-<2,0> <3,0> <4,0>
-Face verts 3 flags 0 mat 0
-<4,0> <3,0> <5,0>
-Face verts 3 flags 0 mat 0
-<4,0> <7,0> <6,0>
-Face verts 3 flags 0 mat 0
-<4,0> <5,0> <7,0>
-Face verts 3 flags 0 mat 0
-<6,0> <7,0> <8,0>
-Face verts 3 flags 0 mat 0
-<8,0> <7,0> <9,0>
-Face verts 3 flags 0 mat 0
-<8,0> <11,0> <10,0>
-Face verts 3 flags 0 mat 0
-<8,0> <9,0> <11,0>
-Face verts 3 flags 0 mat 0
-<10,0> <11,0> <12,0>
-Face verts 3 flags 0 mat 0
-<12,0> <11,0> <13,0>
-Face verts 3 flags 0 mat 0
-<12,0> <15,0> <14,0>
-Face verts 3 flags 0 mat 0
-<12,0> <13,0> <15,0>
-Face verts 3 flags 0 mat 0
-<14,0> <15,0> <16,0>
-Face verts 3 flags 0 mat 0
-<16,0> <15,0> <17,0>
-Face verts 3 flags 0 mat 0
-<16,0> <19,0> <18,0>
-Face verts 3 flags 0 mat 0
-<16,0> <17,0> <19,0>
-Face verts 3 flags 0 mat 0
-<18,0> <19,0> <20,0>
-Face verts 3 flags 0 mat 0
-<20,0> <19,0> <21,0>
-Face verts 3 flags 0 mat 0
-<20,0> <23,0> <22,0>
-Face verts 3 flags 0 mat 0
-<20,0> <21,0> <23,0>
-Face verts 3 flags 0 mat 0
-<22,0> <23,0> <0,0>
-Face verts 3 flags 0 mat 0
-<0,0> <23,0> <1,0>
-Face verts 3 flags 0 mat 0
-<24,0> <27,0> <26,0>
-Face verts 3 flags 0 mat 0
-<24,0> <25,0> <27,0>
-Face verts 3 flags 0 mat 0
-<26,0> <27,0> <28,0>
-Face verts 3 flags 0 mat 0
-<28,0> <27,0> <29,0>
-Face verts 3 flags 0 mat 0
-<28,0> <31,0> <30,0>
-Face verts 3 flags 0 mat 0
-<28,0> <29,0> <31,0>
-Face verts 3 flags 0 mat 0
-<30,0> <31,0> <32,0>
-Face verts 3 flags 0 mat 0
-<32,0> <31,0> <33,0>
-Face verts 3 flags 0 mat 0
-<32,0> <35,0> <34,0>
-Face verts 3 flags 0 mat 0
-<32,0> <33,0> <35,0>
-Face verts 3 flags 0 mat 0
-<34,0> <35,0> <36,0>
-Face verts 3 flags 0 mat 0
-<36,0> <35,0> <37,0>
-Face verts 3 flags 0 mat 0
-<36,0> <39,0> <38,0>
-Face verts 3 flags 0 mat 0
-<36,0> <37,0> <39,0>
-Face verts 3 flags 0 mat 0
-<38,0> <39,0> <40,0>
-Face verts 3 flags 0 mat 0
-<40,0> <39,0> <41,0>
-Face verts 3 flags 0 mat 0
-<40,0> <43,0> <42,0>
-Face verts 3 flags 0 mat 0
-<40,0> <41,0> <43,0>
-Face verts 3 flags 0 mat 0
-<42,0> <43,0> <44,0>
-Face verts 3 flags 0 mat 0
-<44,0> <43,0> <45,0>
-Face verts 3 flags 0 mat 0
-<44,0> <47,0> <46,0>
-Face verts 3 flags 0 mat 0
-<44,0> <45,0> <47,0>
-Face verts 3 flags 0 mat 0
-<46,0> <47,0> <24,0>
-Face verts 3 flags 0 mat 0
-<24,0> <47,0> <25,0>
-Face verts 3 flags 0 mat 0
-<48,0> <51,0> <50,0>
-Face verts 3 flags 0 mat 0
-<48,0> <49,0> <51,0>
-Face verts 3 flags 0 mat 0
-<50,0> <51,0> <52,0>
-Face verts 3 flags 0 mat 0
-<52,0> <51,0> <53,0>
-Face verts 3 flags 0 mat 0
-<52,0> <55,0> <54,0>
-Face verts 3 flags 0 mat 0
-<52,0> <53,0> <55,0>
-Face verts 3 flags 0 mat 0
-<54,0> <55,0> <56,0>
-Face verts 3 flags 0 mat 0
-<56,0> <55,0> <57,0>
-Face verts 3 flags 0 mat 0
-<56,0> <59,0> <58,0>
-Face verts 3 flags 0 mat 0
-<56,0> <57,0> <59,0>
-Face verts 3 flags 0 mat 0
-<58,0> <59,0> <60,0>
-Face verts 3 flags 0 mat 0
-<60,0> <59,0> <61,0>
-Face verts 3 flags 0 mat 0
-<60,0> <63,0> <62,0>
-Face verts 3 flags 0 mat 0
-<60,0> <61,0> <63,0>
-Face verts 3 flags 0 mat 0
-<62,0> <63,0> <64,0>
-Face verts 3 flags 0 mat 0
-<64,0> <63,0> <65,0>
-Face verts 3 flags 0 mat 0
-<64,0> <67,0> <66,0>
-Face verts 3 flags 0 mat 0
-<64,0> <65,0> <67,0>
-Face verts 3 flags 0 mat 0
-<66,0> <67,0> <68,0>
-Face verts 3 flags 0 mat 0
-<68,0> <67,0> <69,0>
-Face verts 3 flags 0 mat 0
-<68,0> <71,0> <70,0>
-Face verts 3 flags 0 mat 0
-<68,0> <69,0> <71,0>
-Face verts 3 flags 0 mat 0
-<70,0> <71,0> <48,0>
-Face verts 3 flags 0 mat 0
-<48,0> <71,0> <49,0>
-Face verts 3 flags 0 mat 0
-<72,1> <75,1> <74,1>
-Face verts 3 flags 0 mat 0
-<72,1> <73,1> <75,1>
-Face verts 3 flags 0 mat 0
-<74,1> <75,1> <76,1>
-Face verts 3 flags 0 mat 0
-<76,1> <75,1> <77,1>
-Face verts 3 flags 0 mat 0
-<76,1> <79,1> <78,1>
-Face verts 3 flags 0 mat 0
-<76,1> <77,1> <79,1>
-Face verts 3 flags 0 mat 0
-<78,1> <79,1> <80,1>
-Face verts 3 flags 0 mat 0
-<80,1> <79,1> <81,1>
-Face verts 3 flags 0 mat 0
-<80,1> <83,1> <82,1>
-Face verts 3 flags 0 mat 0
-<80,1> <81,1> <83,1>
-Face verts 3 flags 0 mat 0
-<82,1> <83,1> <84,1>
-Face verts 3 flags 0 mat 0
-<84,1> <83,1> <85,1>
-Face verts 3 flags 0 mat 0
-<84,1> <87,1> <86,1>
-Face verts 3 flags 0 mat 0
-<84,1> <85,1> <87,1>
-Face verts 3 flags 0 mat 0
-<86,1> <87,1> <88,1>
-Face verts 3 flags 0 mat 0
-<88,1> <87,1> <89,1>
-Face verts 3 flags 0 mat 0
-<88,1> <91,1> <90,1>
-Face verts 3 flags 0 mat 0
-<88,1> <89,1> <91,1>
-Face verts 3 flags 0 mat 0
-<90,1> <91,1> <92,1>
-Face verts 3 flags 0 mat 0
-<92,1> <91,1> <93,1>
-Face verts 3 flags 0 mat 0
-<92,1> <95,1> <94,1>
-Face verts 3 flags 0 mat 0
-<92,1> <93,1> <95,1>
-Face verts 3 flags 0 mat 0
-<94,1> <95,1> <72,1>
-Face verts 3 flags 0 mat 0
-<72,1> <95,1> <73,1>
-Face verts 3 flags 0 mat 0
-<96,2> <99,2> <98,2>
-Face verts 3 flags 0 mat 0
-<96,2> <97,2> <99,2>
-Face verts 3 flags 0 mat 0
-<98,2> <99,2> <100,2>
-Face verts 3 flags 0 mat 0
-<100,2> <99,2> <101,2>
-Face verts 3 flags 0 mat 0
-<100,2> <103,2> <102,2>
-Face verts 3 flags 0 mat 0
-<100,2> <101,2> <103,2>
-Face verts 3 flags 0 mat 0
-<102,2> <103,2> <104,2>
-Face verts 3 flags 0 mat 0
-<104,2> <103,2> <105,2>
-Face verts 3 flags 0 mat 0
-<104,2> <107,2> <106,2>
-Face verts 3 flags 0 mat 0
-<104,2> <105,2> <107,2>
-Face verts 3 flags 0 mat 0
-<106,2> <107,2> <108,2>
-Face verts 3 flags 0 mat 0
-<108,2> <107,2> <109,2>
-Face verts 3 flags 0 mat 0
-<108,2> <111,2> <110,2>
-Face verts 3 flags 0 mat 0
-<108,2> <109,2> <111,2>
-Face verts 3 flags 0 mat 0
-<110,2> <111,2> <112,2>
-Face verts 3 flags 0 mat 0
-<112,2> <111,2> <113,2>
-Face verts 3 flags 0 mat 0
-<112,2> <115,2> <114,2>
-Face verts 3 flags 0 mat 0
-<112,2> <113,2> <115,2>
-Face verts 3 flags 0 mat 0
-<114,2> <115,2> <116,2>
-Face verts 3 flags 0 mat 0
-<116,2> <115,2> <117,2>
-Face verts 3 flags 0 mat 0
-<116,2> <119,2> <118,2>
-Face verts 3 flags 0 mat 0
-<116,2> <117,2> <119,2>
-Face verts 3 flags 0 mat 0
-<118,2> <119,2> <96,2>
-Face verts 3 flags 0 mat 0
-<96,2> <119,2> <97,2>
-Face verts 3 flags 0 mat 0
-<120,3> <123,3> <122,3>
-Face verts 3 flags 0 mat 0
-<120,3> <121,3> <123,3>
-Face verts 3 flags 0 mat 0
-<122,3> <123,3> <124,3>
-Face verts 3 flags 0 mat 0
-<124,3> <123,3> <125,3>
-Face verts 3 flags 0 mat 0
-<124,3> <127,3> <126,3>
-Face verts 3 flags 0 mat 0
-<124,3> <125,3> <127,3>
-Face verts 3 flags 0 mat 0
-<126,3> <127,3> <128,3>
-Face verts 3 flags 0 mat 0
-<128,3> <127,3> <129,3>
-Face verts 3 flags 0 mat 0
-<128,3> <131,3> <130,3>
-Face verts 3 flags 0 mat 0
-<128,3> <129,3> <131,3>
-Face verts 3 flags 0 mat 0
-<130,3> <131,3> <132,3>
-Face verts 3 flags 0 mat 0
-<132,3> <131,3> <133,3>
-Face verts 3 flags 0 mat 0
-<132,3> <135,3> <134,3>
-Face verts 3 flags 0 mat 0
-<132,3> <133,3> <135,3>
-Face verts 3 flags 0 mat 0
-<134,3> <135,3> <136,3>
-Face verts 3 flags 0 mat 0
-<136,3> <135,3> <137,3>
-Face verts 3 flags 0 mat 0
-<136,3> <139,3> <138,3>
-Face verts 3 flags 0 mat 0
-<136,3> <137,3> <139,3>
-Face verts 3 flags 0 mat 0
-<138,3> <139,3> <140,3>
-Face verts 3 flags 0 mat 0
-<140,3> <139,3> <141,3>
-Face verts 3 flags 0 mat 0
-<140,3> <143,3> <142,3>
-Face verts 3 flags 0 mat 0
-<140,3> <141,3> <143,3>
-Face verts 3 flags 0 mat 0
-<142,3> <143,3> <120,3>
-Face verts 3 flags 0 mat 0
-<120,3> <143,3> <121,3>
-Face verts 3 flags 0 mat 0
-<144,2> <147,2> <146,2>
-Face verts 3 flags 0 mat 0
-<144,2> <145,2> <147,2>
-Face verts 3 flags 0 mat 0
-<146,2> <147,2> <148,2>
-Face verts 3 flags 0 mat 0
-<148,2> <147,2> <149,2>
-Face verts 3 flags 0 mat 0
-<148,2> <151,2> <150,2>
-Face verts 3 flags 0 mat 0
-<148,2> <149,2> <151,2>
-Face verts 3 flags 0 mat 0
-<150,2> <151,2> <152,2>
-Face verts 3 flags 0 mat 0
-<152,2> <151,2> <153,2>
-Face verts 3 flags 0 mat 0
-<152,2> <155,2> <154,2>
-Face verts 3 flags 0 mat 0
-<152,2> <153,2> <155,2>
-Face verts 3 flags 0 mat 0
-<154,2> <155,2> <156,2>
-Face verts 3 flags 0 mat 0
-<156,2> <155,2> <157,2>
-Face verts 3 flags 0 mat 0
-<156,2> <159,2> <158,2>
-Face verts 3 flags 0 mat 0
-<156,2> <157,2> <159,2>
-Face verts 3 flags 0 mat 0
-<158,2> <159,2> <160,2>
-Face verts 3 flags 0 mat 0
-<160,2> <159,2> <161,2>
-Face verts 3 flags 0 mat 0
-<160,2> <163,2> <162,2>
-Face verts 3 flags 0 mat 0
-<160,2> <161,2> <163,2>
-Face verts 3 flags 0 mat 0
-<162,2> <163,2> <164,2>
-Face verts 3 flags 0 mat 0
-<164,2> <163,2> <165,2>
-Face verts 3 flags 0 mat 0
-<164,2> <167,2> <166,2>
-Face verts 3 flags 0 mat 0
-<164,2> <165,2> <167,2>
-Face verts 3 flags 0 mat 0
-<166,2> <167,2> <144,2>
-Face verts 3 flags 0 mat 0
-<144,2> <167,2> <145,2>
-Face verts 3 flags 0 mat 0
-<168,3> <171,3> <170,3>
-Face verts 3 flags 0 mat 0
-<168,3> <169,3> <171,3>
-Face verts 3 flags 0 mat 0
-<170,3> <171,3> <172,3>
-Face verts 3 flags 0 mat 0
-<172,3> <171,3> <173,3>
-Face verts 3 flags 0 mat 0
-<172,3> <175,3> <174,3>
-Face verts 3 flags 0 mat 0
-<172,3> <173,3> <175,3>
-Face verts 3 flags 0 mat 0
-<174,3> <175,3> <176,3>
-Face verts 3 flags 0 mat 0
-<176,3> <175,3> <177,3>
-Face verts 3 flags 0 mat 0
-<176,3> <179,3> <178,3>
-Face verts 3 flags 0 mat 0
-<176,3> <177,3> <179,3>
-Face verts 3 flags 0 mat 0
-<178,3> <179,3> <180,3>
-Face verts 3 flags 0 mat 0
-<180,3> <179,3> <181,3>
-Face verts 3 flags 0 mat 0
-<180,3> <183,3> <182,3>
-Face verts 3 flags 0 mat 0
-<180,3> <181,3> <183,3>
-Face verts 3 flags 0 mat 0
-<182,3> <183,3> <184,3>
-Face verts 3 flags 0 mat 0
-<184,3> <183,3> <185,3>
-Face verts 3 flags 0 mat 0
-<184,3> <187,3> <186,3>
-Face verts 3 flags 0 mat 0
-<184,3> <185,3> <187,3>
-Face verts 3 flags 0 mat 0
-<186,3> <187,3> <188,3>
-Face verts 3 flags 0 mat 0
-<188,3> <187,3> <189,3>
-Face verts 3 flags 0 mat 0
-<188,3> <191,3> <190,3>
-Face verts 3 flags 0 mat 0
-<188,3> <189,3> <191,3>
-Face verts 3 flags 0 mat 0
-<190,3> <191,3> <168,3>
-Face verts 3 flags 0 mat 0
-<168,3> <191,3> <169,3>
-Face verts 3 flags 0 mat 0
-<192,2> <195,2> <194,2>
-Face verts 3 flags 0 mat 0
-<192,2> <193,2> <195,2>
-Face verts 3 flags 0 mat 0
-<194,2> <195,2> <196,2>
-Face verts 3 flags 0 mat 0
-<196,2> <195,2> <197,2>
-Face verts 3 flags 0 mat 0
-<196,2> <199,2> <198,2>
-Face verts 3 flags 0 mat 0
-<196,2> <197,2> <199,2>
-Face verts 3 flags 0 mat 0
-<198,2> <199,2> <200,2>
-Face verts 3 flags 0 mat 0
-<200,2> <199,2> <201,2>
-Face verts 3 flags 0 mat 0
-<200,2> <203,2> <202,2>
-Face verts 3 flags 0 mat 0
-<200,2> <201,2> <203,2>
-Face verts 3 flags 0 mat 0
-<202,2> <203,2> <204,2>
-Face verts 3 flags 0 mat 0
-<204,2> <203,2> <205,2>
-Face verts 3 flags 0 mat 0
-<204,2> <207,2> <206,2>
-Face verts 3 flags 0 mat 0
-<204,2> <205,2> <207,2>
-Face verts 3 flags 0 mat 0
-<206,2> <207,2> <208,2>
-Face verts 3 flags 0 mat 0
-<208,2> <207,2> <209,2>
-Face verts 3 flags 0 mat 0
-<208,2> <211,2> <210,2>
-Face verts 3 flags 0 mat 0
-<208,2> <209,2> <211,2>
-Face verts 3 flags 0 mat 0
-<210,2> <211,2> <212,2>
-Face verts 3 flags 0 mat 0
-<212,2> <211,2> <213,2>
-Face verts 3 flags 0 mat 0
-<212,2> <215,2> <214,2>
-Face verts 3 flags 0 mat 0
-<212,2> <213,2> <215,2>
-Face verts 3 flags 0 mat 0
-<214,2> <215,2> <192,2>
-Face verts 3 flags 0 mat 0
-<192,2> <215,2> <193,2>
-Face verts 3 flags 0 mat 0
-<216,3> <219,3> <218,3>
-Face verts 3 flags 0 mat 0
-<216,3> <217,3> <219,3>
-Face verts 3 flags 0 mat 0
-<218,3> <219,3> <220,3>
-Face verts 3 flags 0 mat 0
-<220,3> <219,3> <221,3>
-Face verts 3 flags 0 mat 0
-<220,3> <223,3> <222,3>
-Face verts 3 flags 0 mat 0
-<220,3> <221,3> <223,3>
-Face verts 3 flags 0 mat 0
-<222,3> <223,3> <224,3>
-Face verts 3 flags 0 mat 0
-<224,3> <223,3> <225,3>
-Face verts 3 flags 0 mat 0
-<224,3> <227,3> <226,3>
-Face verts 3 flags 0 mat 0
-<224,3> <225,3> <227,3>
-Face verts 3 flags 0 mat 0
-<226,3> <227,3> <228,3>
-Face verts 3 flags 0 mat 0
-<228,3> <227,3> <229,3>
-Face verts 3 flags 0 mat 0
-<228,3> <231,3> <230,3>
-Face verts 3 flags 0 mat 0
-<228,3> <229,3> <231,3>
-Face verts 3 flags 0 mat 0
-<230,3> <231,3> <232,3>
-Face verts 3 flags 0 mat 0
-<232,3> <231,3> <233,3>
-Face verts 3 flags 0 mat 0
-<232,3> <235,3> <234,3>
-Face verts 3 flags 0 mat 0
-<232,3> <233,3> <235,3>
-Face verts 3 flags 0 mat 0
-<234,3> <235,3> <236,3>
-Face verts 3 flags 0 mat 0
-<236,3> <235,3> <237,3>
-Face verts 3 flags 0 mat 0
-<236,3> <239,3> <238,3>
-Face verts 3 flags 0 mat 0
-<236,3> <237,3> <239,3>
-Face verts 3 flags 0 mat 0
-<238,3> <239,3> <216,3>
-Face verts 3 flags 0 mat 0
-<216,3> <239,3> <217,3>
-Face verts 3 flags 0 mat 0
-<240,2> <243,2> <242,2>
-Face verts 3 flags 0 mat 0
-<240,2> <241,2> <243,2>
-Face verts 3 flags 0 mat 0
-<242,2> <243,2> <244,2>
-Face verts 3 flags 0 mat 0
-<244,2> <243,2> <245,2>
-Face verts 3 flags 0 mat 0
-<244,2> <247,2> <246,2>
-Face verts 3 flags 0 mat 0
-<244,2> <245,2> <247,2>
-Face verts 3 flags 0 mat 0
-<246,2> <247,2> <248,2>
-Face verts 3 flags 0 mat 0
-<248,2> <247,2> <249,2>
-Face verts 3 flags 0 mat 0
-<248,2> <251,2> <250,2>
-Face verts 3 flags 0 mat 0
-<248,2> <249,2> <251,2>
-Face verts 3 flags 0 mat 0
-<250,2> <251,2> <252,2>
-Face verts 3 flags 0 mat 0
-<252,2> <251,2> <253,2>
-Face verts 3 flags 0 mat 0
-<252,2> <255,2> <254,2>
-Face verts 3 flags 0 mat 0
-<252,2> <253,2> <255,2>
-Face verts 3 flags 0 mat 0
-<254,2> <255,2> <256,2>
-Face verts 3 flags 0 mat 0
-<256,2> <255,2> <257,2>
-Face verts 3 flags 0 mat 0
-<256,2> <259,2> <258,2>
-Face verts 3 flags 0 mat 0
-<256,2> <257,2> <259,2>
-Face verts 3 flags 0 mat 0
-<258,2> <259,2> <260,2>
-Face verts 3 flags 0 mat 0
-<260,2> <259,2> <261,2>
-Face verts 3 flags 0 mat 0
-<260,2> <263,2> <262,2>
-Face verts 3 flags 0 mat 0
-<260,2> <261,2> <263,2>
-Face verts 3 flags 0 mat 0
-<262,2> <263,2> <240,2>
-Face verts 3 flags 0 mat 0
-<240,2> <263,2> <241,2>
-Face verts 3 flags 0 mat 0
-<264,3> <267,3> <266,3>
-Face verts 3 flags 0 mat 0
-<264,3> <265,3> <267,3>
-Face verts 3 flags 0 mat 0
-<266,3> <267,3> <268,3>
-Face verts 3 flags 0 mat 0
-<268,3> <267,3> <269,3>
-Face verts 3 flags 0 mat 0
-<268,3> <271,3> <270,3>
-Face verts 3 flags 0 mat 0
-<268,3> <269,3> <271,3>
-Face verts 3 flags 0 mat 0
-<270,3> <271,3> <272,3>
-Face verts 3 flags 0 mat 0
-<272,3> <271,3> <273,3>
-Face verts 3 flags 0 mat 0
-<272,3> <275,3> <274,3>
-Face verts 3 flags 0 mat 0
-<272,3> <273,3> <275,3>
-Face verts 3 flags 0 mat 0
-<274,3> <275,3> <276,3>
-Face verts 3 flags 0 mat 0
-<276,3> <275,3> <277,3>
-Face verts 3 flags 0 mat 0
-<276,3> <279,3> <278,3>
-Face verts 3 flags 0 mat 0
-<276,3> <277,3> <279,3>
-Face verts 3 flags 0 mat 0
-<278,3> <279,3> <280,3>
-Face verts 3 flags 0 mat 0
-<280,3> <279,3> <281,3>
-Face verts 3 flags 0 mat 0
-<280,3> <283,3> <282,3>
-Face verts 3 flags 0 mat 0
-<280,3> <281,3> <283,3>
-Face verts 3 flags 0 mat 0
-<282,3> <283,3> <284,3>
-Face verts 3 flags 0 mat 0
-<284,3> <283,3> <285,3>
-Face verts 3 flags 0 mat 0
-<284,3> <287,3> <286,3>
-Face verts 3 flags 0 mat 0
-<284,3> <285,3> <287,3>
-Face verts 3 flags 0 mat 0
-<286,3> <287,3> <264,3>
-Face verts 3 flags 0 mat 0
-<264,3> <287,3> <265,3>
-Face verts 3 flags 0 mat 0
-<288,2> <291,2> <290,2>
-Face verts 3 flags 0 mat 0
-<288,2> <289,2> <291,2>
-Face verts 3 flags 0 mat 0
-<290,2> <291,2> <292,2>
-Face verts 3 flags 0 mat 0
-<292,2> <291,2> <293,2>
-Face verts 3 flags 0 mat 0
-<292,2> <295,2> <294,2>
-Face verts 3 flags 0 mat 0
-<292,2> <293,2> <295,2>
-Face verts 3 flags 0 mat 0
-<294,2> <295,2> <296,2>
-Face verts 3 flags 0 mat 0
-<296,2> <295,2> <297,2>
-Face verts 3 flags 0 mat 0
-<296,2> <299,2> <298,2>
-Face verts 3 flags 0 mat 0
-<296,2> <297,2> <299,2>
-Face verts 3 flags 0 mat 0
-<298,2> <299,2> <300,2>
-Face verts 3 flags 0 mat 0
-<300,2> <299,2> <301,2>
-Face verts 3 flags 0 mat 0
-<300,2> <303,2> <302,2>
-Face verts 3 flags 0 mat 0
-<300,2> <301,2> <303,2>
-Face verts 3 flags 0 mat 0
-<302,2> <303,2> <304,2>
-Face verts 3 flags 0 mat 0
-<304,2> <303,2> <305,2>
-Face verts 3 flags 0 mat 0
-<304,2> <307,2> <306,2>
-Face verts 3 flags 0 mat 0
-<304,2> <305,2> <307,2>
-Face verts 3 flags 0 mat 0
-<306,2> <307,2> <308,2>
-Face verts 3 flags 0 mat 0
-<308,2> <307,2> <309,2>
-Face verts 3 flags 0 mat 0
-<308,2> <311,2> <310,2>
-Face verts 3 flags 0 mat 0
-<308,2> <309,2> <311,2>
-Face verts 3 flags 0 mat 0
-<310,2> <311,2> <288,2>
-Face verts 3 flags 0 mat 0
-<288,2> <311,2> <289,2>
-Face verts 3 flags 0 mat 0
-<312,3> <315,3> <314,3>
-Face verts 3 flags 0 mat 0
-<312,3> <313,3> <315,3>
-Face verts 3 flags 0 mat 0
-<314,3> <315,3> <316,3>
-Face verts 3 flags 0 mat 0
-<316,3> <315,3> <317,3>
-Face verts 3 flags 0 mat 0
-<316,3> <319,3> <318,3>
-Face verts 3 flags 0 mat 0
-<316,3> <317,3> <319,3>
-Face verts 3 flags 0 mat 0
-<318,3> <319,3> <320,3>
-Face verts 3 flags 0 mat 0
-<320,3> <319,3> <321,3>
-Face verts 3 flags 0 mat 0
-<320,3> <323,3> <322,3>
-Face verts 3 flags 0 mat 0
-<320,3> <321,3> <323,3>
-Face verts 3 flags 0 mat 0
-<322,3> <323,3> <324,3>
-Face verts 3 flags 0 mat 0
-<324,3> <323,3> <325,3>
-Face verts 3 flags 0 mat 0
-<324,3> <327,3> <326,3>
-Face verts 3 flags 0 mat 0
-<324,3> <325,3> <327,3>
-Face verts 3 flags 0 mat 0
-<326,3> <327,3> <328,3>
-Face verts 3 flags 0 mat 0
-<328,3> <327,3> <329,3>
-Face verts 3 flags 0 mat 0
-<328,3> <331,3> <330,3>
-Face verts 3 flags 0 mat 0
-<328,3> <329,3> <331,3>
-Face verts 3 flags 0 mat 0
-<330,3> <331,3> <332,3>
-Face verts 3 flags 0 mat 0
-<332,3> <331,3> <333,3>
-Face verts 3 flags 0 mat 0
-<332,3> <335,3> <334,3>
-Face verts 3 flags 0 mat 0
-<332,3> <333,3> <335,3>
-Face verts 3 flags 0 mat 0
-<334,3> <335,3> <312,3>
-Face verts 3 flags 0 mat 0
-<312,3> <335,3> <313,3>
-Face verts 3 flags 0 mat 0
-<336,4> <338,4> <337,4>
-Face verts 3 flags 0 mat 0
-<336,4> <339,4> <338,4>
-Face verts 3 flags 0 mat 0
-<340,4> <342,4> <341,4>
-Face verts 3 flags 0 mat 0
-<340,4> <343,4> <342,4>
-Face verts 3 flags 0 mat 0
-<344,4> <346,4> <345,4>
-Face verts 3 flags 0 mat 0
-<344,4> <347,4> <346,4>
-Face verts 3 flags 0 mat 0
-<348,4> <350,4> <349,4>
-Face verts 3 flags 0 mat 0
-<348,4> <351,4> <350,4>
-Face verts 3 flags 0 mat 0
-<352,5> <354,5> <353,5>
-Face verts 3 flags 0 mat 0
-<352,5> <355,5> <354,5>
-Face verts 3 flags 0 mat 0
-<356,5> <358,5> <357,5>
-Face verts 3 flags 0 mat 0
-<356,5> <359,5> <358,5>
-Face verts 3 flags 0 mat 0
-<360,5> <362,5> <361,5>
-Face verts 3 flags 0 mat 0
-<360,5> <363,5> <362,5>
-Face verts 3 flags 0 mat 0
-<364,5> <366,5> <365,5>
-Face verts 3 flags 0 mat 0
-<364,5> <367,5> <366,5>
-Face verts 3 flags 0 mat 0
-<368,4> <370,4> <369,4>
-Face verts 3 flags 0 mat 0
-<368,4> <371,4> <370,4>
-Face verts 3 flags 0 mat 0
-<372,4> <374,4> <373,4>
-Face verts 3 flags 0 mat 0
-<372,4> <375,4> <374,4>
-Face verts 3 flags 0 mat 0
-<376,4> <378,4> <377,4>
-Face verts 3 flags 0 mat 0
-<376,4> <379,4> <378,4>
-Face verts 3 flags 0 mat 0
-<380,4> <382,4> <381,4>
-Face verts 3 flags 0 mat 0
-<380,4> <383,4> <382,4>
-Face verts 3 flags 0 mat 0
-<384,5> <386,5> <385,5>
-Face verts 3 flags 0 mat 0
-<384,5> <387,5> <386,5>
-Face verts 3 flags 0 mat 0
-<388,5> <390,5> <389,5>
-Face verts 3 flags 0 mat 0
-<388,5> <391,5> <390,5>
-Face verts 3 flags 0 mat 0
-<392,5> <394,5> <393,5>
-Face verts 3 flags 0 mat 0
-<392,5> <395,5> <394,5>
-Face verts 3 flags 0 mat 0
-<396,5> <398,5> <397,5>
-Face verts 3 flags 0 mat 0
-<396,5> <399,5> <398,5>
-Face verts 3 flags 0 mat 0
-<400,4> <402,4> <401,4>
-Face verts 3 flags 0 mat 0
-<400,4> <403,4> <402,4>
-Face verts 3 flags 0 mat 0
-<404,4> <406,4> <405,4>
-Face verts 3 flags 0 mat 0
-<404,4> <407,4> <406,4>
-Face verts 3 flags 0 mat 0
-<408,4> <410,4> <409,4>
-Face verts 3 flags 0 mat 0
-<408,4> <411,4> <410,4>
-Face verts 3 flags 0 mat 0
-<412,4> <414,4> <413,4>
-Face verts 3 flags 0 mat 0
-<412,4> <415,4> <414,4>
-Face verts 3 flags 0 mat 0
-<416,5> <418,5> <417,5>
-Face verts 3 flags 0 mat 0
-<416,5> <419,5> <418,5>
-Face verts 3 flags 0 mat 0
-<420,5> <422,5> <421,5>
-Face verts 3 flags 0 mat 0
-<420,5> <423,5> <422,5>
-Face verts 3 flags 0 mat 0
-<424,5> <426,5> <425,5>
-Face verts 3 flags 0 mat 0
-<424,5> <427,5> <426,5>
-Face verts 3 flags 0 mat 0
-<428,5> <430,5> <429,5>
-Face verts 3 flags 0 mat 0
-<428,5> <431,5> <430,5>
-Face verts 3 flags 0 mat 0
-<432,4> <434,4> <433,4>
-Face verts 3 flags 0 mat 0
-<432,4> <435,4> <434,4>
-Face verts 3 flags 0 mat 0
-<436,4> <438,4> <437,4>
-Face verts 3 flags 0 mat 0
-<436,4> <439,4> <438,4>
-Face verts 3 flags 0 mat 0
-<440,4> <442,4> <441,4>
-Face verts 3 flags 0 mat 0
-<440,4> <443,4> <442,4>
-Face verts 3 flags 0 mat 0
-<444,4> <446,4> <445,4>
-Face verts 3 flags 0 mat 0
-<444,4> <447,4> <446,4>
-Face verts 3 flags 0 mat 0
-<448,5> <450,5> <449,5>
-Face verts 3 flags 0 mat 0
-<448,5> <451,5> <450,5>
-Face verts 3 flags 0 mat 0
-<452,5> <454,5> <453,5>
-Face verts 3 flags 0 mat 0
-<452,5> <455,5> <454,5>
-Face verts 3 flags 0 mat 0
-<456,5> <458,5> <457,5>
-Face verts 3 flags 0 mat 0
-<456,5> <459,5> <458,5>
-Face verts 3 flags 0 mat 0
-<460,5> <462,5> <461,5>
-Face verts 3 flags 0 mat 0
-<460,5> <463,5> <462,5>
-Face verts 3 flags 0 mat 0
-<464,4> <466,4> <465,4>
-Face verts 3 flags 0 mat 0
-<464,4> <467,4> <466,4>
-Face verts 3 flags 0 mat 0
-<468,4> <470,4> <469,4>
-Face verts 3 flags 0 mat 0
-<468,4> <471,4> <470,4>
-Face verts 3 flags 0 mat 0
-<472,4> <474,4> <473,4>
-Face verts 3 flags 0 mat 0
-<472,4> <475,4> <474,4>
-Face verts 3 flags 0 mat 0
-<476,4> <478,4> <477,4>
-Face verts 3 flags 0 mat 0
-<476,4> <479,4> <478,4>
-Face verts 3 flags 0 mat 0
-<480,5> <482,5> <481,5>
-Face verts 3 flags 0 mat 0
-<480,5> <483,5> <482,5>
-Face verts 3 flags 0 mat 0
-<484,5> <486,5> <485,5>
-Face verts 3 flags 0 mat 0
-<484,5> <487,5> <486,5>
-Face verts 3 flags 0 mat 0
-<488,5> <490,5> <489,5>
-Face verts 3 flags 0 mat 0
-<488,5> <491,5> <490,5>
-Face verts 3 flags 0 mat 0
-<492,5> <494,5> <493,5>
-Face verts 3 flags 0 mat 0
-<492,5> <495,5> <494,5>
-Face verts 3 flags 0 mat 0
-<496,4> <498,4> <497,4>
-Face verts 3 flags 0 mat 0
-<496,4> <499,4> <498,4>
-Face verts 3 flags 0 mat 0
-<500,4> <502,4> <501,4>
-Face verts 3 flags 0 mat 0
-<500,4> <503,4> <502,4>
-Face verts 3 flags 0 mat 0
-<504,4> <506,4> <505,4>
-Face verts 3 flags 0 mat 0
-<504,4> <507,4> <506,4>
-Face verts 3 flags 0 mat 0
-<508,4> <510,4> <509,4>
-Face verts 3 flags 0 mat 0
-<508,4> <511,4> <510,4>
-Face verts 3 flags 0 mat 0
-<512,5> <514,5> <513,5>
-Face verts 3 flags 0 mat 0
-<512,5> <515,5> <514,5>
-Face verts 3 flags 0 mat 0
-<516,5> <518,5> <517,5>
-Face verts 3 flags 0 mat 0
-<516,5> <519,5> <518,5>
-Face verts 3 flags 0 mat 0
-<520,5> <522,5> <521,5>
-Face verts 3 flags 0 mat 0
-<520,5> <523,5> <522,5>
-Face verts 3 flags 0 mat 0
-<524,5> <526,5> <525,5>
-Face verts 3 flags 0 mat 0
-<524,5> <527,5> <526,5>
-Face verts 3 flags 0 mat 0
-<528,4> <530,4> <529,4>
-Face verts 3 flags 0 mat 0
-<528,4> <531,4> <530,4>
-Face verts 3 flags 0 mat 0
-<532,4> <534,4> <533,4>
-Face verts 3 flags 0 mat 0
-<532,4> <535,4> <534,4>
-Face verts 3 flags 0 mat 0
-<536,4> <538,4> <537,4>
-Face verts 3 flags 0 mat 0
-<536,4> <539,4> <538,4>
-Face verts 3 flags 0 mat 0
-<540,4> <542,4> <541,4>
-Face verts 3 flags 0 mat 0
-<540,4> <543,4> <542,4>
-Face verts 3 flags 0 mat 0
-<544,5> <546,5> <545,5>
-Face verts 3 flags 0 mat 0
-<544,5> <547,5> <546,5>
-Face verts 3 flags 0 mat 0
-<548,5> <550,5> <549,5>
-Face verts 3 flags 0 mat 0
-<548,5> <551,5> <550,5>
-Face verts 3 flags 0 mat 0
-<552,5> <554,5> <553,5>
-Face verts 3 flags 0 mat 0
-<552,5> <555,5> <554,5>
-Face verts 3 flags 0 mat 0
-<556,5> <558,5> <557,5>
-Face verts 3 flags 0 mat 0
-<556,5> <559,5> <558,5>
-Face verts 3 flags 0 mat 0
-<560,4> <562,4> <561,4>
-Face verts 3 flags 0 mat 0
-<560,4> <563,4> <562,4>
-Face verts 3 flags 0 mat 0
-<564,4> <566,4> <565,4>
-Face verts 3 flags 0 mat 0
-<564,4> <567,4> <566,4>
-Face verts 3 flags 0 mat 0
-<568,4> <570,4> <569,4>
-Face verts 3 flags 0 mat 0
-<568,4> <571,4> <570,4>
-Face verts 3 flags 0 mat 0
-<572,4> <574,4> <573,4>
-Face verts 3 flags 0 mat 0
-<572,4> <575,4> <574,4>
-Face verts 3 flags 0 mat 0
-<576,5> <578,5> <577,5>
-Face verts 3 flags 0 mat 0
-<576,5> <579,5> <578,5>
-Face verts 3 flags 0 mat 0
-<580,5> <582,5> <581,5>
-Face verts 3 flags 0 mat 0
-<580,5> <583,5> <582,5>
-Face verts 3 flags 0 mat 0
-<584,5> <586,5> <585,5>
-Face verts 3 flags 0 mat 0
-<584,5> <587,5> <586,5>
-Face verts 3 flags 0 mat 0
-<588,5> <590,5> <589,5>
-Face verts 3 flags 0 mat 0
-<588,5> <591,5> <590,5>
-Face verts 3 flags 0 mat 0
-<592,4> <594,4> <593,4>
-Face verts 3 flags 0 mat 0
-<592,4> <595,4> <594,4>
-Face verts 3 flags 0 mat 0
-<596,4> <598,4> <597,4>
-Face verts 3 flags 0 mat 0
-<596,4> <599,4> <598,4>
-Face verts 3 flags 0 mat 0
-<600,4> <602,4> <601,4>
-Face verts 3 flags 0 mat 0
-<600,4> <603,4> <602,4>
-Face verts 3 flags 0 mat 0
-<604,4> <606,4> <605,4>
-Face verts 3 flags 0 mat 0
-<604,4> <607,4> <606,4>
-Face verts 3 flags 0 mat 0
-<608,5> <610,5> <609,5>
-Face verts 3 flags 0 mat 0
-<608,5> <611,5> <610,5>
-Face verts 3 flags 0 mat 0
-<612,5> <614,5> <613,5>
-Face verts 3 flags 0 mat 0
-<612,5> <615,5> <614,5>
-Face verts 3 flags 0 mat 0
-<616,5> <618,5> <617,5>
-Face verts 3 flags 0 mat 0
-<616,5> <619,5> <618,5>
-Face verts 3 flags 0 mat 0
-<620,5> <622,5> <621,5>
-Face verts 3 flags 0 mat 0
-<620,5> <623,5> <622,5>
-Face verts 3 flags 0 mat 0
-<624,4> <626,4> <625,4>
-Face verts 3 flags 0 mat 0
-<624,4> <627,4> <626,4>
-Face verts 3 flags 0 mat 0
-<628,4> <630,4> <629,4>
-Face verts 3 flags 0 mat 0
-<628,4> <631,4> <630,4>
-Face verts 3 flags 0 mat 0
-<632,4> <634,4> <633,4>
-Face verts 3 flags 0 mat 0
-<632,4> <635,4> <634,4>
-Face verts 3 flags 0 mat 0
-<636,4> <638,4> <637,4>
-Face verts 3 flags 0 mat 0
-<636,4> <639,4> <638,4>
-Face verts 3 flags 0 mat 0
-<640,5> <642,5> <641,5>
-Face verts 3 flags 0 mat 0
-<640,5> <643,5> <642,5>
-Face verts 3 flags 0 mat 0
-<644,5> <646,5> <645,5>
-Face verts 3 flags 0 mat 0
-<644,5> <647,5> <646,5>
-Face verts 3 flags 0 mat 0
-<648,5> <650,5> <649,5>
-Face verts 3 flags 0 mat 0
-<648,5> <651,5> <650,5>
-Face verts 3 flags 0 mat 0
-<652,5> <654,5> <653,5>
-Face verts 3 flags 0 mat 0
-<652,5> <655,5> <654,5>
-Face verts 3 flags 0 mat 0
-<656,4> <658,4> <657,4>
-Face verts 3 flags 0 mat 0
-<656,4> <659,4> <658,4>
-Face verts 3 flags 0 mat 0
-<660,4> <662,4> <661,4>
-Face verts 3 flags 0 mat 0
-<660,4> <663,4> <662,4>
-Face verts 3 flags 0 mat 0
-<664,4> <666,4> <665,4>
-Face verts 3 flags 0 mat 0
-<664,4> <667,4> <666,4>
-Face verts 3 flags 0 mat 0
-<668,4> <670,4> <669,4>
-Face verts 3 flags 0 mat 0
-<668,4> <671,4> <670,4>
-Face verts 3 flags 0 mat 0
-<672,5> <674,5> <673,5>
-Face verts 3 flags 0 mat 0
-<672,5> <675,5> <674,5>
-Face verts 3 flags 0 mat 0
-<676,5> <678,5> <677,5>
-Face verts 3 flags 0 mat 0
-<676,5> <679,5> <678,5>
-Face verts 3 flags 0 mat 0
-<680,5> <682,5> <681,5>
-Face verts 3 flags 0 mat 0
-<680,5> <683,5> <682,5>
-Face verts 3 flags 0 mat 0
-<684,5> <686,5> <685,5>
-Face verts 3 flags 0 mat 0
-<684,5> <687,5> <686,5>
-Face verts 3 flags 0 mat 0
-<688,4> <690,4> <689,4>
-Face verts 3 flags 0 mat 0
-<688,4> <691,4> <690,4>
-Face verts 3 flags 0 mat 0
-<692,4> <694,4> <693,4>
-Face verts 3 flags 0 mat 0
-<692,4> <695,4> <694,4>
-Face verts 3 flags 0 mat 0
-<696,4> <698,4> <697,4>
-Face verts 3 flags 0 mat 0
-<696,4> <699,4> <698,4>
-Face verts 3 flags 0 mat 0
-<700,4> <702,4> <701,4>
-Face verts 3 flags 0 mat 0
-<700,4> <703,4> <702,4>
-Face verts 3 flags 0 mat 0
-<704,5> <706,5> <705,5>
-Face verts 3 flags 0 mat 0
-<704,5> <707,5> <706,5>
-Face verts 3 flags 0 mat 0
-<708,5> <710,5> <709,5>
-Face verts 3 flags 0 mat 0
-<708,5> <711,5> <710,5>
-Face verts 3 flags 0 mat 0
-<712,5> <714,5> <713,5>
-Face verts 3 flags 0 mat 0
-<712,5> <715,5> <714,5>
-Face verts 3 flags 0 mat 0
-<716,5> <718,5> <717,5>
-Face verts 3 flags 0 mat 0
-<716,5> <719,5> <718,5>
-Face verts 3 flags 0 mat 0
-<720,4> <722,4> <721,4>
-Face verts 3 flags 0 mat 0
-<720,4> <723,4> <722,4>
-Face verts 3 flags 0 mat 0
-<724,4> <726,4> <725,4>
-Face verts 3 flags 0 mat 0
-<724,4> <727,4> <726,4>
-Face verts 3 flags 0 mat 0
-<728,4> <730,4> <729,4>
-Face verts 3 flags 0 mat 0
-<728,4> <731,4> <730,4>
-Face verts 3 flags 0 mat 0
-<732,4> <734,4> <733,4>
-Face verts 3 flags 0 mat 0
-<732,4> <735,4> <734,4>
-Face verts 3 flags 0 mat 0
-<736,5> <738,5> <737,5>
-Face verts 3 flags 0 mat 0
-<736,5> <739,5> <738,5>
-Face verts 3 flags 0 mat 0
-<740,5> <742,5> <741,5>
-Face verts 3 flags 0 mat 0
-<740,5> <743,5> <742,5>
-Face verts 3 flags 0 mat 0
-<744,5> <746,5> <745,5>
-Face verts 3 flags 0 mat 0
-<744,5> <747,5> <746,5>
-Face verts 3 flags 0 mat 0
-<748,5> <750,5> <749,5>
-Face verts 3 flags 0 mat 0
-<748,5> <751,5> <750,5>
-Face verts 3 flags 0 mat 0
-<752,4> <754,4> <753,4>
-Face verts 3 flags 0 mat 0
-<752,4> <755,4> <754,4>
-Face verts 3 flags 0 mat 0
-<756,4> <758,4> <757,4>
-Face verts 3 flags 0 mat 0
-<756,4> <759,4> <758,4>
-Face verts 3 flags 0 mat 0
-<760,4> <762,4> <761,4>
-Face verts 3 flags 0 mat 0
-<760,4> <763,4> <762,4>
-Face verts 3 flags 0 mat 0
-<764,4> <766,4> <765,4>
-Face verts 3 flags 0 mat 0
-<764,4> <767,4> <766,4>
-Face verts 3 flags 0 mat 0
-<768,5> <770,5> <769,5>
-Face verts 3 flags 0 mat 0
-<768,5> <771,5> <770,5>
-Face verts 3 flags 0 mat 0
-<772,5> <774,5> <773,5>
-Face verts 3 flags 0 mat 0
-<772,5> <775,5> <774,5>
-Face verts 3 flags 0 mat 0
-<776,5> <778,5> <777,5>
-Face verts 3 flags 0 mat 0
-<776,5> <779,5> <778,5>
-Face verts 3 flags 0 mat 0
-<780,5> <782,5> <781,5>
-Face verts 3 flags 0 mat 0
-<780,5> <783,5> <782,5>
-Face verts 3 flags 0 mat 0
-<784,4> <786,4> <785,4>
-Face verts 3 flags 0 mat 0
-<784,4> <787,4> <786,4>
-Face verts 3 flags 0 mat 0
-<788,4> <790,4> <789,4>
-Face verts 3 flags 0 mat 0
-<788,4> <791,4> <790,4>
-Face verts 3 flags 0 mat 0
-<792,4> <794,4> <793,4>
-Face verts 3 flags 0 mat 0
-<792,4> <795,4> <794,4>
-Face verts 3 flags 0 mat 0
-<796,4> <798,4> <797,4>
-Face verts 3 flags 0 mat 0
-<796,4> <799,4> <798,4>
-Face verts 3 flags 0 mat 0
-<800,5> <802,5> <801,5>
-Face verts 3 flags 0 mat 0
-<800,5> <803,5> <802,5>
-Face verts 3 flags 0 mat 0
-<804,5> <806,5> <805,5>
-Face verts 3 flags 0 mat 0
-<804,5> <807,5> <806,5>
-Face verts 3 flags 0 mat 0
-<808,5> <810,5> <809,5>
-Face verts 3 flags 0 mat 0
-<808,5> <811,5> <810,5>
-Face verts 3 flags 0 mat 0
-<812,5> <814,5> <813,5>
-Face verts 3 flags 0 mat 0
-<812,5> <815,5> <814,5>
-Face verts 3 flags 0 mat 0
-<816,4> <818,4> <817,4>
-Face verts 3 flags 0 mat 0
-<816,4> <819,4> <818,4>
-Face verts 3 flags 0 mat 0
-<820,4> <822,4> <821,4>
-Face verts 3 flags 0 mat 0
-<820,4> <823,4> <822,4>
-Face verts 3 flags 0 mat 0
-<824,4> <826,4> <825,4>
-Face verts 3 flags 0 mat 0
-<824,4> <827,4> <826,4>
-Face verts 3 flags 0 mat 0
-<828,4> <830,4> <829,4>
-Face verts 3 flags 0 mat 0
-<828,4> <831,4> <830,4>
-Face verts 3 flags 0 mat 0
-<832,5> <834,5> <833,5>
-Face verts 3 flags 0 mat 0
-<832,5> <835,5> <834,5>
-Face verts 3 flags 0 mat 0
-<836,5> <838,5> <837,5>
-Face verts 3 flags 0 mat 0
-<836,5> <839,5> <838,5>
-Face verts 3 flags 0 mat 0
-<840,5> <842,5> <841,5>
-Face verts 3 flags 0 mat 0
-<840,5> <843,5> <842,5>
-Face verts 3 flags 0 mat 0
-<844,5> <846,5> <845,5>
-Face verts 3 flags 0 mat 0
-<844,5> <847,5> <846,5>
-Face verts 3 flags 0 mat 0
-<848,4> <850,4> <849,4>
-Face verts 3 flags 0 mat 0
-<848,4> <851,4> <850,4>
-Face verts 3 flags 0 mat 0
-<852,4> <854,4> <853,4>
-Face verts 3 flags 0 mat 0
-<852,4> <855,4> <854,4>
-Face verts 3 flags 0 mat 0
-<856,4> <858,4> <857,4>
-Face verts 3 flags 0 mat 0
-<856,4> <859,4> <858,4>
-Face verts 3 flags 0 mat 0
-<860,4> <862,4> <861,4>
-Face verts 3 flags 0 mat 0
-<860,4> <863,4> <862,4>
-Face verts 3 flags 0 mat 0
-<864,5> <866,5> <865,5>
-Face verts 3 flags 0 mat 0
-<864,5> <867,5> <866,5>
-Face verts 3 flags 0 mat 0
-<868,5> <870,5> <869,5>
-Face verts 3 flags 0 mat 0
-<868,5> <871,5> <870,5>
-Face verts 3 flags 0 mat 0
-<872,5> <874,5> <873,5>
-Face verts 3 flags 0 mat 0
-<872,5> <875,5> <874,5>
-Face verts 3 flags 0 mat 0
-<876,5> <878,5> <877,5>
-Face verts 3 flags 0 mat 0
-<876,5> <879,5> <878,5>
-Face verts 3 flags 0 mat 0
-<880,4> <882,4> <881,4>
-Face verts 3 flags 0 mat 0
-<880,4> <883,4> <882,4>
-Face verts 3 flags 0 mat 0
-<884,4> <886,4> <885,4>
-Face verts 3 flags 0 mat 0
-<884,4> <887,4> <886,4>
-Face verts 3 flags 0 mat 0
-<888,4> <890,4> <889,4>
-Face verts 3 flags 0 mat 0
-<888,4> <891,4> <890,4>
-Face verts 3 flags 0 mat 0
-<892,4> <894,4> <893,4>
-Face verts 3 flags 0 mat 0
-<892,4> <895,4> <894,4>
-Face verts 3 flags 0 mat 0
-<896,5> <898,5> <897,5>
-Face verts 3 flags 0 mat 0
-<896,5> <899,5> <898,5>
-Face verts 3 flags 0 mat 0
-<900,5> <902,5> <901,5>
-Face verts 3 flags 0 mat 0
-<900,5> <903,5> <902,5>
-Face verts 3 flags 0 mat 0
-<904,5> <906,5> <905,5>
-Face verts 3 flags 0 mat 0
-<904,5> <907,5> <906,5>
-Face verts 3 flags 0 mat 0
-<908,5> <910,5> <909,5>
-Face verts 3 flags 0 mat 0
-<908,5> <911,5> <910,5>
-Face verts 3 flags 0 mat 0
-<912,4> <914,4> <913,4>
-Face verts 3 flags 0 mat 0
-<912,4> <915,4> <914,4>
-Face verts 3 flags 0 mat 0
-<916,4> <918,4> <917,4>
-Face verts 3 flags 0 mat 0
-<916,4> <919,4> <918,4>
-Face verts 3 flags 0 mat 0
-<920,4> <922,4> <921,4>
-Face verts 3 flags 0 mat 0
-<920,4> <923,4> <922,4>
-Face verts 3 flags 0 mat 0
-<924,4> <926,4> <925,4>
-Face verts 3 flags 0 mat 0
-<924,4> <927,4> <926,4>
-Face verts 3 flags 0 mat 0
-<928,5> <930,5> <929,5>
-Face verts 3 flags 0 mat 0
-<928,5> <931,5> <930,5>
-Face verts 3 flags 0 mat 0
-<932,5> <934,5> <933,5>
-Face verts 3 flags 0 mat 0
-<932,5> <935,5> <934,5>
-Face verts 3 flags 0 mat 0
-<936,5> <938,5> <937,5>
-Face verts 3 flags 0 mat 0
-<936,5> <939,5> <938,5>
-Face verts 3 flags 0 mat 0
-<940,5> <942,5> <941,5>
-Face verts 3 flags 0 mat 0
-<940,5> <943,5> <942,5>
-Face verts 3 flags 0 mat 0
-<944,4> <946,4> <945,4>
-Face verts 3 flags 0 mat 0
-<944,4> <947,4> <946,4>
-Face verts 3 flags 0 mat 0
-<948,4> <950,4> <949,4>
-Face verts 3 flags 0 mat 0
-<948,4> <951,4> <950,4>
-Face verts 3 flags 0 mat 0
-<952,4> <954,4> <953,4>
-Face verts 3 flags 0 mat 0
-<952,4> <955,4> <954,4>
-Face verts 3 flags 0 mat 0
-<956,4> <958,4> <957,4>
-Face verts 3 flags 0 mat 0
-<956,4> <959,4> <958,4>
-Face verts 3 flags 0 mat 0
-<960,5> <962,5> <961,5>
-Face verts 3 flags 0 mat 0
-<960,5> <963,5> <962,5>
-Face verts 3 flags 0 mat 0
-<964,5> <966,5> <965,5>
-Face verts 3 flags 0 mat 0
-<964,5> <967,5> <966,5>
-Face verts 3 flags 0 mat 0
-<968,5> <970,5> <969,5>
-Face verts 3 flags 0 mat 0
-<968,5> <971,5> <970,5>
-Face verts 3 flags 0 mat 0
-<972,5> <974,5> <973,5>
-Face verts 3 flags 0 mat 0
-<972,5> <975,5> <974,5>
-Face verts 3 flags 0 mat 0
-<976,4> <978,4> <977,4>
-Face verts 3 flags 0 mat 0
-<976,4> <979,4> <978,4>
-Face verts 3 flags 0 mat 0
-<980,4> <982,4> <981,4>
-Face verts 3 flags 0 mat 0
-<980,4> <983,4> <982,4>
-Face verts 3 flags 0 mat 0
-<984,4> <986,4> <985,4>
-Face verts 3 flags 0 mat 0
-<984,4> <987,4> <986,4>
-Face verts 3 flags 0 mat 0
-<988,4> <990,4> <989,4>
-Face verts 3 flags 0 mat 0
-<988,4> <991,4> <990,4>
-Face verts 3 flags 0 mat 0
-<992,5> <994,5> <993,5>
-Face verts 3 flags 0 mat 0
-<992,5> <995,5> <994,5>
-Face verts 3 flags 0 mat 0
-<996,5> <998,5> <997,5>
-Face verts 3 flags 0 mat 0
-<996,5> <999,5> <998,5>
-Face verts 3 flags 0 mat 0
-<1000,5> <1002,5> <1001,5>
-Face verts 3 flags 0 mat 0
-<1000,5> <1003,5> <1002,5>
-Face verts 3 flags 0 mat 0
-<1004,5> <1006,5> <1005,5>
-Face verts 3 flags 0 mat 0
-<1004,5> <1007,5> <1006,5>
-Face verts 3 flags 0 mat 0
-<1008,4> <1010,4> <1009,4>
-Face verts 3 flags 0 mat 0
-<1008,4> <1011,4> <1010,4>
-Face verts 3 flags 0 mat 0
-<1012,4> <1014,4> <1013,4>
-Face verts 3 flags 0 mat 0
-<1012,4> <1015,4> <1014,4>
-Face verts 3 flags 0 mat 0
-<1016,4> <1018,4> <1017,4>
-Face verts 3 flags 0 mat 0
-<1016,4> <1019,4> <1018,4>
-Face verts 3 flags 0 mat 0
-<1020,4> <1022,4> <1021,4>
-Face verts 3 flags 0 mat 0
-<1020,4> <1023,4> <1022,4>
-Face verts 3 flags 0 mat 0
-<1024,5> <1026,5> <1025,5>
-Face verts 3 flags 0 mat 0
-<1024,5> <1027,5> <1026,5>
-Face verts 3 flags 0 mat 0
-<1028,5> <1030,5> <1029,5>
-Face verts 3 flags 0 mat 0
-<1028,5> <1031,5> <1030,5>
-Face verts 3 flags 0 mat 0
-<1032,5> <1034,5> <1033,5>
-Face verts 3 flags 0 mat 0
-<1032,5> <1035,5> <1034,5>
-Face verts 3 flags 0 mat 0
-<1036,5> <1038,5> <1037,5>
-Face verts 3 flags 0 mat 0
-<1036,5> <1039,5> <1038,5>
-Face verts 3 flags 0 mat 0
-<1040,4> <1042,4> <1041,4>
-Face verts 3 flags 0 mat 0
-<1040,4> <1043,4> <1042,4>
-Face verts 3 flags 0 mat 0
-<1044,4> <1046,4> <1045,4>
-Face verts 3 flags 0 mat 0
-<1044,4> <1047,4> <1046,4>
-Face verts 3 flags 0 mat 0
-<1048,4> <1050,4> <1049,4>
-Face verts 3 flags 0 mat 0
-<1048,4> <1051,4> <1050,4>
-Face verts 3 flags 0 mat 0
-<1052,4> <1054,4> <1053,4>
-Face verts 3 flags 0 mat 0
-<1052,4> <1055,4> <1054,4>
-Face verts 3 flags 0 mat 0
-<1056,5> <1058,5> <1057,5>
-Face verts 3 flags 0 mat 0
-<1056,5> <1059,5> <1058,5>
-Face verts 3 flags 0 mat 0
-<1060,5> <1062,5> <1061,5>
-Face verts 3 flags 0 mat 0
-<1060,5> <1063,5> <1062,5>
-Face verts 3 flags 0 mat 0
-<1064,5> <1066,5> <1065,5>
-Face verts 3 flags 0 mat 0
-<1064,5> <1067,5> <1066,5>
-Face verts 3 flags 0 mat 0
-<1068,5> <1070,5> <1069,5>
-Face verts 3 flags 0 mat 0
-<1068,5> <1071,5> <1070,5>
+Texture Vertices 2271
+0.621 0.1479
+0.6219 0.0819
+0.6635 0.084
+0.6625 0.1483
+0.5717 0.3112
+0.5702 0.2629
+0.6132 0.3082
+0.6118 0.2611
+0.5697 0.1968
+0.6112 0.1968
+0.5702 0.1305
+0.6118 0.1323
+0.5717 0.0819
+0.6132 0.0849
+0.4856 0.6366
+0.4851 0.5704
+0.5271 0.6349
+0.5267 0.5704
+0.4856 0.5042
+0.5271 0.506
+0.6173 0.3666
+0.6183 0.4155
+0.5757 0.3693
+0.5767 0.4169
+0.6183 0.4819
+0.5767 0.4815
+0.6173 0.5479
+0.5757 0.5458
+0.6219 0.2631
+0.621 0.2143
+0.6625 0.2128
+0.6635 0.2603
+0.095 0.2529
+0.0372 0.2195
+0.0447 0.212
+0.0978 0.2426
+0.0039 0.1617
+0.0141 0.159
+0.0039 0.095
+0.0141 0.0978
+0.0372 0.0372
+0.0447 0.0447
+0.095 0.0039
+0.0978 0.0141
+0.1617 0.0039
+0.159 0.0141
+0.2195 0.0372
+0.212 0.0447
+0.2529 0.095
+0.2426 0.0978
+0.2529 0.1617
+0.2426 0.159
+0.2195 0.2195
+0.212 0.212
+0.1617 0.2529
+0.159 0.2426
+0.7724 0.0652
+0.7733 0.0061
+0.791 0.0076
+0.7901 0.0653
+0.2344 0.6967
+0.2331 0.6535
+0.2521 0.6944
+0.2508 0.6522
+0.2326 0.5944
+0.2503 0.5944
+0.2331 0.5352
+0.2508 0.5366
+0.2344 0.4918
+0.2521 0.4941
+0.4012 0.6623
+0.4008 0.6032
+0.4189 0.661
+0.4185 0.6032
+0.4012 0.5441
+0.4189 0.5454
+0.5358 0.7831
+0.5349 0.7394
+0.5535 0.781
+0.5526 0.7383
+0.5349 0.6801
+0.5526 0.6803
+0.5358 0.6211
+0.5535 0.6226
+0.7733 0.168
+0.7724 0.1244
+0.7901 0.1232
+0.791 0.1659
+0.0857 0.484
+0.0338 0.4541
+0.0516 0.4363
+0.0922 0.4597
+0.0039 0.4023
+0.0282 0.3957
+0.0039 0.3424
+0.0282 0.3489
+0.0338 0.2906
+0.0516 0.3083
+0.0857 0.2606
+0.0922 0.2849
+0.1455 0.2606
+0.139 0.2849
+0.1974 0.2906
+0.1796 0.3083
+0.2273 0.3424
+0.203 0.3489
+0.2273 0.4023
+0.203 0.3957
+0.1974 0.4541
+0.1796 0.4363
+0.1455 0.484
+0.139 0.4597
+0.5757 0.6004
+0.5764 0.5557
+0.6144 0.5578
+0.6138 0.6007
+0.1398 0.6469
+0.1388 0.6142
+0.1778 0.6437
+0.1768 0.6124
+0.1384 0.5695
+0.1765 0.5695
+0.1388 0.5247
+0.1768 0.5265
+0.1398 0.4918
+0.1778 0.495
+0.766 0.6014
+0.7657 0.5566
+0.804 0.5996
+0.8037 0.5566
+0.766 0.5119
+0.804 0.5137
+0.355 0.6667
+0.3543 0.6336
+0.393 0.6638
+0.3924 0.6321
+0.3543 0.5887
+0.3924 0.589
+0.355 0.5441
+0.393 0.5462
+0.5764 0.6782
+0.5757 0.6452
+0.6138 0.6437
+0.6144 0.6753
+0.673 0.5547
+0.6736 0.5119
+0.7116 0.5138
+0.711 0.555
+0.1868 0.6405
+0.1859 0.6092
+0.2248 0.6376
+0.2239 0.6075
+0.1855 0.5663
+0.2236 0.5663
+0.1859 0.5233
+0.2239 0.525
+0.1868 0.4918
+0.2248 0.4947
+0.6213 0.3567
+0.621 0.3138
+0.6593 0.355
+0.659 0.3138
+0.6213 0.2709
+0.6593 0.2725
+0.6719 0.3253
+0.6712 0.2935
+0.7099 0.3227
+0.7093 0.2922
+0.6712 0.2505
+0.7093 0.2508
+0.6719 0.2077
+0.7099 0.2097
+0.6736 0.6294
+0.673 0.5977
+0.711 0.5963
+0.7116 0.6268
+0.0712 0.681
+0.0718 0.6398
+0.1098 0.6416
+0.1092 0.6813
+0.4393 0.6471
+0.4384 0.617
+0.4773 0.6444
+0.4764 0.6155
+0.4381 0.5758
+0.4761 0.5758
+0.4384 0.5345
+0.4764 0.5361
+0.4393 0.5042
+0.4773 0.5069
+0.766 0.7196
+0.7657 0.6784
+0.804 0.7181
+0.8037 0.6784
+0.766 0.6371
+0.804 0.6387
+0.6736 0.7501
+0.673 0.7196
+0.7116 0.7477
+0.711 0.7184
+0.673 0.6783
+0.711 0.6786
+0.6736 0.6371
+0.7116 0.639
+0.0718 0.7527
+0.0712 0.7223
+0.1092 0.721
+0.1098 0.7503
+0.4851 0.684
+0.4857 0.6444
+0.5237 0.6462
+0.5231 0.6843
+0.6273 0.5041
+0.6264 0.4752
+0.6653 0.5015
+0.6644 0.4737
+0.6261 0.4355
+0.6641 0.4355
+0.6264 0.3958
+0.6644 0.3972
+0.6273 0.3666
+0.6653 0.3692
+0.7663 0.446
+0.766 0.4063
+0.8043 0.4445
+0.8041 0.4063
+0.7663 0.3666
+0.8043 0.3681
+0.0419 0.6398
+0.0425 0.6691
+0.0039 0.6421
+0.0045 0.6703
+0.0425 0.7089
+0.0045 0.7086
+0.0419 0.7485
+0.0039 0.7467
+0.4857 0.7531
+0.4851 0.7238
+0.5231 0.7226
+0.5237 0.7508
+0.7177 0.2458
+0.7182 0.2077
+0.7562 0.2094
+0.7557 0.2461
+0.6272 0.6443
+0.6264 0.6164
+0.6652 0.6418
+0.6644 0.615
+0.6261 0.5782
+0.6641 0.5782
+0.6264 0.54
+0.6644 0.5414
+0.6272 0.5119
+0.6652 0.5143
+0.766 0.8038
+0.7657 0.7656
+0.804 0.8024
+0.8037 0.7656
+0.766 0.7274
+0.804 0.7288
+0.2235 0.6482
+0.2241 0.6765
+0.1855 0.6504
+0.1861 0.6776
+0.2241 0.7148
+0.1861 0.7145
+0.2235 0.7529
+0.1855 0.7512
+0.7182 0.3123
+0.7177 0.2841
+0.7557 0.283
+0.7562 0.3101
+0.7194 0.5486
+0.7199 0.5119
+0.7579 0.5135
+0.7574 0.5489
+0.2617 0.6715
+0.2609 0.6447
+0.2997 0.6691
+0.2989 0.6433
+0.2606 0.6079
+0.2987 0.6079
+0.2609 0.5711
+0.2989 0.5725
+0.2617 0.5441
+0.2997 0.5464
+0.4453 0.1787
+0.445 0.1419
+0.4833 0.1774
+0.483 0.1419
+0.4453 0.1052
+0.4833 0.1065
+0.6266 0.7528
+0.6261 0.7256
+0.6646 0.7507
+0.6641 0.7245
+0.6261 0.6887
+0.6641 0.689
+0.6266 0.652
+0.6646 0.6537
+0.7199 0.6126
+0.7194 0.5855
+0.7574 0.5844
+0.7579 0.6105
+0.7198 0.4019
+0.7203 0.3666
+0.7583 0.3682
+0.7578 0.4022
+0.3086 0.6668
+0.3078 0.6409
+0.3465 0.6644
+0.3458 0.6396
+0.3075 0.6055
+0.3455 0.6055
+0.3078 0.5701
+0.3458 0.5714
+0.3086 0.5441
+0.3465 0.5464
+0.4913 0.176
+0.4911 0.1406
+0.5293 0.1747
+0.5291 0.1406
+0.4913 0.1052
+0.5293 0.1065
+0.72 0.7341
+0.7194 0.708
+0.758 0.7321
+0.7574 0.7069
+0.7194 0.6725
+0.7574 0.6728
+0.72 0.6371
+0.758 0.6388
+0.7203 0.4635
+0.7198 0.4374
+0.7578 0.4364
+0.7583 0.4615
+0.2606 0.7133
+0.2611 0.6793
+0.2991 0.6809
+0.2986 0.7136
+0.6723 0.1999
+0.6715 0.1751
+0.7103 0.1977
+0.7095 0.1738
+0.6712 0.141
+0.7093 0.141
+0.6715 0.1069
+0.7095 0.1082
+0.6723 0.0819
+0.7103 0.0841
+0.5465 0.0721
+0.5463 0.038
+0.5845 0.0708
+0.5843 0.038
+0.5465 0.0039
+0.5845 0.0052
+0.308 0.7679
+0.3075 0.7427
+0.346 0.7659
+0.3455 0.7417
+0.3075 0.7085
+0.3455 0.7088
+0.308 0.6745
+0.346 0.6761
+0.2611 0.7726
+0.2606 0.7475
+0.2986 0.7464
+0.2991 0.7706
+0.764 0.2404
+0.7645 0.2077
+0.8025 0.2093
+0.802 0.2407
+0.674 0.4802
+0.6733 0.4562
+0.712 0.478
+0.7113 0.455
+0.673 0.4235
+0.711 0.4235
+0.6733 0.3907
+0.7113 0.392
+0.674 0.3666
+0.712 0.3688
+0.5925 0.0694
+0.5923 0.0367
+0.6305 0.0682
+0.6303 0.0367
+0.5925 0.0039
+0.6305 0.0052
+0.5762 0.7758
+0.5757 0.7516
+0.6142 0.7739
+0.6137 0.7506
+0.5757 0.7187
+0.6137 0.719
+0.5762 0.686
+0.6142 0.6876
+0.7645 0.2974
+0.764 0.2733
+0.802 0.2723
+0.8025 0.2955
+0.7987 0.0376
+0.7992 0.0061
+0.831 0.0074
+0.8306 0.0378
+0.5358 0.6134
+0.5351 0.5904
+0.5676 0.6116
+0.567 0.5893
+0.5349 0.5589
+0.5667 0.5589
+0.5351 0.5274
+0.567 0.5284
+0.5358 0.5042
+0.5676 0.506
+0.6385 0.0669
+0.6383 0.0354
+0.6703 0.0659
+0.6701 0.0354
+0.6385 0.0039
+0.6703 0.0049
+0.7199 0.8282
+0.7194 0.8049
+0.7517 0.8266
+0.7512 0.8041
+0.7194 0.7733
+0.7512 0.7736
+0.7199 0.7419
+0.7517 0.7432
+0.7992 0.0924
+0.7987 0.0691
+0.8306 0.0683
+0.831 0.0908
+0.7198 0.5038
+0.7198 0.4715
+0.733 0.4713
+0.733 0.5036
+0.4699 0.319
+0.4758 0.3574
+0.439 0.3574
+0.4448 0.319
+0.4895 0.3574
+0.4836 0.319
+0.5204 0.319
+0.5146 0.3574
+0.3285 0.9508
+0.3285 0.9143
+0.3417 0.9141
+0.3417 0.9507
+0.0171 0.9694
+0.0171 0.9961
+0.0039 0.9957
+0.0039 0.9691
+0.559 0.319
+0.5648 0.3574
+0.5282 0.3574
+0.5341 0.319
+0.6034 0.319
+0.6092 0.3574
+0.5726 0.3574
+0.5785 0.319
+0.9698 0.0835
+0.9698 0.0526
+0.983 0.0523
+0.983 0.0832
+0.964 0.4794
+0.964 0.4467
+0.9772 0.4469
+0.9772 0.4796
+0.7086 0.0039
+0.7145 0.0423
+0.6781 0.0423
+0.684 0.0039
+0.7482 0.3201
+0.7541 0.3585
+0.7177 0.3585
+0.7236 0.3201
+0.9687 0.2179
+0.9687 0.1861
+0.982 0.1864
+0.982 0.2181
+0.5757 0.9578
+0.5757 0.922
+0.589 0.9221
+0.589 0.9579
+0.7526 0.0039
+0.7585 0.0423
+0.7223 0.0423
+0.7282 0.0039
+0.1614 0.7486
+0.1673 0.787
+0.1311 0.787
+0.1369 0.7486
+0.8958 0.9477
+0.8958 0.9107
+0.909 0.9108
+0.909 0.9478
+0.7194 0.9639
+0.7194 0.9283
+0.7326 0.9283
+0.7326 0.9638
+0.4607 0.7488
+0.4666 0.7872
+0.4306 0.7872
+0.4365 0.7488
+0.034 0.7563
+0.0399 0.7947
+0.0039 0.7947
+0.0098 0.7563
+0.4087 0.8484
+0.4087 0.8096
+0.4219 0.8096
+0.4219 0.8484
+0.9645 0.8968
+0.9645 0.8647
+0.9777 0.8646
+0.9777 0.8966
+0.7029 0.7579
+0.7087 0.7963
+0.673 0.7963
+0.6789 0.7579
+0.7677 0.3585
+0.7619 0.3201
+0.7976 0.3201
+0.7918 0.3585
+0.8748 0.9479
+0.8748 0.9108
+0.888 0.9107
+0.888 0.9478
+0.9829 0.6632
+0.9829 0.6375
+0.9961 0.6371
+0.9961 0.6629
+0.1008 0.7605
+0.1067 0.7989
+0.0712 0.7989
+0.077 0.7605
+0.6558 0.7606
+0.6616 0.799
+0.6261 0.799
+0.6319 0.7606
+0.5493 0.9781
+0.5493 0.9461
+0.5625 0.9459
+0.5625 0.9779
+0.2326 0.984
+0.2326 0.9531
+0.2458 0.9534
+0.2458 0.9842
+0.491 0.7992
+0.4851 0.7608
+0.5205 0.7608
+0.5146 0.7992
+0.1914 0.7991
+0.1855 0.7607
+0.2209 0.7607
+0.215 0.7991
+0.3886 0.9534
+0.3886 0.9842
+0.3753 0.9839
+0.3753 0.9531
+0.8832 0.7639
+0.8832 0.7294
+0.8964 0.7295
+0.8964 0.764
+0.7953 0.4538
+0.8012 0.4922
+0.766 0.4922
+0.7719 0.4538
+0.3836 0.7684
+0.3895 0.8068
+0.3543 0.8068
+0.3602 0.7684
+0.2606 0.9553
+0.2606 0.9188
+0.2739 0.919
+0.2739 0.9554
+0.8412 0.7643
+0.8412 0.7295
+0.8544 0.7294
+0.8544 0.7642
+0.3366 0.7756
+0.3425 0.814
+0.3075 0.814
+0.3134 0.7756
+0.2897 0.7803
+0.2956 0.8187
+0.2606 0.8187
+0.2665 0.7803
+0.5283 0.9381
+0.5283 0.8993
+0.5415 0.8993
+0.5415 0.9381
+0.9654 0.971
+0.9654 0.939
+0.9787 0.9389
+0.9787 0.9709
+0.1369 0.8331
+0.1311 0.7947
+0.1658 0.7947
+0.16 0.8331
+0.6046 0.7836
+0.6105 0.8219
+0.5757 0.8219
+0.5816 0.7836
+0.8118 0.9484
+0.8118 0.9108
+0.825 0.9107
+0.825 0.9483
+0.0249 0.9957
+0.0249 0.9694
+0.0381 0.9691
+0.0381 0.9954
+0.0098 0.8408
+0.0039 0.8024
+0.0385 0.8024
+0.0326 0.8408
+0.4365 0.8334
+0.4307 0.795
+0.4652 0.795
+0.4594 0.8334
+0.1098 0.9744
+0.1098 0.9415
+0.123 0.9412
+0.123 0.9742
+0.8328 0.9851
+0.8328 0.9561
+0.846 0.9564
+0.846 0.9853
+0.7015 0.804
+0.7074 0.8424
+0.673 0.8424
+0.6789 0.804
+0.077 0.845
+0.0712 0.8066
+0.1056 0.8066
+0.0997 0.845
+0.0485 0.985
+0.0485 0.9556
+0.0617 0.9559
+0.0617 0.9854
+0.4629 0.9755
+0.4629 0.9425
+0.4761 0.9426
+0.4761 0.9756
+0.6319 0.8451
+0.6261 0.8067
+0.6603 0.8067
+0.6544 0.8451
+0.2139 0.8068
+0.2198 0.8452
+0.1855 0.8452
+0.1914 0.8068
+0.5967 0.9577
+0.5967 0.922
+0.61 0.9222
+0.61 0.9578
+0.4307 0.9675
+0.4307 0.9335
+0.4439 0.9335
+0.4439 0.9675
+0.491 0.8454
+0.4851 0.807
+0.5191 0.807
+0.5132 0.8454
+0.5564 0.807
+0.5622 0.8454
+0.5282 0.8454
+0.5341 0.807
+0.7867 0.9426
+0.7867 0.9039
+0.8 0.904
+0.8 0.9426
+0.9687 0.1783
+0.9687 0.1464
+0.982 0.1463
+0.982 0.1782
+0.8398 0.7722
+0.8456 0.8106
+0.8118 0.8106
+0.8177 0.7722
+0.7716 0.85
+0.7657 0.8116
+0.7996 0.8116
+0.7937 0.85
+0.2326 0.9454
+0.2326 0.9073
+0.2458 0.9072
+0.2458 0.9453
+0.9801 0.0329
+0.9801 0.006
+0.9933 0.0057
+0.9933 0.0326
+0.8461 0.1001
+0.852 0.1385
+0.8184 0.1385
+0.8242 0.1001
+0.8461 0.1463
+0.852 0.1847
+0.8184 0.1847
+0.8242 0.1463
+0.1311 0.9675
+0.1311 0.9334
+0.1443 0.9332
+0.1443 0.9673
+0.2816 0.9902
+0.2816 0.9629
+0.2949 0.9631
+0.2949 0.9904
+0.3602 0.8529
+0.3543 0.8145
+0.3878 0.8145
+0.3819 0.8529
+0.8177 0.8568
+0.8118 0.8184
+0.8453 0.8184
+0.8394 0.8568
+0.9769 0.3536
+0.9769 0.3258
+0.9901 0.3262
+0.9901 0.354
+0.7867 0.982
+0.7867 0.9504
+0.8 0.9505
+0.8 0.9822
+0.3134 0.8602
+0.3075 0.8218
+0.3408 0.8218
+0.3349 0.8602
+0.8558 0.2077
+0.8616 0.2461
+0.8283 0.2461
+0.8342 0.2077
+0.8622 0.7641
+0.8622 0.7294
+0.8754 0.7297
+0.8754 0.7643
+0.1633 0.9754
+0.1633 0.9423
+0.1765 0.9423
+0.1765 0.9754
+0.8556 0.3
+0.8615 0.3384
+0.8283 0.3384
+0.8342 0.3
+0.8342 0.2923
+0.8283 0.2539
+0.8615 0.2539
+0.8556 0.2923
+0.3963 0.9451
+0.3963 0.9068
+0.4096 0.9069
+0.4096 0.9452
+0.7657 0.9821
+0.7657 0.9505
+0.779 0.9504
+0.779 0.982
+0.8585 0.5119
+0.8644 0.5503
+0.8314 0.5503
+0.8373 0.5119
+0.8373 0.5964
+0.8314 0.558
+0.8644 0.558
+0.8585 0.5964
+0.3753 0.9454
+0.3753 0.9069
+0.3886 0.9068
+0.3886 0.9453
+0.5757 0.993
+0.5757 0.9659
+0.589 0.9656
+0.589 0.9928
+0.2665 0.8649
+0.2606 0.8265
+0.2934 0.8265
+0.2875 0.8649
+0.6026 0.8297
+0.6085 0.8681
+0.5757 0.8681
+0.5816 0.8297
+0.9524 0.6266
+0.9524 0.5914
+0.9656 0.5912
+0.9656 0.6264
+0.9829 0.6967
+0.9829 0.671
+0.9961 0.6713
+0.9961 0.697
+0.8655 0.0061
+0.8714 0.0445
+0.8388 0.0445
+0.8446 0.0061
+0.8655 0.0523
+0.8714 0.0907
+0.8388 0.0907
+0.8446 0.0523
+0.9734 0.6202
+0.9734 0.5916
+0.9866 0.5912
+0.9866 0.6198
+0.9717 0.397
+0.9717 0.3666
+0.9849 0.3667
+0.9849 0.3971
+0.8678 0.6371
+0.8737 0.6755
+0.8412 0.6755
+0.8471 0.6371
+0.8471 0.7217
+0.8412 0.6833
+0.8737 0.6833
+0.8678 0.7217
+0.9591 0.0394
+0.9591 0.0057
+0.9723 0.0059
+0.9723 0.0396
+0.5283 0.9781
+0.5283 0.9459
+0.5415 0.9459
+0.5415 0.9781
+0.8473 0.405
+0.8415 0.3666
+0.8738 0.3666
+0.8679 0.405
+0.8679 0.4128
+0.8738 0.4512
+0.8415 0.4512
+0.8473 0.4128
+0.9104 0.6292
+0.9104 0.5912
+0.9236 0.5913
+0.9236 0.6293
+0.9698 0.1225
+0.9698 0.0914
+0.983 0.0913
+0.983 0.1224
+0.8473 0.4973
+0.8415 0.4589
+0.8736 0.4589
+0.8677 0.4973
+0.7253 0.8743
+0.7194 0.836
+0.7515 0.836
+0.7456 0.8743
+0.7657 0.9426
+0.7657 0.904
+0.779 0.9039
+0.779 0.9426
+0.5967 0.9931
+0.5967 0.9658
+0.61 0.9656
+0.61 0.9928
+0.1571 0.8409
+0.163 0.8793
+0.1311 0.8793
+0.1369 0.8409
+0.4567 0.8411
+0.4626 0.8795
+0.4307 0.8795
+0.4365 0.8411
+0.943 0.4827
+0.943 0.4468
+0.9562 0.4467
+0.9562 0.4826
+0.6922 0.357
+0.6922 0.333
+0.7055 0.3333
+0.7055 0.3573
+0.8589 0.8568
+0.8531 0.8184
+0.8848 0.8184
+0.879 0.8568
+0.8593 0.8106
+0.8534 0.7722
+0.8852 0.7722
+0.8793 0.8106
+0.8958 0.9857
+0.8958 0.9559
+0.909 0.9556
+0.909 0.9854
+0.0712 0.9863
+0.0712 0.9573
+0.0844 0.9575
+0.0844 0.9864
+0.0296 0.8486
+0.0355 0.887
+0.0039 0.887
+0.0098 0.8486
+0.6987 0.8502
+0.7046 0.8886
+0.673 0.8886
+0.6789 0.8502
+0.9234 0.9767
+0.9234 0.9439
+0.9366 0.9441
+0.9366 0.977
+0.969 0.5828
+0.969 0.5516
+0.9822 0.5516
+0.9822 0.5829
+0.0967 0.8528
+0.1026 0.8912
+0.0712 0.8912
+0.077 0.8528
+0.8854 0.1001
+0.8912 0.1385
+0.8598 0.1385
+0.8657 0.1001
+0.8328 0.9483
+0.8328 0.9107
+0.846 0.9108
+0.846 0.9484
+0.3543 0.984
+0.3543 0.9533
+0.3676 0.9532
+0.3676 0.9839
+0.8657 0.1847
+0.8598 0.1463
+0.8911 0.1463
+0.8852 0.1847
+0.6515 0.8529
+0.6574 0.8913
+0.6261 0.8913
+0.6319 0.8529
+0.9189 0.7553
+0.9189 0.7165
+0.9321 0.7165
+0.9321 0.7553
+0.9769 0.8486
+0.9769 0.8212
+0.9902 0.821
+0.9902 0.8484
+0.1914 0.8914
+0.1855 0.853
+0.2167 0.853
+0.2108 0.8914
+0.491 0.8916
+0.4851 0.8532
+0.5162 0.8532
+0.5104 0.8916
+0.9381 0.0423
+0.9381 0.0058
+0.9513 0.0057
+0.9513 0.0422
+0.718 0.1978
+0.718 0.1758
+0.7312 0.1762
+0.7312 0.1982
+0.5299 0.8916
+0.524 0.8532
+0.555 0.8532
+0.5491 0.8916
+0.7908 0.8578
+0.7967 0.8962
+0.7657 0.8962
+0.7716 0.8578
+0.3963 0.9842
+0.3963 0.9533
+0.4096 0.953
+0.4096 0.9839
+0.9769 0.813
+0.9769 0.7857
+0.9902 0.7859
+0.9902 0.8132
+0.3793 0.8607
+0.3851 0.8991
+0.3543 0.8991
+0.3602 0.8607
+0.8751 0.2923
+0.8692 0.2539
+0.9001 0.2539
+0.8942 0.2923
+0.969 0.5435
+0.969 0.5119
+0.9822 0.5121
+0.9822 0.5438
+0.673 0.9849
+0.673 0.9547
+0.6862 0.9548
+0.6862 0.985
+0.8751 0.3384
+0.8692 0.3
+0.8999 0.3
+0.894 0.3384
+0.8753 0.2461
+0.8694 0.2077
+0.9001 0.2077
+0.8942 0.2461
+0.3075 0.9511
+0.3075 0.9141
+0.3207 0.9142
+0.3207 0.9512
+0.9718 0.7394
+0.9718 0.7091
+0.985 0.7091
+0.985 0.7393
+0.8968 0.5119
+0.9026 0.5503
+0.8721 0.5503
+0.878 0.5119
+0.878 0.5964
+0.8721 0.558
+0.9026 0.558
+0.8968 0.5964
+0.9171 0.0445
+0.9171 0.0057
+0.9303 0.0057
+0.9303 0.0445
+0.9769 0.7779
+0.9769 0.7504
+0.9902 0.7502
+0.9902 0.7777
+0.8363 0.8646
+0.8421 0.9029
+0.8118 0.9029
+0.8177 0.8646
+0.8558 0.9029
+0.8499 0.8646
+0.8802 0.8646
+0.8744 0.9029
+0.8538 0.948
+0.8538 0.9108
+0.867 0.9107
+0.867 0.9479
+0.6991 0.0727
+0.6991 0.0504
+0.7123 0.05
+0.7123 0.0724
+0.3134 0.9064
+0.3075 0.868
+0.3377 0.868
+0.3318 0.9064
+0.885 0.0445
+0.8792 0.0061
+0.9093 0.0061
+0.9035 0.0445
+0.7408 0.5037
+0.7408 0.4716
+0.754 0.4713
+0.754 0.5034
+0.9645 0.9306
+0.9645 0.9046
+0.9777 0.9048
+0.9777 0.9308
+0.2848 0.8727
+0.2907 0.9111
+0.2606 0.9111
+0.2665 0.8727
+0.885 0.0907
+0.8792 0.0523
+0.9092 0.0523
+0.9033 0.0907
+0.9717 0.4351
+0.9717 0.4049
+0.9849 0.4052
+0.9849 0.4354
+0.8118 0.9853
+0.8118 0.9562
+0.825 0.9563
+0.825 0.9854
+0.3988 0.8991
+0.3929 0.8607
+0.4228 0.8607
+0.4169 0.8991
+0.8872 0.4973
+0.8814 0.4589
+0.9112 0.4589
+0.9053 0.4973
+0.2816 0.9549
+0.2816 0.9188
+0.2949 0.919
+0.2949 0.9551
+0.8538 0.9854
+0.8538 0.9558
+0.867 0.9558
+0.867 0.9854
+0.9053 0.6371
+0.9111 0.6755
+0.8814 0.6755
+0.8873 0.6371
+0.9053 0.6833
+0.9111 0.7217
+0.8814 0.7217
+0.8873 0.6833
+0.5493 0.9381
+0.5493 0.8993
+0.5625 0.8993
+0.5625 0.9381
+0.2606 0.9907
+0.2606 0.9633
+0.2739 0.9632
+0.2739 0.9906
+0.9052 0.3666
+0.9111 0.405
+0.8815 0.405
+0.8874 0.3666
+0.9052 0.4128
+0.9111 0.4512
+0.8815 0.4512
+0.8874 0.4128
+0.9314 0.6291
+0.9314 0.5913
+0.9446 0.5912
+0.9446 0.629
+0.6913 0.05
+0.6913 0.0727
+0.6781 0.073
+0.6781 0.0503
+0.9115 0.8646
+0.9174 0.9029
+0.888 0.9029
+0.8939 0.8646
+0.5816 0.9143
+0.5757 0.8759
+0.6051 0.8759
+0.5993 0.9143
+0.9444 0.9725
+0.9444 0.9391
+0.9576 0.9389
+0.9576 0.9723
+0.6712 0.3577
+0.6712 0.333
+0.6845 0.3333
+0.6845 0.3579
+0.7428 0.8821
+0.7487 0.9205
+0.7194 0.9205
+0.7253 0.8821
+0.916 0.8184
+0.9219 0.8568
+0.8926 0.8568
+0.8985 0.8184
+0.888 0.956
+0.888 0.985
+0.8748 0.9847
+0.8748 0.9557
+0.3075 0.987
+0.3075 0.9589
+0.3207 0.9591
+0.3207 0.9871
+0.9162 0.7722
+0.9221 0.8106
+0.893 0.8106
+0.8988 0.7722
+0.1543 0.8871
+0.1602 0.9255
+0.1311 0.9255
+0.1369 0.8871
+0.7404 0.9637
+0.7404 0.9283
+0.7536 0.9284
+0.7536 0.9638
+0.3285 0.9875
+0.3285 0.9586
+0.3417 0.9586
+0.3417 0.9875
+0.4537 0.8873
+0.4596 0.9257
+0.4307 0.9257
+0.4365 0.8873
+0.9219 0.1463
+0.9278 0.1847
+0.8988 0.1847
+0.9047 0.1463
+0.3543 0.9454
+0.3543 0.9068
+0.3676 0.9069
+0.3676 0.9454
+0 0
+0.7987 0.1469
+0.7989 0.1236
+0.8102 0.1215
+0.8101 0.1468
+0.7992 0.1039
+0.8106 0.1001
+0.5468 0.1697
+0.5464 0.15
+0.5578 0.152
+0.5582 0.1734
+0.5463 0.1267
+0.5576 0.1267
+0.5464 0.1034
+0.5578 0.1014
+0.5468 0.0836
+0.5582 0.0798
+0.8123 0.6018
+0.8119 0.582
+0.8233 0.584
+0.8237 0.6055
+0.8118 0.5587
+0.8231 0.5587
+0.8119 0.5354
+0.8233 0.5333
+0.8123 0.5156
+0.8237 0.5119
+0.2331 0.7944
+0.2327 0.7745
+0.2441 0.7765
+0.2445 0.7981
+0.2326 0.7511
+0.2439 0.7511
+0.2327 0.7279
+0.2441 0.7258
+0.2331 0.7082
+0.2445 0.7044
+0.7992 0.19
+0.7989 0.1702
+0.8102 0.1722
+0.8106 0.1938
+0.3584 0.3865
+0.3326 0.3865
+0.3286 0.3666
+0.3624 0.3666
+0.3087 0.3964
+0.2974 0.3795
+0.2904 0.4147
+0.2735 0.4034
+0.2805 0.4385
+0.2606 0.4346
+0.2805 0.4644
+0.2606 0.4683
+0.2904 0.4882
+0.2735 0.4995
+0.3087 0.5065
+0.2974 0.5234
+0.3326 0.5164
+0.3286 0.5363
+0.3584 0.5164
+0.3624 0.5363
+0.3823 0.5065
+0.3935 0.5234
+0.4005 0.4882
+0.4174 0.4995
+0.4104 0.4644
+0.4303 0.4683
+0.4104 0.4385
+0.4303 0.4346
+0.4005 0.4147
+0.4174 0.4034
+0.3823 0.3964
+0.3935 0.3795
+0.4087 0.738
+0.4089 0.7049
+0.4185 0.7035
+0.4183 0.7379
+0.4094 0.677
+0.419 0.6745
+0.2358 0.3855
+0.2352 0.3575
+0.2449 0.3588
+0.2454 0.388
+0.2351 0.3244
+0.2446 0.3244
+0.2352 0.2912
+0.2449 0.2899
+0.2358 0.2631
+0.2454 0.2606
+0.8109 0.3326
+0.8104 0.3045
+0.8201 0.3058
+0.8206 0.335
+0.8103 0.2713
+0.8199 0.2713
+0.8104 0.2382
+0.8201 0.2369
+0.8109 0.2102
+0.8206 0.2077
+0.051 0.7647
+0.0505 0.7364
+0.0601 0.7377
+0.0606 0.7671
+0.0503 0.7033
+0.0599 0.7032
+0.0505 0.6702
+0.0601 0.6688
+0.051 0.6423
+0.0606 0.6398
+0.4094 0.7993
+0.4089 0.7711
+0.4185 0.7724
+0.419 0.8018
+0.8265 0.7006
+0.8267 0.6662
+0.8329 0.6662
+0.8327 0.7006
+0.8273 0.6371
+0.8334 0.6371
+0.8126 0.7645
+0.812 0.7353
+0.8182 0.7353
+0.8188 0.7645
+0.8118 0.7009
+0.818 0.7009
+0.812 0.6664
+0.8182 0.6664
+0.8126 0.6371
+0.8188 0.6371
+0.8275 0.4939
+0.827 0.4647
+0.8332 0.4647
+0.8337 0.4939
+0.8268 0.4302
+0.833 0.4302
+0.827 0.3958
+0.8332 0.3958
+0.8275 0.3666
+0.8337 0.3666
+0.8129 0.4939
+0.8123 0.4645
+0.8185 0.4645
+0.8191 0.4939
+0.8121 0.43
+0.8183 0.43
+0.8123 0.3956
+0.8185 0.3956
+0.8129 0.3666
+0.8191 0.3666
+0.8273 0.7645
+0.8267 0.7351
+0.8329 0.7351
+0.8334 0.7645
+0.3314 0.1805
+0.2989 0.1671
+0.3489 0.0922
+0.2741 0.1422
+0.2606 0.1098
+0.2606 0.0746
+0.2741 0.0422
+0.2989 0.0173
+0.3314 0.0039
+0.3665 0.0039
+0.399 0.0173
+0.4238 0.0422
+0.4373 0.0746
+0.4373 0.1098
+0.4238 0.1422
+0.399 0.1671
+0.3665 0.1805
+0.7782 0.1758
+0.7835 0.1758
+0.7835 0.1908
+0.7782 0.1908
+0.6992 0.4879
+0.7045 0.4879
+0.7045 0.5029
+0.6992 0.5029
+0.5666 0.7979
+0.5613 0.7979
+0.5613 0.7829
+0.5666 0.7829
+0.7332 0.05
+0.7385 0.05
+0.7385 0.065
+0.7332 0.065
+0.8367 0.1978
+0.8314 0.1978
+0.8314 0.1925
+0.8367 0.1925
+0.1437 0.9752
+0.1486 0.9753
+0.1486 0.9903
+0.1437 0.9902
+0.7531 0.9716
+0.7579 0.9717
+0.7579 0.9867
+0.7531 0.9866
+0.9042 0.7294
+0.9091 0.7295
+0.9091 0.7445
+0.9042 0.7444
+0.9625 0.8294
+0.9674 0.8295
+0.9674 0.8445
+0.9625 0.8444
+0.2403 0.4804
+0.2351 0.4804
+0.2351 0.4751
+0.2403 0.4751
+0.9902 0.9767
+0.9864 0.9768
+0.9864 0.9618
+0.9902 0.9617
+0.9935 0.1613
+0.9897 0.1614
+0.9897 0.1464
+0.9935 0.1463
+0.9893 0.4874
+0.9931 0.4875
+0.9931 0.5025
+0.9893 0.5024
+0.2526 0.8952
+0.2488 0.8953
+0.2488 0.8803
+0.2526 0.8802
+0.8184 0.1978
+0.8184 0.1925
+0.8236 0.1925
+0.8236 0.1978
+0.8674 0.6293
+0.8625 0.6294
+0.8625 0.6144
+0.8674 0.6143
+0.9689 0.5024
+0.964 0.5024
+0.964 0.4874
+0.9689 0.4874
+0.9289 0.3482
+0.924 0.3483
+0.924 0.3333
+0.9289 0.3332
+0.8167 0.6293
+0.8118 0.6294
+0.8118 0.6144
+0.8167 0.6143
+0.7247 0.6257
+0.7194 0.6257
+0.7194 0.6204
+0.7247 0.6204
+0.673 0.4879
+0.6783 0.4879
+0.6783 0.5029
+0.673 0.5029
+0.784 0.6242
+0.7788 0.6242
+0.7788 0.6092
+0.784 0.6092
+0.739 0.1758
+0.7443 0.1758
+0.7443 0.1908
+0.739 0.1908
+0.7593 0.05
+0.7646 0.05
+0.7646 0.065
+0.7593 0.065
+0.8315 0.3585
+0.8315 0.3532
+0.8368 0.3532
+0.8368 0.3585
+0.985 0.4467
+0.9899 0.4467
+0.9899 0.4617
+0.985 0.4617
+0.899 0.123
+0.9039 0.123
+0.9039 0.138
+0.899 0.138
+0.9494 0.3332
+0.9543 0.3333
+0.9543 0.3483
+0.9494 0.3482
+0.4306 0.9752
+0.4355 0.9753
+0.4355 0.9903
+0.4306 0.9902
+0.7377 0.6257
+0.7325 0.6257
+0.7325 0.6204
+0.7377 0.6204
+0.6298 0.9933
+0.6261 0.9934
+0.6261 0.9784
+0.6298 0.9783
+0.988 0.2996
+0.9918 0.2997
+0.9918 0.3147
+0.988 0.3146
+0.9893 0.8796
+0.9855 0.8797
+0.9855 0.8647
+0.9893 0.8646
+0.9918 0.2689
+0.988 0.269
+0.988 0.254
+0.9918 0.2539
+0.5349 0.7962
+0.5349 0.7909
+0.5402 0.7909
+0.5402 0.7962
+0.9863 0.2409
+0.9814 0.241
+0.9814 0.226
+0.9863 0.2259
+0.9416 0.3482
+0.9367 0.3483
+0.9367 0.3333
+0.9416 0.3332
+0.8294 0.6293
+0.8245 0.6294
+0.8245 0.6144
+0.8294 0.6143
+0.8801 0.6293
+0.8752 0.6294
+0.8752 0.6144
+0.8801 0.6143
+0.1228 0.7465
+0.1175 0.7465
+0.1175 0.7412
+0.1228 0.7412
+0.8107 0.3585
+0.8054 0.3585
+0.8054 0.3435
+0.8107 0.3435
+0.7462 0.05
+0.7515 0.05
+0.7515 0.065
+0.7462 0.065
+0.7651 0.1758
+0.7704 0.1758
+0.7704 0.1908
+0.7651 0.1908
+0.7201 0.05
+0.7254 0.05
+0.7254 0.065
+0.7201 0.065
+0.8445 0.1925
+0.8498 0.1925
+0.8498 0.1978
+0.8445 0.1978
+0.899 0.1001
+0.9039 0.1002
+0.9039 0.1152
+0.899 0.1151
+0.9526 0.7165
+0.9575 0.7165
+0.9575 0.7315
+0.9526 0.7315
+0.1311 0.9752
+0.1359 0.9753
+0.1359 0.9903
+0.1311 0.9902
+0.7194 0.9717
+0.7243 0.9717
+0.7243 0.9867
+0.7194 0.9867
+0.7455 0.6204
+0.7508 0.6204
+0.7508 0.6257
+0.7455 0.6257
+0.6405 0.9783
+0.6442 0.9784
+0.6442 0.9934
+0.6405 0.9933
+0.9893 0.9196
+0.9855 0.9197
+0.9855 0.9047
+0.9893 0.9046
+0.9918 0.2917
+0.988 0.2918
+0.988 0.2768
+0.9918 0.2767
+0.6557 0.9933
+0.652 0.9934
+0.652 0.9784
+0.6557 0.9783
+0.8238 0.3532
+0.8238 0.3585
+0.8185 0.3585
+0.8185 0.3532
+0.9448 0.7315
+0.9399 0.7315
+0.9399 0.7165
+0.9448 0.7165
+0.8547 0.6293
+0.8498 0.6294
+0.8498 0.6144
+0.8547 0.6143
+0.6178 0.8909
+0.6129 0.8909
+0.6129 0.8759
+0.6178 0.8759
+0.9736 0.2409
+0.9687 0.241
+0.9687 0.226
+0.9736 0.2259
+0.764 0.3052
+0.7693 0.3052
+0.7693 0.3105
+0.764 0.3105
+0.7521 0.1758
+0.7574 0.1758
+0.7574 0.1908
+0.7521 0.1908
+0.7657 0.6092
+0.771 0.6092
+0.771 0.6242
+0.7657 0.6242
+0.6861 0.4879
+0.6914 0.4879
+0.6914 0.5029
+0.6861 0.5029
+0.7971 0.6242
+0.7918 0.6242
+0.7918 0.6092
+0.7971 0.6092
+0.8499 0.3532
+0.8499 0.3585
+0.8446 0.3585
+0.8446 0.3532
+0.962 0.3332
+0.9669 0.3333
+0.9669 0.3483
+0.962 0.3482
+0.4433 0.9752
+0.4482 0.9753
+0.4482 0.9903
+0.4433 0.9902
+0.7404 0.9716
+0.7453 0.9717
+0.7453 0.9867
+0.7404 0.9866
+0.6129 0.8987
+0.6178 0.8988
+0.6178 0.9138
+0.6129 0.9137
+0.7771 0.3052
+0.7824 0.3052
+0.7824 0.3105
+0.7771 0.3105
+0.9902 0.9539
+0.9864 0.954
+0.9864 0.939
+0.9902 0.9389
+0.7007 0.9906
+0.697 0.9907
+0.697 0.9757
+0.7007 0.9756
+0.9935 0.1842
+0.9897 0.1843
+0.9897 0.1693
+0.9935 0.1692
+0.0952 0.9782
+0.0989 0.9783
+0.0989 0.9933
+0.0952 0.9932
+0.5532 0.7909
+0.5532 0.7962
+0.548 0.7962
+0.548 0.7909
+0.8421 0.6293
+0.8372 0.6294
+0.8372 0.6144
+0.8421 0.6143
+0.8928 0.6293
+0.8879 0.6294
+0.8879 0.6144
+0.8928 0.6143
+0.9815 0.5024
+0.9766 0.5024
+0.9766 0.4874
+0.9815 0.4874
+0.9367 0.246
+0.9318 0.2461
+0.9318 0.2311
+0.9367 0.231
+0.7901 0.3052
+0.7954 0.3052
+0.7954 0.3105
+0.7901 0.3105
+0.1736 0.8274
+0.1736 0.7947
+0.1768 0.7959
+0.1768 0.828
+0.5627 0.8852
+0.5627 0.8532
+0.5659 0.8858
+0.5659 0.8543
+0.3913 0.2067
+0.3617 0.1943
+0.3623 0.1913
+0.3925 0.2038
+0.3937 0.201
+0.3629 0.1883
+0.951 0.9311
+0.9444 0.8978
+0.9539 0.9299
+0.9475 0.8978
+0.9506 0.8978
+0.9567 0.9287
+0.3302 0.1943
+0.3295 0.1913
+0.3289 0.1883
+0.951 0.8646
+0.9539 0.8657
+0.9567 0.8669
+0.301 0.2064
+0.2993 0.2038
+0.2976 0.2013
+0.4269 0.6106
+0.4267 0.5774
+0.4301 0.6094
+0.4299 0.5773
+0.9719 0.7013
+0.9718 0.6692
+0.9749 0.6692
+0.9751 0.7002
+0.2788 0.2287
+0.2762 0.227
+0.2736 0.2252
+0.4269 0.5441
+0.4301 0.5452
+0.9719 0.6371
+0.9751 0.6383
+0.2667 0.2578
+0.2637 0.2572
+0.2606 0.2566
+0.9555 0.5784
+0.9489 0.5452
+0.9584 0.5772
+0.952 0.5452
+0.9551 0.5452
+0.9612 0.5761
+0.2667 0.2893
+0.2637 0.2899
+0.2606 0.2905
+0.9555 0.5119
+0.9584 0.5131
+0.9612 0.5142
+0.2788 0.3184
+0.2762 0.3201
+0.2736 0.3219
+0.249 0.8724
+0.2488 0.8391
+0.2522 0.8712
+0.252 0.8391
+0.9771 0.3181
+0.9769 0.2859
+0.9801 0.2859
+0.9802 0.3169
+0.301 0.3407
+0.2993 0.3433
+0.2976 0.3458
+0.249 0.8058
+0.2522 0.807
+0.9771 0.2539
+0.9802 0.2551
+0.3302 0.3528
+0.3295 0.3558
+0.3289 0.3588
+0.0105 0.9613
+0.0039 0.928
+0.0134 0.9601
+0.007 0.928
+0.0101 0.928
+0.0162 0.9589
+0.3617 0.3528
+0.3623 0.3558
+0.3629 0.3588
+0.0105 0.8948
+0.0134 0.8959
+0.0162 0.8971
+0.3908 0.3407
+0.3925 0.3433
+0.3942 0.3458
+0.3974 0.8349
+0.3972 0.8016
+0.4006 0.8338
+0.4004 0.8016
+0.4175 0.971
+0.4173 0.939
+0.4205 0.9389
+0.4207 0.9698
+0.4131 0.3184
+0.4156 0.3201
+0.4182 0.3219
+0.3974 0.7684
+0.4006 0.7696
+0.4175 0.9068
+0.4207 0.908
+0.4251 0.2893
+0.4282 0.2899
+0.4312 0.2905
+0.0306 0.9613
+0.024 0.928
+0.0335 0.9601
+0.0271 0.928
+0.0302 0.928
+0.0363 0.9589
+0.4251 0.2578
+0.4282 0.2572
+0.4312 0.2566
+0.0306 0.8948
+0.0335 0.8959
+0.0363 0.8971
+0.4131 0.2287
+0.4156 0.227
+0.4182 0.2252
+0.5613 0.7751
+0.5613 0.7424
+0.5645 0.774
+0.5645 0.7418
+0.473 0.8277
+0.473 0.7956
+0.4762 0.795
+0.4762 0.8265
+0.3903 0.206
+0.3947 0.2016
+0.9161 0.5119
+0.9161 0.5834
+0.9112 0.5835
+0.9104 0.512
+0.1922 0.8992
+0.1917 0.9707
+0.1855 0.8992
+0.186 0.9707
+0.9476 0.0524
+0.9469 0.1239
+0.942 0.1238
+0.9419 0.0523
+0.9362 0.0524
+0.937 0.1239
+0.697 0.9679
+0.6974 0.8964
+0.7032 0.8964
+0.7036 0.9679
+0.9219 0.512
+0.9211 0.5835
+0.9227 0.0523
+0.9227 0.1238
+0.9177 0.1239
+0.9169 0.0524
+0.2066 0.8992
+0.2061 0.9707
+0.1999 0.8992
+0.2004 0.9707
+0.0617 0.8764
+0.061 0.9479
+0.056 0.9478
+0.056 0.8763
+0.0503 0.8764
+0.0511 0.9479
+0.9625 0.8217
+0.963 0.7502
+0.9687 0.7502
+0.9692 0.8217
+0.9284 0.0524
+0.9276 0.1239
+0.2408 0.3957
+0.2408 0.4672
+0.2358 0.4673
+0.2351 0.3958
+0.2209 0.8992
+0.2205 0.9707
+0.2143 0.8992
+0.2148 0.9707
+0.9413 0.7723
+0.9405 0.8438
+0.9356 0.8437
+0.9356 0.7722
+0.9298 0.7723
+0.9306 0.8438
+0.9573 0.4381
+0.9578 0.3666
+0.9635 0.3666
+0.9639 0.4381
+0.2465 0.3958
+0.2457 0.4673
+0.9246 0.3666
+0.9246 0.4381
+0.9196 0.4382
+0.9188 0.3667
+0.5205 0.8993
+0.5201 0.9708
+0.5139 0.8993
+0.5143 0.9708
+0.9495 0.3667
+0.9488 0.4382
+0.9439 0.4381
+0.9438 0.3666
+0.9381 0.3667
+0.9389 0.4382
+0.0952 0.9705
+0.0956 0.899
+0.1013 0.899
+0.1018 0.9705
+0.9303 0.3667
+0.9295 0.4382
+0.9246 0.6371
+0.9246 0.7086
+0.9197 0.7087
+0.9189 0.6372
+0.5061 0.8993
+0.5057 0.9708
+0.4995 0.8993
+0.4999 0.9708
+0.9547 0.254
+0.954 0.3255
+0.9491 0.3254
+0.949 0.2539
+0.9433 0.254
+0.9441 0.3255
+0.9625 0.3254
+0.9629 0.2539
+0.9687 0.2539
+0.9691 0.3254
+0.9304 0.6372
+0.9296 0.7087
+0.1173 0.8619
+0.1173 0.9334
+0.1123 0.9335
+0.1115 0.862
+0.6615 0.899
+0.661 0.9705
+0.6548 0.899
+0.6553 0.9705
+0.9411 0.512
+0.9404 0.5835
+0.9354 0.5834
+0.9354 0.5119
+0.9296 0.512
+0.9304 0.5835
+0.962 0.0523
+0.9616 0.1238
+0.9559 0.1238
+0.9554 0.0523
+0.123 0.862
+0.1222 0.9335
+0.9309 0.8646
+0.9309 0.936
+0.9259 0.9361
+0.9252 0.8647
+0.6471 0.899
+0.6466 0.9705
+0.6405 0.899
+0.6409 0.9705
+0.947 0.1464
+0.9463 0.2179
+0.9413 0.2178
+0.9413 0.1463
+0.9356 0.1464
+0.9363 0.2179
+0.964 0.6371
+0.9636 0.7086
+0.9578 0.7086
+0.9574 0.6371
+0.9366 0.8647
+0.9359 0.9361
+0.9298 0.2539
+0.9298 0.3254
+0.9248 0.3255
+0.924 0.254
+0.4917 0.8993
+0.4913 0.9708
+0.4851 0.8993
+0.4855 0.9708
+0.9496 0.6372
+0.9489 0.7087
+0.9439 0.7086
+0.9439 0.6371
+0.9381 0.6372
+0.9389 0.7087
+0.6327 0.899
+0.6323 0.9705
+0.6265 0.9705
+0.6261 0.899
+0.9355 0.254
+0.9347 0.3255
+0.4704 0.8878
+0.4705 0.8639
+0.4757 0.8625
+0.4756 0.8878
+0.4709 0.8436
+0.4761 0.8411
+0.1181 0.7309
+0.1177 0.7106
+0.1229 0.712
+0.1233 0.7334
+0.1175 0.6867
+0.1227 0.6867
+0.1177 0.6627
+0.1229 0.6613
+0.1181 0.6423
+0.1233 0.6398
+0.9496 0.8413
+0.9492 0.821
+0.9544 0.8223
+0.9548 0.8438
+0.9491 0.797
+0.9543 0.797
+0.9492 0.773
+0.9544 0.7716
+0.9496 0.7527
+0.9548 0.7502
+0.1713 0.9321
+0.1709 0.9116
+0.1761 0.9129
+0.1765 0.9345
+0.1708 0.8876
+0.176 0.8875
+0.1709 0.8636
+0.1761 0.8623
+0.1713 0.8434
+0.1765 0.8409
+0.4709 0.9323
+0.4705 0.9119
+0.4757 0.9132
+0.4761 0.9348
+0.2326 0.8525
+0.2327 0.8272
+0.2407 0.8272
+0.2405 0.8525
+0.2331 0.8058
+0.2411 0.8058
+0.1151 0.8541
+0.1146 0.8327
+0.1226 0.8327
+0.123 0.8541
+0.1145 0.8074
+0.1224 0.8074
+0.1146 0.782
+0.1226 0.782
+0.1151 0.7605
+0.123 0.7605
+0.9083 0.3475
+0.908 0.326
+0.9159 0.326
+0.9163 0.3475
+0.9078 0.3007
+0.9158 0.3007
+0.908 0.2753
+0.9159 0.2753
+0.9083 0.2539
+0.9163 0.2539
+0.0508 0.8685
+0.0504 0.8469
+0.0584 0.8469
+0.0588 0.8685
+0.0503 0.8215
+0.0582 0.8215
+0.0504 0.7962
+0.0584 0.7962
+0.0508 0.7749
+0.0588 0.7749
+0.2331 0.8995
+0.2327 0.8779
+0.2407 0.8779
+0.2411 0.8995
+0.4901 0.4965
+0.4662 0.4866
+0.4692 0.4822
+0.4911 0.4913
+0.448 0.4683
+0.4524 0.4654
+0.4381 0.4444
+0.4433 0.4434
+0.4381 0.4186
+0.4433 0.4196
+0.448 0.3948
+0.4524 0.3977
+0.4662 0.3765
+0.4692 0.3809
+0.4901 0.3666
+0.4911 0.3718
+0.5159 0.3666
+0.5149 0.3718
+0.5398 0.3765
+0.5369 0.3809
+0.5581 0.3948
+0.5537 0.3977
+0.568 0.4186
+0.5628 0.4196
+0.568 0.4444
+0.5628 0.4434
+0.5581 0.4683
+0.5537 0.4654
+0.5398 0.4866
+0.5369 0.4822
+0.5159 0.4965
+0.5149 0.4913
+0.5004 0.2497
+0.4882 0.1883
+0.5127 0.1883
+0.4656 0.1976
+0.4483 0.2149
+0.439 0.2375
+0.439 0.262
+0.4483 0.2846
+0.4656 0.3019
+0.4882 0.3112
+0.5127 0.3112
+0.5352 0.3019
+0.5525 0.2846
+0.5619 0.262
+0.5619 0.2375
+0.5525 0.2149
+0.5352 0.1976
+0.3543 0.7174
+0.3544 0.6941
+0.3775 0.6952
+0.3773 0.7174
+0.4006 0.7175
+0.4007 0.6993
+0.4825 0.0974
+0.4653 0.0903
+0.4751 0.0756
+0.4859 0.0801
+0.4895 0.0619
+0.4854 0.0602
+0.6811 0.947
+0.6767 0.9469
+0.6792 0.9335
+0.6812 0.9336
+0.6814 0.9008
+0.6805 0.9008
+0.6814 0.8964
+0.3548 0.6745
+0.3778 0.6763
+0.4009 0.6839
+0.4521 0.0771
+0.4668 0.0673
+0.4822 0.057
+0.673 0.9468
+0.6775 0.9335
+0.6798 0.9008
+0.1316 0.7408
+0.1312 0.7211
+0.1542 0.7201
+0.1546 0.7389
+0.1778 0.7314
+0.1775 0.716
+0.445 0.0599
+0.4623 0.0565
+0.4805 0.0529
+0.9241 0.246
+0.9203 0.246
+0.9179 0.2327
+0.9196 0.2326
+0.9172 0.1999
+0.9165 0.1999
+0.9156 0.1955
+0.1311 0.6978
+0.1541 0.6978
+0.1774 0.6978
+0.445 0.0413
+0.4623 0.0448
+0.4805 0.0484
+0.916 0.2461
+0.9159 0.2327
+0.9157 0.1999
+0.1312 0.6745
+0.1542 0.6755
+0.1775 0.6795
+0.4521 0.0242
+0.4668 0.034
+0.4822 0.0443
+0.9116 0.2461
+0.9138 0.2327
+0.9148 0.1999
+0.1316 0.6547
+0.1546 0.6565
+0.1778 0.664
+0.4653 0.011
+0.4751 0.0257
+0.4854 0.0411
+0.9078 0.246
+0.9121 0.2327
+0.9141 0.1999
+0.7185 0.168
+0.7181 0.1482
+0.7412 0.1472
+0.7415 0.1661
+0.7646 0.1587
+0.7644 0.1432
+0.4825 0.0039
+0.4859 0.0212
+0.4895 0.0394
+0.0874 0.9495
+0.0837 0.9496
+0.0814 0.9362
+0.0831 0.9361
+0.0811 0.9034
+0.0804 0.9034
+0.0795 0.899
+0.718 0.1249
+0.741 0.1249
+0.7643 0.1249
+0.5011 0.0039
+0.4976 0.0212
+0.494 0.0394
+0.0793 0.9496
+0.0793 0.9362
+0.0795 0.9034
+0.7181 0.1016
+0.7412 0.1026
+0.7644 0.1067
+0.5183 0.011
+0.5084 0.0257
+0.4981 0.0411
+0.0749 0.9495
+0.0773 0.9361
+0.0787 0.9034
+0.7185 0.0819
+0.7415 0.0837
+0.7646 0.0912
+0.5314 0.0242
+0.5167 0.034
+0.5013 0.0443
+0.0712 0.9494
+0.0756 0.9361
+0.078 0.9034
+0.4312 0.741
+0.4308 0.7212
+0.4538 0.7202
+0.4542 0.7392
+0.4773 0.7318
+0.477 0.7162
+0.5385 0.0413
+0.5212 0.0448
+0.503 0.0484
+0.9352 0.4973
+0.9315 0.4973
+0.9292 0.4839
+0.931 0.4839
+0.929 0.4512
+0.9283 0.4512
+0.9275 0.4467
+0.4306 0.6978
+0.4537 0.6978
+0.4769 0.6979
+0.5385 0.0599
+0.5212 0.0565
+0.503 0.0529
+0.9271 0.4973
+0.9272 0.4839
+0.9274 0.4512
+0.4308 0.6745
+0.4538 0.6756
+0.477 0.6797
+0.5314 0.0771
+0.5167 0.0673
+0.5013 0.057
+0.9227 0.4973
+0.9252 0.4839
+0.9266 0.4512
+0.4312 0.6549
+0.4542 0.6568
+0.4773 0.6643
+0.5183 0.0903
+0.5084 0.0756
+0.4981 0.0602
+0.919 0.4972
+0.9235 0.4838
+0.9259 0.4511
+0.3548 0.7606
+0.3544 0.7407
+0.3775 0.7397
+0.3778 0.7587
+0.4009 0.7513
+0.4007 0.7358
+0.5011 0.0974
+0.4976 0.0801
+0.494 0.0619
+0.6892 0.9469
+0.6855 0.947
+0.6832 0.9336
+0.6849 0.9335
+0.6829 0.9008
+0.6822 0.9008
+0.0039 0.582
+0.0634 0.4918
+0.0634 0.632
+0.0712 0.5418
+0.1307 0.4918
+0.1307 0.632
+0.5613 0.7341
+0.565 0.6211
+0.5675 0.7341
+0.5632 0.6211
+0.9548 0.224
+0.961 0.1463
+0.961 0.224
+0.9548 0.1463
+Faces 1686
+Face verts 3 flags 0 mat 0
+<0,0> <3,2> <2,1>
+Face verts 3 flags 0 mat 0
+<0,0> <1,3> <3,2>
+Face verts 3 flags 0 mat 0
+<2,4> <3,6> <4,5>
+Face verts 3 flags 0 mat 0
+<4,5> <3,6> <5,7>
+Face verts 3 flags 0 mat 0
+<4,5> <7,9> <6,8>
+Face verts 3 flags 0 mat 0
+<4,5> <5,7> <7,9>
+Face verts 3 flags 0 mat 0
+<6,8> <7,9> <8,10>
+Face verts 3 flags 0 mat 0
+<8,10> <7,9> <9,11>
+Face verts 3 flags 0 mat 0
+<8,10> <11,13> <10,12>
+Face verts 3 flags 0 mat 0
+<8,10> <9,11> <11,13>
+Face verts 3 flags 0 mat 0
+<10,14> <11,16> <12,15>
+Face verts 3 flags 0 mat 0
+<12,15> <11,16> <13,17>
+Face verts 3 flags 0 mat 0
+<12,15> <15,19> <14,18>
+Face verts 3 flags 0 mat 0
+<12,15> <13,17> <15,19>
+Face verts 3 flags 0 mat 0
+<14,20> <15,22> <16,21>
+Face verts 3 flags 0 mat 0
+<16,21> <15,22> <17,23>
+Face verts 3 flags 0 mat 0
+<16,21> <19,25> <18,24>
+Face verts 3 flags 0 mat 0
+<16,21> <17,23> <19,25>
+Face verts 3 flags 0 mat 0
+<18,24> <19,25> <20,26>
+Face verts 3 flags 0 mat 0
+<20,26> <19,25> <21,27>
+Face verts 3 flags 0 mat 0
+<20,28> <23,30> <22,29>
+Face verts 3 flags 0 mat 0
+<20,28> <21,31> <23,30>
+Face verts 3 flags 0 mat 0
+<22,29> <23,30> <0,0>
+Face verts 3 flags 0 mat 0
+<0,0> <23,30> <1,3>
+Face verts 3 flags 0 mat 0
+<24,32> <27,34> <26,33>
+Face verts 3 flags 0 mat 0
+<24,32> <25,35> <27,34>
+Face verts 3 flags 0 mat 0
+<26,33> <27,34> <28,36>
+Face verts 3 flags 0 mat 0
+<28,36> <27,34> <29,37>
+Face verts 3 flags 0 mat 0
+<28,36> <31,39> <30,38>
+Face verts 3 flags 0 mat 0
+<28,36> <29,37> <31,39>
+Face verts 3 flags 0 mat 0
+<30,38> <31,39> <32,40>
+Face verts 3 flags 0 mat 0
+<32,40> <31,39> <33,41>
+Face verts 3 flags 0 mat 0
+<32,40> <35,43> <34,42>
+Face verts 3 flags 0 mat 0
+<32,40> <33,41> <35,43>
+Face verts 3 flags 0 mat 0
+<34,42> <35,43> <36,44>
+Face verts 3 flags 0 mat 0
+<36,44> <35,43> <37,45>
+Face verts 3 flags 0 mat 0
+<36,44> <39,47> <38,46>
+Face verts 3 flags 0 mat 0
+<36,44> <37,45> <39,47>
+Face verts 3 flags 0 mat 0
+<38,46> <39,47> <40,48>
+Face verts 3 flags 0 mat 0
+<40,48> <39,47> <41,49>
+Face verts 3 flags 0 mat 0
+<40,48> <43,51> <42,50>
+Face verts 3 flags 0 mat 0
+<40,48> <41,49> <43,51>
+Face verts 3 flags 0 mat 0
+<42,50> <43,51> <44,52>
+Face verts 3 flags 0 mat 0
+<44,52> <43,51> <45,53>
+Face verts 3 flags 0 mat 0
+<44,52> <47,55> <46,54>
+Face verts 3 flags 0 mat 0
+<44,52> <45,53> <47,55>
+Face verts 3 flags 0 mat 0
+<46,54> <47,55> <24,32>
+Face verts 3 flags 0 mat 0
+<24,32> <47,55> <25,35>
+Face verts 3 flags 0 mat 0
+<48,56> <51,58> <50,57>
+Face verts 3 flags 0 mat 0
+<48,56> <49,59> <51,58>
+Face verts 3 flags 0 mat 0
+<50,60> <51,62> <52,61>
+Face verts 3 flags 0 mat 0
+<52,61> <51,62> <53,63>
+Face verts 3 flags 0 mat 0
+<52,61> <55,65> <54,64>
+Face verts 3 flags 0 mat 0
+<52,61> <53,63> <55,65>
+Face verts 3 flags 0 mat 0
+<54,64> <55,65> <56,66>
+Face verts 3 flags 0 mat 0
+<56,66> <55,65> <57,67>
+Face verts 3 flags 0 mat 0
+<56,66> <59,69> <58,68>
+Face verts 3 flags 0 mat 0
+<56,66> <57,67> <59,69>
+Face verts 3 flags 0 mat 0
+<58,70> <59,72> <60,71>
+Face verts 3 flags 0 mat 0
+<60,71> <59,72> <61,73>
+Face verts 3 flags 0 mat 0
+<60,71> <63,75> <62,74>
+Face verts 3 flags 0 mat 0
+<60,71> <61,73> <63,75>
+Face verts 3 flags 0 mat 0
+<62,76> <63,78> <64,77>
+Face verts 3 flags 0 mat 0
+<64,77> <63,78> <65,79>
+Face verts 3 flags 0 mat 0
+<64,77> <67,81> <66,80>
+Face verts 3 flags 0 mat 0
+<64,77> <65,79> <67,81>
+Face verts 3 flags 0 mat 0
+<66,80> <67,81> <68,82>
+Face verts 3 flags 0 mat 0
+<68,82> <67,81> <69,83>
+Face verts 3 flags 0 mat 0
+<68,84> <71,86> <70,85>
+Face verts 3 flags 0 mat 0
+<68,84> <69,87> <71,86>
+Face verts 3 flags 0 mat 0
+<70,85> <71,86> <48,56>
+Face verts 3 flags 0 mat 0
+<48,56> <71,86> <49,59>
+Face verts 3 flags 0 mat 0
+<72,88> <75,90> <74,89>
+Face verts 3 flags 0 mat 0
+<72,88> <73,91> <75,90>
+Face verts 3 flags 0 mat 0
+<74,89> <75,90> <76,92>
+Face verts 3 flags 0 mat 0
+<76,92> <75,90> <77,93>
+Face verts 3 flags 0 mat 0
+<76,92> <79,95> <78,94>
+Face verts 3 flags 0 mat 0
+<76,92> <77,93> <79,95>
+Face verts 3 flags 0 mat 0
+<78,94> <79,95> <80,96>
+Face verts 3 flags 0 mat 0
+<80,96> <79,95> <81,97>
+Face verts 3 flags 0 mat 0
+<80,96> <83,99> <82,98>
+Face verts 3 flags 0 mat 0
+<80,96> <81,97> <83,99>
+Face verts 3 flags 0 mat 0
+<82,98> <83,99> <84,100>
+Face verts 3 flags 0 mat 0
+<84,100> <83,99> <85,101>
+Face verts 3 flags 0 mat 0
+<84,100> <87,103> <86,102>
+Face verts 3 flags 0 mat 0
+<84,100> <85,101> <87,103>
+Face verts 3 flags 0 mat 0
+<86,102> <87,103> <88,104>
+Face verts 3 flags 0 mat 0
+<88,104> <87,103> <89,105>
+Face verts 3 flags 0 mat 0
+<88,104> <91,107> <90,106>
+Face verts 3 flags 0 mat 0
+<88,104> <89,105> <91,107>
+Face verts 3 flags 0 mat 0
+<90,106> <91,107> <92,108>
+Face verts 3 flags 0 mat 0
+<92,108> <91,107> <93,109>
+Face verts 3 flags 0 mat 0
+<92,108> <95,111> <94,110>
+Face verts 3 flags 0 mat 0
+<92,108> <93,109> <95,111>
+Face verts 3 flags 0 mat 0
+<94,110> <95,111> <72,88>
+Face verts 3 flags 0 mat 0
+<72,88> <95,111> <73,91>
+Face verts 3 flags 0 mat 0
+<96,112> <99,114> <98,113>
+Face verts 3 flags 0 mat 0
+<96,112> <97,115> <99,114>
+Face verts 3 flags 0 mat 0
+<98,116> <99,118> <100,117>
+Face verts 3 flags 0 mat 0
+<100,117> <99,118> <101,119>
+Face verts 3 flags 0 mat 0
+<100,117> <103,121> <102,120>
+Face verts 3 flags 0 mat 0
+<100,117> <101,119> <103,121>
+Face verts 3 flags 0 mat 0
+<102,120> <103,121> <104,122>
+Face verts 3 flags 0 mat 0
+<104,122> <103,121> <105,123>
+Face verts 3 flags 0 mat 0
+<104,122> <107,125> <106,124>
+Face verts 3 flags 0 mat 0
+<104,122> <105,123> <107,125>
+Face verts 3 flags 0 mat 0
+<106,126> <107,128> <108,127>
+Face verts 3 flags 0 mat 0
+<108,127> <107,128> <109,129>
+Face verts 3 flags 0 mat 0
+<108,127> <111,131> <110,130>
+Face verts 3 flags 0 mat 0
+<108,127> <109,129> <111,131>
+Face verts 3 flags 0 mat 0
+<110,132> <111,134> <112,133>
+Face verts 3 flags 0 mat 0
+<112,133> <111,134> <113,135>
+Face verts 3 flags 0 mat 0
+<112,133> <115,137> <114,136>
+Face verts 3 flags 0 mat 0
+<112,133> <113,135> <115,137>
+Face verts 3 flags 0 mat 0
+<114,136> <115,137> <116,138>
+Face verts 3 flags 0 mat 0
+<116,138> <115,137> <117,139>
+Face verts 3 flags 0 mat 0
+<116,140> <119,142> <118,141>
+Face verts 3 flags 0 mat 0
+<116,140> <117,143> <119,142>
+Face verts 3 flags 0 mat 0
+<118,141> <119,142> <96,112>
+Face verts 3 flags 0 mat 0
+<96,112> <119,142> <97,115>
+Face verts 3 flags 0 mat 0
+<120,144> <123,146> <122,145>
+Face verts 3 flags 0 mat 0
+<120,144> <121,147> <123,146>
+Face verts 3 flags 0 mat 0
+<122,148> <123,150> <124,149>
+Face verts 3 flags 0 mat 0
+<124,149> <123,150> <125,151>
+Face verts 3 flags 0 mat 0
+<124,149> <127,153> <126,152>
+Face verts 3 flags 0 mat 0
+<124,149> <125,151> <127,153>
+Face verts 3 flags 0 mat 0
+<126,152> <127,153> <128,154>
+Face verts 3 flags 0 mat 0
+<128,154> <127,153> <129,155>
+Face verts 3 flags 0 mat 0
+<128,154> <131,157> <130,156>
+Face verts 3 flags 0 mat 0
+<128,154> <129,155> <131,157>
+Face verts 3 flags 0 mat 0
+<130,158> <131,160> <132,159>
+Face verts 3 flags 0 mat 0
+<132,159> <131,160> <133,161>
+Face verts 3 flags 0 mat 0
+<132,159> <135,163> <134,162>
+Face verts 3 flags 0 mat 0
+<132,159> <133,161> <135,163>
+Face verts 3 flags 0 mat 0
+<134,164> <135,166> <136,165>
+Face verts 3 flags 0 mat 0
+<136,165> <135,166> <137,167>
+Face verts 3 flags 0 mat 0
+<136,165> <139,169> <138,168>
+Face verts 3 flags 0 mat 0
+<136,165> <137,167> <139,169>
+Face verts 3 flags 0 mat 0
+<138,168> <139,169> <140,170>
+Face verts 3 flags 0 mat 0
+<140,170> <139,169> <141,171>
+Face verts 3 flags 0 mat 0
+<140,172> <143,174> <142,173>
+Face verts 3 flags 0 mat 0
+<140,172> <141,175> <143,174>
+Face verts 3 flags 0 mat 0
+<142,173> <143,174> <120,144>
+Face verts 3 flags 0 mat 0
+<120,144> <143,174> <121,147>
+Face verts 3 flags 0 mat 0
+<144,176> <147,178> <146,177>
+Face verts 3 flags 0 mat 0
+<144,176> <145,179> <147,178>
+Face verts 3 flags 0 mat 0
+<146,180> <147,182> <148,181>
+Face verts 3 flags 0 mat 0
+<148,181> <147,182> <149,183>
+Face verts 3 flags 0 mat 0
+<148,181> <151,185> <150,184>
+Face verts 3 flags 0 mat 0
+<148,181> <149,183> <151,185>
+Face verts 3 flags 0 mat 0
+<150,184> <151,185> <152,186>
+Face verts 3 flags 0 mat 0
+<152,186> <151,185> <153,187>
+Face verts 3 flags 0 mat 0
+<152,186> <155,189> <154,188>
+Face verts 3 flags 0 mat 0
+<152,186> <153,187> <155,189>
+Face verts 3 flags 0 mat 0
+<154,190> <155,192> <156,191>
+Face verts 3 flags 0 mat 0
+<156,191> <155,192> <157,193>
+Face verts 3 flags 0 mat 0
+<156,191> <159,195> <158,194>
+Face verts 3 flags 0 mat 0
+<156,191> <157,193> <159,195>
+Face verts 3 flags 0 mat 0
+<158,196> <159,198> <160,197>
+Face verts 3 flags 0 mat 0
+<160,197> <159,198> <161,199>
+Face verts 3 flags 0 mat 0
+<160,197> <163,201> <162,200>
+Face verts 3 flags 0 mat 0
+<160,197> <161,199> <163,201>
+Face verts 3 flags 0 mat 0
+<162,200> <163,201> <164,202>
+Face verts 3 flags 0 mat 0
+<164,202> <163,201> <165,203>
+Face verts 3 flags 0 mat 0
+<164,204> <167,206> <166,205>
+Face verts 3 flags 0 mat 0
+<164,204> <165,207> <167,206>
+Face verts 3 flags 0 mat 0
+<166,205> <167,206> <144,176>
+Face verts 3 flags 0 mat 0
+<144,176> <167,206> <145,179>
+Face verts 3 flags 0 mat 0
+<168,208> <171,210> <170,209>
+Face verts 3 flags 0 mat 0
+<168,208> <169,211> <171,210>
+Face verts 3 flags 0 mat 0
+<170,212> <171,214> <172,213>
+Face verts 3 flags 0 mat 0
+<172,213> <171,214> <173,215>
+Face verts 3 flags 0 mat 0
+<172,213> <175,217> <174,216>
+Face verts 3 flags 0 mat 0
+<172,213> <173,215> <175,217>
+Face verts 3 flags 0 mat 0
+<174,216> <175,217> <176,218>
+Face verts 3 flags 0 mat 0
+<176,218> <175,217> <177,219>
+Face verts 3 flags 0 mat 0
+<176,218> <179,221> <178,220>
+Face verts 3 flags 0 mat 0
+<176,218> <177,219> <179,221>
+Face verts 3 flags 0 mat 0
+<178,222> <179,224> <180,223>
+Face verts 3 flags 0 mat 0
+<180,223> <179,224> <181,225>
+Face verts 3 flags 0 mat 0
+<180,223> <183,227> <182,226>
+Face verts 3 flags 0 mat 0
+<180,223> <181,225> <183,227>
+Face verts 3 flags 0 mat 0
+<182,228> <183,230> <184,229>
+Face verts 3 flags 0 mat 0
+<184,229> <183,230> <185,231>
+Face verts 3 flags 0 mat 0
+<184,229> <187,233> <186,232>
+Face verts 3 flags 0 mat 0
+<184,229> <185,231> <187,233>
+Face verts 3 flags 0 mat 0
+<186,232> <187,233> <188,234>
+Face verts 3 flags 0 mat 0
+<188,234> <187,233> <189,235>
+Face verts 3 flags 0 mat 0
+<188,236> <191,238> <190,237>
+Face verts 3 flags 0 mat 0
+<188,236> <189,239> <191,238>
+Face verts 3 flags 0 mat 0
+<190,237> <191,238> <168,208>
+Face verts 3 flags 0 mat 0
+<168,208> <191,238> <169,211>
+Face verts 3 flags 0 mat 0
+<192,240> <195,242> <194,241>
+Face verts 3 flags 0 mat 0
+<192,240> <193,243> <195,242>
+Face verts 3 flags 0 mat 0
+<194,244> <195,246> <196,245>
+Face verts 3 flags 0 mat 0
+<196,245> <195,246> <197,247>
+Face verts 3 flags 0 mat 0
+<196,245> <199,249> <198,248>
+Face verts 3 flags 0 mat 0
+<196,245> <197,247> <199,249>
+Face verts 3 flags 0 mat 0
+<198,248> <199,249> <200,250>
+Face verts 3 flags 0 mat 0
+<200,250> <199,249> <201,251>
+Face verts 3 flags 0 mat 0
+<200,250> <203,253> <202,252>
+Face verts 3 flags 0 mat 0
+<200,250> <201,251> <203,253>
+Face verts 3 flags 0 mat 0
+<202,254> <203,256> <204,255>
+Face verts 3 flags 0 mat 0
+<204,255> <203,256> <205,257>
+Face verts 3 flags 0 mat 0
+<204,255> <207,259> <206,258>
+Face verts 3 flags 0 mat 0
+<204,255> <205,257> <207,259>
+Face verts 3 flags 0 mat 0
+<206,260> <207,262> <208,261>
+Face verts 3 flags 0 mat 0
+<208,261> <207,262> <209,263>
+Face verts 3 flags 0 mat 0
+<208,261> <211,265> <210,264>
+Face verts 3 flags 0 mat 0
+<208,261> <209,263> <211,265>
+Face verts 3 flags 0 mat 0
+<210,264> <211,265> <212,266>
+Face verts 3 flags 0 mat 0
+<212,266> <211,265> <213,267>
+Face verts 3 flags 0 mat 0
+<212,268> <215,270> <214,269>
+Face verts 3 flags 0 mat 0
+<212,268> <213,271> <215,270>
+Face verts 3 flags 0 mat 0
+<214,269> <215,270> <192,240>
+Face verts 3 flags 0 mat 0
+<192,240> <215,270> <193,243>
+Face verts 3 flags 0 mat 0
+<216,272> <219,274> <218,273>
+Face verts 3 flags 0 mat 0
+<216,272> <217,275> <219,274>
+Face verts 3 flags 0 mat 0
+<218,276> <219,278> <220,277>
+Face verts 3 flags 0 mat 0
+<220,277> <219,278> <221,279>
+Face verts 3 flags 0 mat 0
+<220,277> <223,281> <222,280>
+Face verts 3 flags 0 mat 0
+<220,277> <221,279> <223,281>
+Face verts 3 flags 0 mat 0
+<222,280> <223,281> <224,282>
+Face verts 3 flags 0 mat 0
+<224,282> <223,281> <225,283>
+Face verts 3 flags 0 mat 0
+<224,282> <227,285> <226,284>
+Face verts 3 flags 0 mat 0
+<224,282> <225,283> <227,285>
+Face verts 3 flags 0 mat 0
+<226,286> <227,288> <228,287>
+Face verts 3 flags 0 mat 0
+<228,287> <227,288> <229,289>
+Face verts 3 flags 0 mat 0
+<228,287> <231,291> <230,290>
+Face verts 3 flags 0 mat 0
+<228,287> <229,289> <231,291>
+Face verts 3 flags 0 mat 0
+<230,292> <231,294> <232,293>
+Face verts 3 flags 0 mat 0
+<232,293> <231,294> <233,295>
+Face verts 3 flags 0 mat 0
+<232,293> <235,297> <234,296>
+Face verts 3 flags 0 mat 0
+<232,293> <233,295> <235,297>
+Face verts 3 flags 0 mat 0
+<234,296> <235,297> <236,298>
+Face verts 3 flags 0 mat 0
+<236,298> <235,297> <237,299>
+Face verts 3 flags 0 mat 0
+<236,300> <239,302> <238,301>
+Face verts 3 flags 0 mat 0
+<236,300> <237,303> <239,302>
+Face verts 3 flags 0 mat 0
+<238,301> <239,302> <216,272>
+Face verts 3 flags 0 mat 0
+<216,272> <239,302> <217,275>
+Face verts 3 flags 0 mat 0
+<240,304> <243,306> <242,305>
+Face verts 3 flags 0 mat 0
+<240,304> <241,307> <243,306>
+Face verts 3 flags 0 mat 0
+<242,308> <243,310> <244,309>
+Face verts 3 flags 0 mat 0
+<244,309> <243,310> <245,311>
+Face verts 3 flags 0 mat 0
+<244,309> <247,313> <246,312>
+Face verts 3 flags 0 mat 0
+<244,309> <245,311> <247,313>
+Face verts 3 flags 0 mat 0
+<246,312> <247,313> <248,314>
+Face verts 3 flags 0 mat 0
+<248,314> <247,313> <249,315>
+Face verts 3 flags 0 mat 0
+<248,314> <251,317> <250,316>
+Face verts 3 flags 0 mat 0
+<248,314> <249,315> <251,317>
+Face verts 3 flags 0 mat 0
+<250,318> <251,320> <252,319>
+Face verts 3 flags 0 mat 0
+<252,319> <251,320> <253,321>
+Face verts 3 flags 0 mat 0
+<252,319> <255,323> <254,322>
+Face verts 3 flags 0 mat 0
+<252,319> <253,321> <255,323>
+Face verts 3 flags 0 mat 0
+<254,324> <255,326> <256,325>
+Face verts 3 flags 0 mat 0
+<256,325> <255,326> <257,327>
+Face verts 3 flags 0 mat 0
+<256,325> <259,329> <258,328>
+Face verts 3 flags 0 mat 0
+<256,325> <257,327> <259,329>
+Face verts 3 flags 0 mat 0
+<258,328> <259,329> <260,330>
+Face verts 3 flags 0 mat 0
+<260,330> <259,329> <261,331>
+Face verts 3 flags 0 mat 0
+<260,332> <263,334> <262,333>
+Face verts 3 flags 0 mat 0
+<260,332> <261,335> <263,334>
+Face verts 3 flags 0 mat 0
+<262,333> <263,334> <240,304>
+Face verts 3 flags 0 mat 0
+<240,304> <263,334> <241,307>
+Face verts 3 flags 0 mat 0
+<264,336> <267,338> <266,337>
+Face verts 3 flags 0 mat 0
+<264,336> <265,339> <267,338>
+Face verts 3 flags 0 mat 0
+<266,340> <267,342> <268,341>
+Face verts 3 flags 0 mat 0
+<268,341> <267,342> <269,343>
+Face verts 3 flags 0 mat 0
+<268,341> <271,345> <270,344>
+Face verts 3 flags 0 mat 0
+<268,341> <269,343> <271,345>
+Face verts 3 flags 0 mat 0
+<270,344> <271,345> <272,346>
+Face verts 3 flags 0 mat 0
+<272,346> <271,345> <273,347>
+Face verts 3 flags 0 mat 0
+<272,346> <275,349> <274,348>
+Face verts 3 flags 0 mat 0
+<272,346> <273,347> <275,349>
+Face verts 3 flags 0 mat 0
+<274,350> <275,352> <276,351>
+Face verts 3 flags 0 mat 0
+<276,351> <275,352> <277,353>
+Face verts 3 flags 0 mat 0
+<276,351> <279,355> <278,354>
+Face verts 3 flags 0 mat 0
+<276,351> <277,353> <279,355>
+Face verts 3 flags 0 mat 0
+<278,356> <279,358> <280,357>
+Face verts 3 flags 0 mat 0
+<280,357> <279,358> <281,359>
+Face verts 3 flags 0 mat 0
+<280,357> <283,361> <282,360>
+Face verts 3 flags 0 mat 0
+<280,357> <281,359> <283,361>
+Face verts 3 flags 0 mat 0
+<282,360> <283,361> <284,362>
+Face verts 3 flags 0 mat 0
+<284,362> <283,361> <285,363>
+Face verts 3 flags 0 mat 0
+<284,364> <287,366> <286,365>
+Face verts 3 flags 0 mat 0
+<284,364> <285,367> <287,366>
+Face verts 3 flags 0 mat 0
+<286,365> <287,366> <264,336>
+Face verts 3 flags 0 mat 0
+<264,336> <287,366> <265,339>
+Face verts 3 flags 0 mat 0
+<288,368> <291,370> <290,369>
+Face verts 3 flags 0 mat 0
+<288,368> <289,371> <291,370>
+Face verts 3 flags 0 mat 0
+<290,372> <291,374> <292,373>
+Face verts 3 flags 0 mat 0
+<292,373> <291,374> <293,375>
+Face verts 3 flags 0 mat 0
+<292,373> <295,377> <294,376>
+Face verts 3 flags 0 mat 0
+<292,373> <293,375> <295,377>
+Face verts 3 flags 0 mat 0
+<294,376> <295,377> <296,378>
+Face verts 3 flags 0 mat 0
+<296,378> <295,377> <297,379>
+Face verts 3 flags 0 mat 0
+<296,378> <299,381> <298,380>
+Face verts 3 flags 0 mat 0
+<296,378> <297,379> <299,381>
+Face verts 3 flags 0 mat 0
+<298,382> <299,384> <300,383>
+Face verts 3 flags 0 mat 0
+<300,383> <299,384> <301,385>
+Face verts 3 flags 0 mat 0
+<300,383> <303,387> <302,386>
+Face verts 3 flags 0 mat 0
+<300,383> <301,385> <303,387>
+Face verts 3 flags 0 mat 0
+<302,388> <303,390> <304,389>
+Face verts 3 flags 0 mat 0
+<304,389> <303,390> <305,391>
+Face verts 3 flags 0 mat 0
+<304,389> <307,393> <306,392>
+Face verts 3 flags 0 mat 0
+<304,389> <305,391> <307,393>
+Face verts 3 flags 0 mat 0
+<306,392> <307,393> <308,394>
+Face verts 3 flags 0 mat 0
+<308,394> <307,393> <309,395>
+Face verts 3 flags 0 mat 0
+<308,396> <311,398> <310,397>
+Face verts 3 flags 0 mat 0
+<308,396> <309,399> <311,398>
+Face verts 3 flags 0 mat 0
+<310,397> <311,398> <288,368>
+Face verts 3 flags 0 mat 0
+<288,368> <311,398> <289,371>
+Face verts 3 flags 0 mat 0
+<312,400> <315,402> <314,401>
+Face verts 3 flags 0 mat 0
+<312,400> <313,403> <315,402>
+Face verts 3 flags 0 mat 0
+<314,404> <315,406> <316,405>
+Face verts 3 flags 0 mat 0
+<316,405> <315,406> <317,407>
+Face verts 3 flags 0 mat 0
+<316,405> <319,409> <318,408>
+Face verts 3 flags 0 mat 0
+<316,405> <317,407> <319,409>
+Face verts 3 flags 0 mat 0
+<318,408> <319,409> <320,410>
+Face verts 3 flags 0 mat 0
+<320,410> <319,409> <321,411>
+Face verts 3 flags 0 mat 0
+<320,410> <323,413> <322,412>
+Face verts 3 flags 0 mat 0
+<320,410> <321,411> <323,413>
+Face verts 3 flags 0 mat 0
+<322,414> <323,416> <324,415>
+Face verts 3 flags 0 mat 0
+<324,415> <323,416> <325,417>
+Face verts 3 flags 0 mat 0
+<324,415> <327,419> <326,418>
+Face verts 3 flags 0 mat 0
+<324,415> <325,417> <327,419>
+Face verts 3 flags 0 mat 0
+<326,420> <327,422> <328,421>
+Face verts 3 flags 0 mat 0
+<328,421> <327,422> <329,423>
+Face verts 3 flags 0 mat 0
+<328,421> <331,425> <330,424>
+Face verts 3 flags 0 mat 0
+<328,421> <329,423> <331,425>
+Face verts 3 flags 0 mat 0
+<330,424> <331,425> <332,426>
+Face verts 3 flags 0 mat 0
+<332,426> <331,425> <333,427>
+Face verts 3 flags 0 mat 0
+<332,428> <335,430> <334,429>
+Face verts 3 flags 0 mat 0
+<332,428> <333,431> <335,430>
+Face verts 3 flags 0 mat 0
+<334,429> <335,430> <312,400>
+Face verts 3 flags 0 mat 0
+<312,400> <335,430> <313,403>
+Face verts 3 flags 0 mat 0
+<336,432> <338,434> <337,433>
+Face verts 3 flags 0 mat 0
+<336,432> <339,435> <338,434>
+Face verts 3 flags 0 mat 0
+<340,436> <342,438> <341,437>
+Face verts 3 flags 0 mat 0
+<340,436> <343,439> <342,438>
+Face verts 3 flags 0 mat 0
+<344,440> <346,442> <345,441>
+Face verts 3 flags 0 mat 0
+<344,440> <347,443> <346,442>
+Face verts 3 flags 0 mat 0
+<348,444> <350,446> <349,445>
+Face verts 3 flags 0 mat 0
+<348,444> <351,447> <350,446>
+Face verts 3 flags 0 mat 0
+<352,448> <354,450> <353,449>
+Face verts 3 flags 0 mat 0
+<352,448> <355,451> <354,450>
+Face verts 3 flags 0 mat 0
+<356,452> <358,454> <357,453>
+Face verts 3 flags 0 mat 0
+<356,452> <359,455> <358,454>
+Face verts 3 flags 0 mat 0
+<360,456> <362,458> <361,457>
+Face verts 3 flags 0 mat 0
+<360,456> <363,459> <362,458>
+Face verts 3 flags 0 mat 0
+<364,460> <366,462> <365,461>
+Face verts 3 flags 0 mat 0
+<364,460> <367,463> <366,462>
+Face verts 3 flags 0 mat 0
+<368,464> <370,466> <369,465>
+Face verts 3 flags 0 mat 0
+<368,464> <371,467> <370,466>
+Face verts 3 flags 0 mat 0
+<372,468> <374,470> <373,469>
+Face verts 3 flags 0 mat 0
+<372,468> <375,471> <374,470>
+Face verts 3 flags 0 mat 0
+<376,472> <378,474> <377,473>
+Face verts 3 flags 0 mat 0
+<376,472> <379,475> <378,474>
+Face verts 3 flags 0 mat 0
+<380,476> <382,478> <381,477>
+Face verts 3 flags 0 mat 0
+<380,476> <383,479> <382,478>
+Face verts 3 flags 0 mat 0
+<384,480> <386,482> <385,481>
+Face verts 3 flags 0 mat 0
+<384,480> <387,483> <386,482>
+Face verts 3 flags 0 mat 0
+<388,484> <390,486> <389,485>
+Face verts 3 flags 0 mat 0
+<388,484> <391,487> <390,486>
+Face verts 3 flags 0 mat 0
+<392,488> <394,490> <393,489>
+Face verts 3 flags 0 mat 0
+<392,488> <395,491> <394,490>
+Face verts 3 flags 0 mat 0
+<396,492> <398,494> <397,493>
+Face verts 3 flags 0 mat 0
+<396,492> <399,495> <398,494>
+Face verts 3 flags 0 mat 0
+<400,496> <402,498> <401,497>
+Face verts 3 flags 0 mat 0
+<400,496> <403,499> <402,498>
+Face verts 3 flags 0 mat 0
+<404,500> <406,502> <405,501>
+Face verts 3 flags 0 mat 0
+<404,500> <407,503> <406,502>
+Face verts 3 flags 0 mat 0
+<408,504> <410,506> <409,505>
+Face verts 3 flags 0 mat 0
+<408,504> <411,507> <410,506>
+Face verts 3 flags 0 mat 0
+<412,508> <414,510> <413,509>
+Face verts 3 flags 0 mat 0
+<412,508> <415,511> <414,510>
+Face verts 3 flags 0 mat 0
+<416,512> <418,514> <417,513>
+Face verts 3 flags 0 mat 0
+<416,512> <419,515> <418,514>
+Face verts 3 flags 0 mat 0
+<420,516> <422,518> <421,517>
+Face verts 3 flags 0 mat 0
+<420,516> <423,519> <422,518>
+Face verts 3 flags 0 mat 0
+<424,520> <426,522> <425,521>
+Face verts 3 flags 0 mat 0
+<424,520> <427,523> <426,522>
+Face verts 3 flags 0 mat 0
+<428,524> <430,526> <429,525>
+Face verts 3 flags 0 mat 0
+<428,524> <431,527> <430,526>
+Face verts 3 flags 0 mat 0
+<432,528> <434,530> <433,529>
+Face verts 3 flags 0 mat 0
+<432,528> <435,531> <434,530>
+Face verts 3 flags 0 mat 0
+<436,532> <438,534> <437,533>
+Face verts 3 flags 0 mat 0
+<436,532> <439,535> <438,534>
+Face verts 3 flags 0 mat 0
+<440,536> <442,538> <441,537>
+Face verts 3 flags 0 mat 0
+<440,536> <443,539> <442,538>
+Face verts 3 flags 0 mat 0
+<444,540> <446,542> <445,541>
+Face verts 3 flags 0 mat 0
+<444,540> <447,543> <446,542>
+Face verts 3 flags 0 mat 0
+<448,544> <450,546> <449,545>
+Face verts 3 flags 0 mat 0
+<448,544> <451,547> <450,546>
+Face verts 3 flags 0 mat 0
+<452,548> <454,550> <453,549>
+Face verts 3 flags 0 mat 0
+<452,548> <455,551> <454,550>
+Face verts 3 flags 0 mat 0
+<456,552> <458,554> <457,553>
+Face verts 3 flags 0 mat 0
+<456,552> <459,555> <458,554>
+Face verts 3 flags 0 mat 0
+<460,556> <462,558> <461,557>
+Face verts 3 flags 0 mat 0
+<460,556> <463,559> <462,558>
+Face verts 3 flags 0 mat 0
+<464,560> <466,562> <465,561>
+Face verts 3 flags 0 mat 0
+<464,560> <467,563> <466,562>
+Face verts 3 flags 0 mat 0
+<468,564> <470,566> <469,565>
+Face verts 3 flags 0 mat 0
+<468,564> <471,567> <470,566>
+Face verts 3 flags 0 mat 0
+<472,568> <474,570> <473,569>
+Face verts 3 flags 0 mat 0
+<472,568> <475,571> <474,570>
+Face verts 3 flags 0 mat 0
+<476,572> <478,574> <477,573>
+Face verts 3 flags 0 mat 0
+<476,572> <479,575> <478,574>
+Face verts 3 flags 0 mat 0
+<480,576> <482,578> <481,577>
+Face verts 3 flags 0 mat 0
+<480,576> <483,579> <482,578>
+Face verts 3 flags 0 mat 0
+<484,580> <486,582> <485,581>
+Face verts 3 flags 0 mat 0
+<484,580> <487,583> <486,582>
+Face verts 3 flags 0 mat 0
+<488,584> <490,586> <489,585>
+Face verts 3 flags 0 mat 0
+<488,584> <491,587> <490,586>
+Face verts 3 flags 0 mat 0
+<492,588> <494,590> <493,589>
+Face verts 3 flags 0 mat 0
+<492,588> <495,591> <494,590>
+Face verts 3 flags 0 mat 0
+<496,592> <498,594> <497,593>
+Face verts 3 flags 0 mat 0
+<496,592> <499,595> <498,594>
+Face verts 3 flags 0 mat 0
+<500,596> <502,598> <501,597>
+Face verts 3 flags 0 mat 0
+<500,596> <503,599> <502,598>
+Face verts 3 flags 0 mat 0
+<504,600> <506,602> <505,601>
+Face verts 3 flags 0 mat 0
+<504,600> <507,603> <506,602>
+Face verts 3 flags 0 mat 0
+<508,604> <510,606> <509,605>
+Face verts 3 flags 0 mat 0
+<508,604> <511,607> <510,606>
+Face verts 3 flags 0 mat 0
+<512,608> <514,610> <513,609>
+Face verts 3 flags 0 mat 0
+<512,608> <515,611> <514,610>
+Face verts 3 flags 0 mat 0
+<516,612> <518,614> <517,613>
+Face verts 3 flags 0 mat 0
+<516,612> <519,615> <518,614>
+Face verts 3 flags 0 mat 0
+<520,616> <522,618> <521,617>
+Face verts 3 flags 0 mat 0
+<520,616> <523,619> <522,618>
+Face verts 3 flags 0 mat 0
+<524,620> <526,622> <525,621>
+Face verts 3 flags 0 mat 0
+<524,620> <527,623> <526,622>
+Face verts 3 flags 0 mat 0
+<528,624> <530,626> <529,625>
+Face verts 3 flags 0 mat 0
+<528,624> <531,627> <530,626>
+Face verts 3 flags 0 mat 0
+<532,628> <534,630> <533,629>
+Face verts 3 flags 0 mat 0
+<532,628> <535,631> <534,630>
+Face verts 3 flags 0 mat 0
+<536,632> <538,634> <537,633>
+Face verts 3 flags 0 mat 0
+<536,632> <539,635> <538,634>
+Face verts 3 flags 0 mat 0
+<540,636> <542,638> <541,637>
+Face verts 3 flags 0 mat 0
+<540,636> <543,639> <542,638>
+Face verts 3 flags 0 mat 0
+<544,640> <546,642> <545,641>
+Face verts 3 flags 0 mat 0
+<544,640> <547,643> <546,642>
+Face verts 3 flags 0 mat 0
+<548,644> <550,646> <549,645>
+Face verts 3 flags 0 mat 0
+<548,644> <551,647> <550,646>
+Face verts 3 flags 0 mat 0
+<552,648> <554,650> <553,649>
+Face verts 3 flags 0 mat 0
+<552,648> <555,651> <554,650>
+Face verts 3 flags 0 mat 0
+<556,652> <558,654> <557,653>
+Face verts 3 flags 0 mat 0
+<556,652> <559,655> <558,654>
+Face verts 3 flags 0 mat 0
+<560,656> <562,658> <561,657>
+Face verts 3 flags 0 mat 0
+<560,656> <563,659> <562,658>
+Face verts 3 flags 0 mat 0
+<564,660> <566,662> <565,661>
+Face verts 3 flags 0 mat 0
+<564,660> <567,663> <566,662>
+Face verts 3 flags 0 mat 0
+<568,664> <570,666> <569,665>
+Face verts 3 flags 0 mat 0
+<568,664> <571,667> <570,666>
+Face verts 3 flags 0 mat 0
+<572,668> <574,670> <573,669>
+Face verts 3 flags 0 mat 0
+<572,668> <575,671> <574,670>
+Face verts 3 flags 0 mat 0
+<576,672> <578,674> <577,673>
+Face verts 3 flags 0 mat 0
+<576,672> <579,675> <578,674>
+Face verts 3 flags 0 mat 0
+<580,676> <582,678> <581,677>
+Face verts 3 flags 0 mat 0
+<580,676> <583,679> <582,678>
+Face verts 3 flags 0 mat 0
+<584,680> <586,682> <585,681>
+Face verts 3 flags 0 mat 0
+<584,680> <587,683> <586,682>
+Face verts 3 flags 0 mat 0
+<588,684> <590,686> <589,685>
+Face verts 3 flags 0 mat 0
+<588,684> <591,687> <590,686>
+Face verts 3 flags 0 mat 0
+<592,688> <594,690> <593,689>
+Face verts 3 flags 0 mat 0
+<592,688> <595,691> <594,690>
+Face verts 3 flags 0 mat 0
+<596,692> <598,694> <597,693>
+Face verts 3 flags 0 mat 0
+<596,692> <599,695> <598,694>
+Face verts 3 flags 0 mat 0
+<600,696> <602,698> <601,697>
+Face verts 3 flags 0 mat 0
+<600,696> <603,699> <602,698>
+Face verts 3 flags 0 mat 0
+<604,700> <606,702> <605,701>
+Face verts 3 flags 0 mat 0
+<604,700> <607,703> <606,702>
+Face verts 3 flags 0 mat 0
+<608,704> <610,706> <609,705>
+Face verts 3 flags 0 mat 0
+<608,704> <611,707> <610,706>
+Face verts 3 flags 0 mat 0
+<612,708> <614,710> <613,709>
+Face verts 3 flags 0 mat 0
+<612,708> <615,711> <614,710>
+Face verts 3 flags 0 mat 0
+<616,712> <618,714> <617,713>
+Face verts 3 flags 0 mat 0
+<616,712> <619,715> <618,714>
+Face verts 3 flags 0 mat 0
+<620,716> <622,718> <621,717>
+Face verts 3 flags 0 mat 0
+<620,716> <623,719> <622,718>
+Face verts 3 flags 0 mat 0
+<624,720> <626,722> <625,721>
+Face verts 3 flags 0 mat 0
+<624,720> <627,723> <626,722>
+Face verts 3 flags 0 mat 0
+<628,724> <630,726> <629,725>
+Face verts 3 flags 0 mat 0
+<628,724> <631,727> <630,726>
+Face verts 3 flags 0 mat 0
+<632,728> <634,730> <633,729>
+Face verts 3 flags 0 mat 0
+<632,728> <635,731> <634,730>
+Face verts 3 flags 0 mat 0
+<636,732> <638,734> <637,733>
+Face verts 3 flags 0 mat 0
+<636,732> <639,735> <638,734>
+Face verts 3 flags 0 mat 0
+<640,736> <642,738> <641,737>
+Face verts 3 flags 0 mat 0
+<640,736> <643,739> <642,738>
+Face verts 3 flags 0 mat 0
+<644,740> <646,742> <645,741>
+Face verts 3 flags 0 mat 0
+<644,740> <647,743> <646,742>
+Face verts 3 flags 0 mat 0
+<648,744> <650,746> <649,745>
+Face verts 3 flags 0 mat 0
+<648,744> <651,747> <650,746>
+Face verts 3 flags 0 mat 0
+<652,748> <654,750> <653,749>
+Face verts 3 flags 0 mat 0
+<652,748> <655,751> <654,750>
+Face verts 3 flags 0 mat 0
+<656,752> <658,754> <657,753>
+Face verts 3 flags 0 mat 0
+<656,752> <659,755> <658,754>
+Face verts 3 flags 0 mat 0
+<660,756> <662,758> <661,757>
+Face verts 3 flags 0 mat 0
+<660,756> <663,759> <662,758>
+Face verts 3 flags 0 mat 0
+<664,760> <666,762> <665,761>
+Face verts 3 flags 0 mat 0
+<664,760> <667,763> <666,762>
+Face verts 3 flags 0 mat 0
+<668,764> <670,766> <669,765>
+Face verts 3 flags 0 mat 0
+<668,764> <671,767> <670,766>
+Face verts 3 flags 0 mat 0
+<672,768> <674,770> <673,769>
+Face verts 3 flags 0 mat 0
+<672,768> <675,771> <674,770>
+Face verts 3 flags 0 mat 0
+<676,772> <678,774> <677,773>
+Face verts 3 flags 0 mat 0
+<676,772> <679,775> <678,774>
+Face verts 3 flags 0 mat 0
+<680,776> <682,778> <681,777>
+Face verts 3 flags 0 mat 0
+<680,776> <683,779> <682,778>
+Face verts 3 flags 0 mat 0
+<684,780> <686,782> <685,781>
+Face verts 3 flags 0 mat 0
+<684,780> <687,783> <686,782>
+Face verts 3 flags 0 mat 0
+<688,784> <690,786> <689,785>
+Face verts 3 flags 0 mat 0
+<688,784> <691,787> <690,786>
+Face verts 3 flags 0 mat 0
+<692,788> <694,790> <693,789>
+Face verts 3 flags 0 mat 0
+<692,788> <695,791> <694,790>
+Face verts 3 flags 0 mat 0
+<696,792> <698,794> <697,793>
+Face verts 3 flags 0 mat 0
+<696,792> <699,795> <698,794>
+Face verts 3 flags 0 mat 0
+<700,796> <702,798> <701,797>
+Face verts 3 flags 0 mat 0
+<700,796> <703,799> <702,798>
+Face verts 3 flags 0 mat 0
+<704,800> <706,802> <705,801>
+Face verts 3 flags 0 mat 0
+<704,800> <707,803> <706,802>
+Face verts 3 flags 0 mat 0
+<708,804> <710,806> <709,805>
+Face verts 3 flags 0 mat 0
+<708,804> <711,807> <710,806>
+Face verts 3 flags 0 mat 0
+<712,808> <714,810> <713,809>
+Face verts 3 flags 0 mat 0
+<712,808> <715,811> <714,810>
+Face verts 3 flags 0 mat 0
+<716,812> <718,814> <717,813>
+Face verts 3 flags 0 mat 0
+<716,812> <719,815> <718,814>
+Face verts 3 flags 0 mat 0
+<720,816> <722,818> <721,817>
+Face verts 3 flags 0 mat 0
+<720,816> <723,819> <722,818>
+Face verts 3 flags 0 mat 0
+<724,820> <726,822> <725,821>
+Face verts 3 flags 0 mat 0
+<724,820> <727,823> <726,822>
+Face verts 3 flags 0 mat 0
+<728,824> <730,826> <729,825>
+Face verts 3 flags 0 mat 0
+<728,824> <731,827> <730,826>
+Face verts 3 flags 0 mat 0
+<732,828> <734,830> <733,829>
+Face verts 3 flags 0 mat 0
+<732,828> <735,831> <734,830>
+Face verts 3 flags 0 mat 0
+<736,832> <738,834> <737,833>
+Face verts 3 flags 0 mat 0
+<736,832> <739,835> <738,834>
+Face verts 3 flags 0 mat 0
+<740,836> <742,838> <741,837>
+Face verts 3 flags 0 mat 0
+<740,836> <743,839> <742,838>
+Face verts 3 flags 0 mat 0
+<744,840> <746,842> <745,841>
+Face verts 3 flags 0 mat 0
+<744,840> <747,843> <746,842>
+Face verts 3 flags 0 mat 0
+<748,844> <750,846> <749,845>
+Face verts 3 flags 0 mat 0
+<748,844> <751,847> <750,846>
+Face verts 3 flags 0 mat 0
+<752,848> <754,850> <753,849>
+Face verts 3 flags 0 mat 0
+<752,848> <755,851> <754,850>
+Face verts 3 flags 0 mat 0
+<756,852> <758,854> <757,853>
+Face verts 3 flags 0 mat 0
+<756,852> <759,855> <758,854>
+Face verts 3 flags 0 mat 0
+<760,856> <762,858> <761,857>
+Face verts 3 flags 0 mat 0
+<760,856> <763,859> <762,858>
+Face verts 3 flags 0 mat 0
+<764,860> <766,862> <765,861>
+Face verts 3 flags 0 mat 0
+<764,860> <767,863> <766,862>
+Face verts 3 flags 0 mat 0
+<768,864> <770,866> <769,865>
+Face verts 3 flags 0 mat 0
+<768,864> <771,867> <770,866>
+Face verts 3 flags 0 mat 0
+<772,868> <774,870> <773,869>
+Face verts 3 flags 0 mat 0
+<772,868> <775,871> <774,870>
+Face verts 3 flags 0 mat 0
+<776,872> <778,874> <777,873>
+Face verts 3 flags 0 mat 0
+<776,872> <779,875> <778,874>
+Face verts 3 flags 0 mat 0
+<780,876> <782,878> <781,877>
+Face verts 3 flags 0 mat 0
+<780,876> <783,879> <782,878>
+Face verts 3 flags 0 mat 0
+<784,880> <786,882> <785,881>
+Face verts 3 flags 0 mat 0
+<784,880> <787,883> <786,882>
+Face verts 3 flags 0 mat 0
+<788,884> <790,886> <789,885>
+Face verts 3 flags 0 mat 0
+<788,884> <791,887> <790,886>
+Face verts 3 flags 0 mat 0
+<792,888> <794,890> <793,889>
+Face verts 3 flags 0 mat 0
+<792,888> <795,891> <794,890>
+Face verts 3 flags 0 mat 0
+<796,892> <798,894> <797,893>
+Face verts 3 flags 0 mat 0
+<796,892> <799,895> <798,894>
+Face verts 3 flags 0 mat 0
+<800,896> <802,898> <801,897>
+Face verts 3 flags 0 mat 0
+<800,896> <803,899> <802,898>
+Face verts 3 flags 0 mat 0
+<804,900> <806,902> <805,901>
+Face verts 3 flags 0 mat 0
+<804,900> <807,903> <806,902>
+Face verts 3 flags 0 mat 0
+<808,904> <810,906> <809,905>
+Face verts 3 flags 0 mat 0
+<808,904> <811,907> <810,906>
+Face verts 3 flags 0 mat 0
+<812,908> <814,910> <813,909>
+Face verts 3 flags 0 mat 0
+<812,908> <815,911> <814,910>
+Face verts 3 flags 0 mat 0
+<816,912> <818,914> <817,913>
+Face verts 3 flags 0 mat 0
+<816,912> <819,915> <818,914>
+Face verts 3 flags 0 mat 0
+<820,916> <822,918> <821,917>
+Face verts 3 flags 0 mat 0
+<820,916> <823,919> <822,918>
+Face verts 3 flags 0 mat 0
+<824,920> <826,922> <825,921>
+Face verts 3 flags 0 mat 0
+<824,920> <827,923> <826,922>
+Face verts 3 flags 0 mat 0
+<828,924> <830,926> <829,925>
+Face verts 3 flags 0 mat 0
+<828,924> <831,927> <830,926>
+Face verts 3 flags 0 mat 0
+<832,928> <834,930> <833,929>
+Face verts 3 flags 0 mat 0
+<832,928> <835,931> <834,930>
+Face verts 3 flags 0 mat 0
+<836,932> <838,934> <837,933>
+Face verts 3 flags 0 mat 0
+<836,932> <839,935> <838,934>
+Face verts 3 flags 0 mat 0
+<840,936> <842,938> <841,937>
+Face verts 3 flags 0 mat 0
+<840,936> <843,939> <842,938>
+Face verts 3 flags 0 mat 0
+<844,940> <846,942> <845,941>
+Face verts 3 flags 0 mat 0
+<844,940> <847,943> <846,942>
+Face verts 3 flags 0 mat 0
+<848,944> <850,946> <849,945>
+Face verts 3 flags 0 mat 0
+<848,944> <851,947> <850,946>
+Face verts 3 flags 0 mat 0
+<852,948> <854,950> <853,949>
+Face verts 3 flags 0 mat 0
+<852,948> <855,951> <854,950>
+Face verts 3 flags 0 mat 0
+<856,952> <858,954> <857,953>
+Face verts 3 flags 0 mat 0
+<856,952> <859,955> <858,954>
+Face verts 3 flags 0 mat 0
+<860,956> <862,958> <861,957>
+Face verts 3 flags 0 mat 0
+<860,956> <863,959> <862,958>
+Face verts 3 flags 0 mat 0
+<864,960> <866,962> <865,961>
+Face verts 3 flags 0 mat 0
+<864,960> <867,963> <866,962>
+Face verts 3 flags 0 mat 0
+<868,964> <870,966> <869,965>
+Face verts 3 flags 0 mat 0
+<868,964> <871,967> <870,966>
+Face verts 3 flags 0 mat 0
+<872,968> <874,970> <873,969>
+Face verts 3 flags 0 mat 0
+<872,968> <875,971> <874,970>
+Face verts 3 flags 0 mat 0
+<876,972> <878,974> <877,973>
+Face verts 3 flags 0 mat 0
+<876,972> <879,975> <878,974>
+Face verts 3 flags 0 mat 0
+<880,976> <882,978> <881,977>
+Face verts 3 flags 0 mat 0
+<880,976> <883,979> <882,978>
+Face verts 3 flags 0 mat 0
+<884,980> <886,982> <885,981>
+Face verts 3 flags 0 mat 0
+<884,980> <887,983> <886,982>
+Face verts 3 flags 0 mat 0
+<888,984> <890,986> <889,985>
+Face verts 3 flags 0 mat 0
+<888,984> <891,987> <890,986>
+Face verts 3 flags 0 mat 0
+<892,988> <894,990> <893,989>
+Face verts 3 flags 0 mat 0
+<892,988> <895,991> <894,990>
+Face verts 3 flags 0 mat 0
+<896,992> <898,994> <897,993>
+Face verts 3 flags 0 mat 0
+<896,992> <899,995> <898,994>
+Face verts 3 flags 0 mat 0
+<900,996> <902,998> <901,997>
+Face verts 3 flags 0 mat 0
+<900,996> <903,999> <902,998>
+Face verts 3 flags 0 mat 0
+<904,1000> <906,1002> <905,1001>
+Face verts 3 flags 0 mat 0
+<904,1000> <907,1003> <906,1002>
+Face verts 3 flags 0 mat 0
+<908,1004> <910,1006> <909,1005>
+Face verts 3 flags 0 mat 0
+<908,1004> <911,1007> <910,1006>
+Face verts 3 flags 0 mat 0
+<912,1008> <914,1010> <913,1009>
+Face verts 3 flags 0 mat 0
+<912,1008> <915,1011> <914,1010>
+Face verts 3 flags 0 mat 0
+<916,1012> <918,1014> <917,1013>
+Face verts 3 flags 0 mat 0
+<916,1012> <919,1015> <918,1014>
+Face verts 3 flags 0 mat 0
+<920,1016> <922,1018> <921,1017>
+Face verts 3 flags 0 mat 0
+<920,1016> <923,1019> <922,1018>
+Face verts 3 flags 0 mat 0
+<924,1020> <926,1022> <925,1021>
+Face verts 3 flags 0 mat 0
+<924,1020> <927,1023> <926,1022>
+Face verts 3 flags 0 mat 0
+<928,1024> <930,1026> <929,1025>
+Face verts 3 flags 0 mat 0
+<928,1024> <931,1027> <930,1026>
+Face verts 3 flags 0 mat 0
+<932,1028> <934,1030> <933,1029>
+Face verts 3 flags 0 mat 0
+<932,1028> <935,1031> <934,1030>
+Face verts 3 flags 0 mat 0
+<936,1032> <938,1034> <937,1033>
+Face verts 3 flags 0 mat 0
+<936,1032> <939,1035> <938,1034>
+Face verts 3 flags 0 mat 0
+<940,1036> <942,1038> <941,1037>
+Face verts 3 flags 0 mat 0
+<940,1036> <943,1039> <942,1038>
+Face verts 3 flags 0 mat 0
+<944,1040> <946,1042> <945,1041>
+Face verts 3 flags 0 mat 0
+<944,1040> <947,1043> <946,1042>
+Face verts 3 flags 0 mat 0
+<948,1044> <950,1046> <949,1045>
+Face verts 3 flags 0 mat 0
+<948,1044> <951,1047> <950,1046>
+Face verts 3 flags 0 mat 0
+<952,1048> <954,1050> <953,1049>
+Face verts 3 flags 0 mat 0
+<952,1048> <955,1051> <954,1050>
+Face verts 3 flags 0 mat 0
+<956,1052> <958,1054> <957,1053>
+Face verts 3 flags 0 mat 0
+<956,1052> <959,1055> <958,1054>
+Face verts 3 flags 0 mat 0
+<960,1056> <962,1058> <961,1057>
+Face verts 3 flags 0 mat 0
+<960,1056> <963,1059> <962,1058>
+Face verts 3 flags 0 mat 0
+<964,1060> <966,1062> <965,1061>
+Face verts 3 flags 0 mat 0
+<964,1060> <967,1063> <966,1062>
+Face verts 3 flags 0 mat 0
+<968,1064> <970,1066> <969,1065>
+Face verts 3 flags 0 mat 0
+<968,1064> <971,1067> <970,1066>
+Face verts 3 flags 0 mat 0
+<972,1068> <974,1070> <973,1069>
+Face verts 3 flags 0 mat 0
+<972,1068> <975,1071> <974,1070>
+Face verts 3 flags 0 mat 0
+<976,1072> <978,1074> <977,1073>
+Face verts 3 flags 0 mat 0
+<976,1072> <979,1075> <978,1074>
+Face verts 3 flags 0 mat 0
+<980,1076> <982,1078> <981,1077>
+Face verts 3 flags 0 mat 0
+<980,1076> <983,1079> <982,1078>
+Face verts 3 flags 0 mat 0
+<984,1080> <986,1082> <985,1081>
+Face verts 3 flags 0 mat 0
+<984,1080> <987,1083> <986,1082>
+Face verts 3 flags 0 mat 0
+<988,1084> <990,1086> <989,1085>
+Face verts 3 flags 0 mat 0
+<988,1084> <991,1087> <990,1086>
+Face verts 3 flags 0 mat 0
+<992,1088> <994,1090> <993,1089>
+Face verts 3 flags 0 mat 0
+<992,1088> <995,1091> <994,1090>
+Face verts 3 flags 0 mat 0
+<996,1092> <998,1094> <997,1093>
+Face verts 3 flags 0 mat 0
+<996,1092> <999,1095> <998,1094>
+Face verts 3 flags 0 mat 0
+<1000,1096> <1002,1098> <1001,1097>
+Face verts 3 flags 0 mat 0
+<1000,1096> <1003,1099> <1002,1098>
+Face verts 3 flags 0 mat 0
+<1004,1100> <1006,1102> <1005,1101>
+Face verts 3 flags 0 mat 0
+<1004,1100> <1007,1103> <1006,1102>
+Face verts 3 flags 0 mat 0
+<1008,1104> <1010,1106> <1009,1105>
+Face verts 3 flags 0 mat 0
+<1008,1104> <1011,1107> <1010,1106>
+Face verts 3 flags 0 mat 0
+<1012,1108> <1014,1110> <1013,1109>
+Face verts 3 flags 0 mat 0
+<1012,1108> <1015,1111> <1014,1110>
+Face verts 3 flags 0 mat 0
+<1016,1112> <1018,1114> <1017,1113>
+Face verts 3 flags 0 mat 0
+<1016,1112> <1019,1115> <1018,1114>
+Face verts 3 flags 0 mat 0
+<1020,1116> <1022,1118> <1021,1117>
+Face verts 3 flags 0 mat 0
+<1020,1116> <1023,1119> <1022,1118>
+Face verts 3 flags 0 mat 0
+<1024,1120> <1026,1122> <1025,1121>
+Face verts 3 flags 0 mat 0
+<1024,1120> <1027,1123> <1026,1122>
+Face verts 3 flags 0 mat 0
+<1028,1124> <1030,1126> <1029,1125>
+Face verts 3 flags 0 mat 0
+<1028,1124> <1031,1127> <1030,1126>
+Face verts 3 flags 0 mat 0
+<1032,1128> <1034,1130> <1033,1129>
+Face verts 3 flags 0 mat 0
+<1032,1128> <1035,1131> <1034,1130>
+Face verts 3 flags 0 mat 0
+<1036,1132> <1038,1134> <1037,1133>
+Face verts 3 flags 0 mat 0
+<1036,1132> <1039,1135> <1038,1134>
+Face verts 3 flags 0 mat 0
+<1040,1136> <1042,1138> <1041,1137>
+Face verts 3 flags 0 mat 0
+<1040,1136> <1043,1139> <1042,1138>
+Face verts 3 flags 0 mat 0
+<1044,1140> <1046,1142> <1045,1141>
+Face verts 3 flags 0 mat 0
+<1044,1140> <1047,1143> <1046,1142>
+Face verts 3 flags 0 mat 0
+<1048,1144> <1050,1146> <1049,1145>
+Face verts 3 flags 0 mat 0
+<1048,1144> <1051,1147> <1050,1146>
+Face verts 3 flags 0 mat 0
+<1052,1148> <1054,1150> <1053,1149>
+Face verts 3 flags 0 mat 0
+<1052,1148> <1055,1151> <1054,1150>
+Face verts 3 flags 0 mat 0
+<1056,1152> <1058,1154> <1057,1153>
+Face verts 3 flags 0 mat 0
+<1056,1152> <1059,1155> <1058,1154>
+Face verts 3 flags 0 mat 0
+<1060,1156> <1062,1158> <1061,1157>
+Face verts 3 flags 0 mat 0
+<1060,1156> <1063,1159> <1062,1158>
+Face verts 3 flags 0 mat 0
+<1064,1160> <1066,1162> <1065,1161>
+Face verts 3 flags 0 mat 0
+<1064,1160> <1067,1163> <1066,1162>
+Face verts 3 flags 0 mat 0
+<1068,1164> <1070,1166> <1069,1165>
+Face verts 3 flags 0 mat 0
+<1068,1164> <1071,1167> <1070,1166>
 Face verts 3 flags 0 mat 1
-<1072,6> <1074,6> <1073,6>
+<1072,1168> <1074,1168> <1073,1168>
 Face verts 3 flags 0 mat 1
-<1072,6> <1075,6> <1074,6>
+<1072,1168> <1075,1168> <1074,1168>
 Face verts 3 flags 0 mat 1
-<1072,6> <1076,6> <1075,6>
+<1072,1168> <1076,1168> <1075,1168>
 Face verts 3 flags 0 mat 1
-<1072,6> <1077,6> <1076,6>
+<1072,1168> <1077,1168> <1076,1168>
 Face verts 3 flags 0 mat 1
-<1072,6> <1078,6> <1077,6>
+<1072,1168> <1078,1168> <1077,1168>
 Face verts 3 flags 0 mat 1
-<1079,6> <1081,6> <1080,6>
+<1079,1168> <1081,1168> <1080,1168>
 Face verts 3 flags 0 mat 1
-<1079,6> <1082,6> <1081,6>
+<1079,1168> <1082,1168> <1081,1168>
 Face verts 3 flags 0 mat 1
-<1079,6> <1083,6> <1082,6>
+<1079,1168> <1083,1168> <1082,1168>
 Face verts 3 flags 0 mat 1
-<1079,6> <1084,6> <1083,6>
+<1079,1168> <1084,1168> <1083,1168>
 Face verts 3 flags 0 mat 1
-<1079,6> <1085,6> <1084,6>
+<1079,1168> <1085,1168> <1084,1168>
 Face verts 3 flags 0 mat 1
-<1086,6> <1088,6> <1087,6>
+<1086,1168> <1088,1168> <1087,1168>
 Face verts 3 flags 0 mat 1
-<1086,6> <1089,6> <1088,6>
+<1086,1168> <1089,1168> <1088,1168>
 Face verts 3 flags 0 mat 1
-<1086,6> <1090,6> <1089,6>
+<1086,1168> <1090,1168> <1089,1168>
 Face verts 3 flags 0 mat 1
-<1086,6> <1091,6> <1090,6>
+<1086,1168> <1091,1168> <1090,1168>
 Face verts 3 flags 0 mat 1
-<1086,6> <1092,6> <1091,6>
+<1086,1168> <1092,1168> <1091,1168>
 Face verts 3 flags 0 mat 1
-<1093,6> <1095,6> <1094,6>
+<1093,1168> <1095,1168> <1094,1168>
 Face verts 3 flags 0 mat 1
-<1093,6> <1096,6> <1095,6>
+<1093,1168> <1096,1168> <1095,1168>
 Face verts 3 flags 0 mat 1
-<1093,6> <1097,6> <1096,6>
+<1093,1168> <1097,1168> <1096,1168>
 Face verts 3 flags 0 mat 1
-<1093,6> <1098,6> <1097,6>
+<1093,1168> <1098,1168> <1097,1168>
 Face verts 3 flags 0 mat 1
-<1093,6> <1099,6> <1098,6>
+<1093,1168> <1099,1168> <1098,1168>
 Face verts 3 flags 0 mat 1
-<1100,6> <1102,6> <1101,6>
+<1100,1168> <1102,1168> <1101,1168>
 Face verts 3 flags 0 mat 1
-<1100,6> <1103,6> <1102,6>
+<1100,1168> <1103,1168> <1102,1168>
 Face verts 3 flags 0 mat 1
-<1100,6> <1104,6> <1103,6>
+<1100,1168> <1104,1168> <1103,1168>
 Face verts 3 flags 0 mat 1
-<1100,6> <1105,6> <1104,6>
+<1100,1168> <1105,1168> <1104,1168>
 Face verts 3 flags 0 mat 1
-<1100,6> <1106,6> <1105,6>
+<1100,1168> <1106,1168> <1105,1168>
 Face verts 3 flags 0 mat 1
-<1107,6> <1109,6> <1108,6>
+<1107,1168> <1109,1168> <1108,1168>
 Face verts 3 flags 0 mat 1
-<1107,6> <1110,6> <1109,6>
+<1107,1168> <1110,1168> <1109,1168>
 Face verts 3 flags 0 mat 1
-<1107,6> <1111,6> <1110,6>
+<1107,1168> <1111,1168> <1110,1168>
 Face verts 3 flags 0 mat 1
-<1107,6> <1112,6> <1111,6>
+<1107,1168> <1112,1168> <1111,1168>
 Face verts 3 flags 0 mat 1
-<1107,6> <1113,6> <1112,6>
+<1107,1168> <1113,1168> <1112,1168>
 Face verts 3 flags 0 mat 1
-<1114,6> <1116,6> <1115,6>
+<1114,1168> <1116,1168> <1115,1168>
 Face verts 3 flags 0 mat 1
-<1114,6> <1117,6> <1116,6>
+<1114,1168> <1117,1168> <1116,1168>
 Face verts 3 flags 0 mat 1
-<1114,6> <1118,6> <1117,6>
+<1114,1168> <1118,1168> <1117,1168>
 Face verts 3 flags 0 mat 1
-<1114,6> <1119,6> <1118,6>
+<1114,1168> <1119,1168> <1118,1168>
 Face verts 3 flags 0 mat 1
-<1114,6> <1120,6> <1119,6>
+<1114,1168> <1120,1168> <1119,1168>
 Face verts 3 flags 0 mat 1
-<1121,6> <1123,6> <1122,6>
+<1121,1168> <1123,1168> <1122,1168>
 Face verts 3 flags 0 mat 1
-<1121,6> <1124,6> <1123,6>
+<1121,1168> <1124,1168> <1123,1168>
 Face verts 3 flags 0 mat 1
-<1121,6> <1125,6> <1124,6>
+<1121,1168> <1125,1168> <1124,1168>
 Face verts 3 flags 0 mat 1
-<1121,6> <1126,6> <1125,6>
+<1121,1168> <1126,1168> <1125,1168>
 Face verts 3 flags 0 mat 1
-<1121,6> <1127,6> <1126,6>
+<1121,1168> <1127,1168> <1126,1168>
 Face verts 3 flags 0 mat 0
-<1128,1> <1131,1> <1130,1>
+<1128,1169> <1131,1171> <1130,1170>
 Face verts 3 flags 0 mat 0
-<1128,1> <1129,1> <1131,1>
+<1128,1169> <1129,1172> <1131,1171>
 Face verts 3 flags 0 mat 0
-<1130,1> <1131,1> <1132,1>
+<1130,1170> <1131,1171> <1132,1173>
 Face verts 3 flags 0 mat 0
-<1132,1> <1131,1> <1133,1>
+<1132,1173> <1131,1171> <1133,1174>
 Face verts 3 flags 0 mat 0
-<1132,1> <1135,1> <1134,1>
+<1132,1175> <1135,1177> <1134,1176>
 Face verts 3 flags 0 mat 0
-<1132,1> <1133,1> <1135,1>
+<1132,1175> <1133,1178> <1135,1177>
 Face verts 3 flags 0 mat 0
-<1134,1> <1135,1> <1136,1>
+<1134,1176> <1135,1177> <1136,1179>
 Face verts 3 flags 0 mat 0
-<1136,1> <1135,1> <1137,1>
+<1136,1179> <1135,1177> <1137,1180>
 Face verts 3 flags 0 mat 0
-<1136,1> <1139,1> <1138,1>
+<1136,1179> <1139,1182> <1138,1181>
 Face verts 3 flags 0 mat 0
-<1136,1> <1137,1> <1139,1>
+<1136,1179> <1137,1180> <1139,1182>
 Face verts 3 flags 0 mat 0
-<1138,1> <1139,1> <1140,1>
+<1138,1181> <1139,1182> <1140,1183>
 Face verts 3 flags 0 mat 0
-<1140,1> <1139,1> <1141,1>
+<1140,1183> <1139,1182> <1141,1184>
 Face verts 3 flags 0 mat 0
-<1140,1> <1143,1> <1142,1>
+<1140,1185> <1143,1187> <1142,1186>
 Face verts 3 flags 0 mat 0
-<1140,1> <1141,1> <1143,1>
+<1140,1185> <1141,1188> <1143,1187>
 Face verts 3 flags 0 mat 0
-<1142,1> <1143,1> <1144,1>
+<1142,1186> <1143,1187> <1144,1189>
 Face verts 3 flags 0 mat 0
-<1144,1> <1143,1> <1145,1>
+<1144,1189> <1143,1187> <1145,1190>
 Face verts 3 flags 0 mat 0
-<1144,1> <1147,1> <1146,1>
+<1144,1189> <1147,1192> <1146,1191>
 Face verts 3 flags 0 mat 0
-<1144,1> <1145,1> <1147,1>
+<1144,1189> <1145,1190> <1147,1192>
 Face verts 3 flags 0 mat 0
-<1146,1> <1147,1> <1148,1>
+<1146,1191> <1147,1192> <1148,1193>
 Face verts 3 flags 0 mat 0
-<1148,1> <1147,1> <1149,1>
+<1148,1193> <1147,1192> <1149,1194>
 Face verts 3 flags 0 mat 0
-<1148,1> <1151,1> <1150,1>
+<1148,1195> <1151,1197> <1150,1196>
 Face verts 3 flags 0 mat 0
-<1148,1> <1149,1> <1151,1>
+<1148,1195> <1149,1198> <1151,1197>
 Face verts 3 flags 0 mat 0
-<1150,1> <1151,1> <1152,1>
+<1150,1196> <1151,1197> <1152,1199>
 Face verts 3 flags 0 mat 0
-<1152,1> <1151,1> <1153,1>
+<1152,1199> <1151,1197> <1153,1200>
 Face verts 3 flags 0 mat 0
-<1152,1> <1155,1> <1154,1>
+<1152,1199> <1155,1202> <1154,1201>
 Face verts 3 flags 0 mat 0
-<1152,1> <1153,1> <1155,1>
+<1152,1199> <1153,1200> <1155,1202>
 Face verts 3 flags 0 mat 0
-<1154,1> <1155,1> <1156,1>
+<1154,1201> <1155,1202> <1156,1203>
 Face verts 3 flags 0 mat 0
-<1156,1> <1155,1> <1157,1>
+<1156,1203> <1155,1202> <1157,1204>
 Face verts 3 flags 0 mat 0
-<1156,1> <1159,1> <1158,1>
+<1156,1205> <1159,1207> <1158,1206>
 Face verts 3 flags 0 mat 0
-<1156,1> <1157,1> <1159,1>
+<1156,1205> <1157,1208> <1159,1207>
 Face verts 3 flags 0 mat 0
-<1158,1> <1159,1> <1128,1>
+<1158,1206> <1159,1207> <1128,1169>
 Face verts 3 flags 0 mat 0
-<1128,1> <1159,1> <1129,1>
+<1128,1169> <1159,1207> <1129,1172>
 Face verts 3 flags 0 mat 0
-<1160,1> <1163,1> <1162,1>
+<1160,1209> <1163,1211> <1162,1210>
 Face verts 3 flags 0 mat 0
-<1160,1> <1161,1> <1163,1>
+<1160,1209> <1161,1212> <1163,1211>
 Face verts 3 flags 0 mat 0
-<1162,1> <1163,1> <1164,1>
+<1162,1210> <1163,1211> <1164,1213>
 Face verts 3 flags 0 mat 0
-<1164,1> <1163,1> <1165,1>
+<1164,1213> <1163,1211> <1165,1214>
 Face verts 3 flags 0 mat 0
-<1164,1> <1167,1> <1166,1>
+<1164,1213> <1167,1216> <1166,1215>
 Face verts 3 flags 0 mat 0
-<1164,1> <1165,1> <1167,1>
+<1164,1213> <1165,1214> <1167,1216>
 Face verts 3 flags 0 mat 0
-<1166,1> <1167,1> <1168,1>
+<1166,1215> <1167,1216> <1168,1217>
 Face verts 3 flags 0 mat 0
-<1168,1> <1167,1> <1169,1>
+<1168,1217> <1167,1216> <1169,1218>
 Face verts 3 flags 0 mat 0
-<1168,1> <1171,1> <1170,1>
+<1168,1217> <1171,1220> <1170,1219>
 Face verts 3 flags 0 mat 0
-<1168,1> <1169,1> <1171,1>
+<1168,1217> <1169,1218> <1171,1220>
 Face verts 3 flags 0 mat 0
-<1170,1> <1171,1> <1172,1>
+<1170,1219> <1171,1220> <1172,1221>
 Face verts 3 flags 0 mat 0
-<1172,1> <1171,1> <1173,1>
+<1172,1221> <1171,1220> <1173,1222>
 Face verts 3 flags 0 mat 0
-<1172,1> <1175,1> <1174,1>
+<1172,1221> <1175,1224> <1174,1223>
 Face verts 3 flags 0 mat 0
-<1172,1> <1173,1> <1175,1>
+<1172,1221> <1173,1222> <1175,1224>
 Face verts 3 flags 0 mat 0
-<1174,1> <1175,1> <1176,1>
+<1174,1223> <1175,1224> <1176,1225>
 Face verts 3 flags 0 mat 0
-<1176,1> <1175,1> <1177,1>
+<1176,1225> <1175,1224> <1177,1226>
 Face verts 3 flags 0 mat 0
-<1176,1> <1179,1> <1178,1>
+<1176,1225> <1179,1228> <1178,1227>
 Face verts 3 flags 0 mat 0
-<1176,1> <1177,1> <1179,1>
+<1176,1225> <1177,1226> <1179,1228>
 Face verts 3 flags 0 mat 0
-<1178,1> <1179,1> <1180,1>
+<1178,1227> <1179,1228> <1180,1229>
 Face verts 3 flags 0 mat 0
-<1180,1> <1179,1> <1181,1>
+<1180,1229> <1179,1228> <1181,1230>
 Face verts 3 flags 0 mat 0
-<1180,1> <1183,1> <1182,1>
+<1180,1229> <1183,1232> <1182,1231>
 Face verts 3 flags 0 mat 0
-<1180,1> <1181,1> <1183,1>
+<1180,1229> <1181,1230> <1183,1232>
 Face verts 3 flags 0 mat 0
-<1182,1> <1183,1> <1184,1>
+<1182,1231> <1183,1232> <1184,1233>
 Face verts 3 flags 0 mat 0
-<1184,1> <1183,1> <1185,1>
+<1184,1233> <1183,1232> <1185,1234>
 Face verts 3 flags 0 mat 0
-<1184,1> <1187,1> <1186,1>
+<1184,1233> <1187,1236> <1186,1235>
 Face verts 3 flags 0 mat 0
-<1184,1> <1185,1> <1187,1>
+<1184,1233> <1185,1234> <1187,1236>
 Face verts 3 flags 0 mat 0
-<1186,1> <1187,1> <1188,1>
+<1186,1235> <1187,1236> <1188,1237>
 Face verts 3 flags 0 mat 0
-<1188,1> <1187,1> <1189,1>
+<1188,1237> <1187,1236> <1189,1238>
 Face verts 3 flags 0 mat 0
-<1188,1> <1191,1> <1190,1>
+<1188,1237> <1191,1240> <1190,1239>
 Face verts 3 flags 0 mat 0
-<1188,1> <1189,1> <1191,1>
+<1188,1237> <1189,1238> <1191,1240>
 Face verts 3 flags 0 mat 0
-<1190,1> <1191,1> <1160,1>
+<1190,1239> <1191,1240> <1160,1209>
 Face verts 3 flags 0 mat 0
-<1160,1> <1191,1> <1161,1>
+<1160,1209> <1191,1240> <1161,1212>
 Face verts 3 flags 0 mat 0
-<1192,1> <1195,1> <1194,1>
+<1192,1241> <1195,1243> <1194,1242>
 Face verts 3 flags 0 mat 0
-<1192,1> <1193,1> <1195,1>
+<1192,1241> <1193,1244> <1195,1243>
 Face verts 3 flags 0 mat 0
-<1194,1> <1195,1> <1196,1>
+<1194,1242> <1195,1243> <1196,1245>
 Face verts 3 flags 0 mat 0
-<1196,1> <1195,1> <1197,1>
+<1196,1245> <1195,1243> <1197,1246>
 Face verts 3 flags 0 mat 0
-<1196,1> <1199,1> <1198,1>
+<1196,1247> <1199,1249> <1198,1248>
 Face verts 3 flags 0 mat 0
-<1196,1> <1197,1> <1199,1>
+<1196,1247> <1197,1250> <1199,1249>
 Face verts 3 flags 0 mat 0
-<1198,1> <1199,1> <1200,1>
+<1198,1248> <1199,1249> <1200,1251>
 Face verts 3 flags 0 mat 0
-<1200,1> <1199,1> <1201,1>
+<1200,1251> <1199,1249> <1201,1252>
 Face verts 3 flags 0 mat 0
-<1200,1> <1203,1> <1202,1>
+<1200,1251> <1203,1254> <1202,1253>
 Face verts 3 flags 0 mat 0
-<1200,1> <1201,1> <1203,1>
+<1200,1251> <1201,1252> <1203,1254>
 Face verts 3 flags 0 mat 0
-<1202,1> <1203,1> <1204,1>
+<1202,1253> <1203,1254> <1204,1255>
 Face verts 3 flags 0 mat 0
-<1204,1> <1203,1> <1205,1>
+<1204,1255> <1203,1254> <1205,1256>
 Face verts 3 flags 0 mat 0
-<1204,1> <1207,1> <1206,1>
+<1204,1257> <1207,1259> <1206,1258>
 Face verts 3 flags 0 mat 0
-<1204,1> <1205,1> <1207,1>
+<1204,1257> <1205,1260> <1207,1259>
 Face verts 3 flags 0 mat 0
-<1206,1> <1207,1> <1208,1>
+<1206,1258> <1207,1259> <1208,1261>
 Face verts 3 flags 0 mat 0
-<1208,1> <1207,1> <1209,1>
+<1208,1261> <1207,1259> <1209,1262>
 Face verts 3 flags 0 mat 0
-<1208,1> <1211,1> <1210,1>
+<1208,1261> <1211,1264> <1210,1263>
 Face verts 3 flags 0 mat 0
-<1208,1> <1209,1> <1211,1>
+<1208,1261> <1209,1262> <1211,1264>
 Face verts 3 flags 0 mat 0
-<1210,1> <1211,1> <1212,1>
+<1210,1263> <1211,1264> <1212,1265>
 Face verts 3 flags 0 mat 0
-<1212,1> <1211,1> <1213,1>
+<1212,1265> <1211,1264> <1213,1266>
 Face verts 3 flags 0 mat 0
-<1212,1> <1215,1> <1214,1>
+<1212,1267> <1215,1269> <1214,1268>
 Face verts 3 flags 0 mat 0
-<1212,1> <1213,1> <1215,1>
+<1212,1267> <1213,1270> <1215,1269>
 Face verts 3 flags 0 mat 0
-<1214,1> <1215,1> <1216,1>
+<1214,1268> <1215,1269> <1216,1271>
 Face verts 3 flags 0 mat 0
-<1216,1> <1215,1> <1217,1>
+<1216,1271> <1215,1269> <1217,1272>
 Face verts 3 flags 0 mat 0
-<1216,1> <1219,1> <1218,1>
+<1216,1271> <1219,1274> <1218,1273>
 Face verts 3 flags 0 mat 0
-<1216,1> <1217,1> <1219,1>
+<1216,1271> <1217,1272> <1219,1274>
 Face verts 3 flags 0 mat 0
-<1218,1> <1219,1> <1220,1>
+<1218,1273> <1219,1274> <1220,1275>
 Face verts 3 flags 0 mat 0
-<1220,1> <1219,1> <1221,1>
+<1220,1275> <1219,1274> <1221,1276>
 Face verts 3 flags 0 mat 0
-<1220,1> <1223,1> <1222,1>
+<1220,1277> <1223,1279> <1222,1278>
 Face verts 3 flags 0 mat 0
-<1220,1> <1221,1> <1223,1>
+<1220,1277> <1221,1280> <1223,1279>
 Face verts 3 flags 0 mat 0
-<1222,1> <1223,1> <1192,1>
+<1222,1278> <1223,1279> <1192,1241>
 Face verts 3 flags 0 mat 0
-<1192,1> <1223,1> <1193,1>
+<1192,1241> <1223,1279> <1193,1244>
 Face verts 3 flags 0 mat 0
-<1224,1> <1227,1> <1226,1>
+<1224,1281> <1227,1283> <1226,1282>
 Face verts 3 flags 0 mat 0
-<1224,1> <1225,1> <1227,1>
+<1224,1281> <1225,1284> <1227,1283>
 Face verts 3 flags 0 mat 0
-<1226,1> <1227,1> <1228,1>
+<1226,1282> <1227,1283> <1228,1285>
 Face verts 3 flags 0 mat 0
-<1228,1> <1227,1> <1229,1>
+<1228,1285> <1227,1283> <1229,1286>
 Face verts 3 flags 0 mat 0
-<1228,1> <1231,1> <1230,1>
+<1228,1287> <1231,1289> <1230,1288>
 Face verts 3 flags 0 mat 0
-<1228,1> <1229,1> <1231,1>
+<1228,1287> <1229,1290> <1231,1289>
 Face verts 3 flags 0 mat 0
-<1230,1> <1231,1> <1232,1>
+<1230,1288> <1231,1289> <1232,1291>
 Face verts 3 flags 0 mat 0
-<1232,1> <1231,1> <1233,1>
+<1232,1291> <1231,1289> <1233,1292>
 Face verts 3 flags 0 mat 0
-<1232,1> <1235,1> <1234,1>
+<1232,1291> <1235,1294> <1234,1293>
 Face verts 3 flags 0 mat 0
-<1232,1> <1233,1> <1235,1>
+<1232,1291> <1233,1292> <1235,1294>
 Face verts 3 flags 0 mat 0
-<1234,1> <1235,1> <1236,1>
+<1234,1293> <1235,1294> <1236,1295>
 Face verts 3 flags 0 mat 0
-<1236,1> <1235,1> <1237,1>
+<1236,1295> <1235,1294> <1237,1296>
 Face verts 3 flags 0 mat 0
-<1236,1> <1239,1> <1238,1>
+<1236,1297> <1239,1299> <1238,1298>
 Face verts 3 flags 0 mat 0
-<1236,1> <1237,1> <1239,1>
+<1236,1297> <1237,1300> <1239,1299>
 Face verts 3 flags 0 mat 0
-<1238,1> <1239,1> <1240,1>
+<1238,1298> <1239,1299> <1240,1301>
 Face verts 3 flags 0 mat 0
-<1240,1> <1239,1> <1241,1>
+<1240,1301> <1239,1299> <1241,1302>
 Face verts 3 flags 0 mat 0
-<1240,1> <1243,1> <1242,1>
+<1240,1301> <1243,1304> <1242,1303>
 Face verts 3 flags 0 mat 0
-<1240,1> <1241,1> <1243,1>
+<1240,1301> <1241,1302> <1243,1304>
 Face verts 3 flags 0 mat 0
-<1242,1> <1243,1> <1244,1>
+<1242,1303> <1243,1304> <1244,1305>
 Face verts 3 flags 0 mat 0
-<1244,1> <1243,1> <1245,1>
+<1244,1305> <1243,1304> <1245,1306>
 Face verts 3 flags 0 mat 0
-<1244,1> <1247,1> <1246,1>
+<1244,1307> <1247,1309> <1246,1308>
 Face verts 3 flags 0 mat 0
-<1244,1> <1245,1> <1247,1>
+<1244,1307> <1245,1310> <1247,1309>
 Face verts 3 flags 0 mat 0
-<1246,1> <1247,1> <1248,1>
+<1246,1308> <1247,1309> <1248,1311>
 Face verts 3 flags 0 mat 0
-<1248,1> <1247,1> <1249,1>
+<1248,1311> <1247,1309> <1249,1312>
 Face verts 3 flags 0 mat 0
-<1248,1> <1251,1> <1250,1>
+<1248,1311> <1251,1314> <1250,1313>
 Face verts 3 flags 0 mat 0
-<1248,1> <1249,1> <1251,1>
+<1248,1311> <1249,1312> <1251,1314>
 Face verts 3 flags 0 mat 0
-<1250,1> <1251,1> <1252,1>
+<1250,1313> <1251,1314> <1252,1315>
 Face verts 3 flags 0 mat 0
-<1252,1> <1251,1> <1253,1>
+<1252,1315> <1251,1314> <1253,1316>
 Face verts 3 flags 0 mat 0
-<1252,1> <1255,1> <1254,1>
+<1252,1317> <1255,1319> <1254,1318>
 Face verts 3 flags 0 mat 0
-<1252,1> <1253,1> <1255,1>
+<1252,1317> <1253,1320> <1255,1319>
 Face verts 3 flags 0 mat 0
-<1254,1> <1255,1> <1224,1>
+<1254,1318> <1255,1319> <1224,1281>
 Face verts 3 flags 0 mat 0
-<1224,1> <1255,1> <1225,1>
+<1224,1281> <1255,1319> <1225,1284>
 Face verts 3 flags 0 mat 0
-<1256,7> <1259,7> <1258,7>
+<1256,1321> <1259,1323> <1258,1322>
 Face verts 3 flags 0 mat 0
-<1256,7> <1257,7> <1259,7>
+<1258,1322> <1259,1323> <1260,1324>
 Face verts 3 flags 0 mat 0
-<1258,7> <1259,7> <1260,7>
+<1260,1324> <1259,1323> <1261,1323>
 Face verts 3 flags 0 mat 0
-<1260,7> <1259,7> <1261,7>
+<1260,1324> <1263,1323> <1262,1325>
 Face verts 3 flags 0 mat 0
-<1260,7> <1263,7> <1262,7>
+<1260,1324> <1261,1323> <1263,1323>
 Face verts 3 flags 0 mat 0
-<1260,7> <1261,7> <1263,7>
+<1262,1325> <1263,1323> <1264,1326>
 Face verts 3 flags 0 mat 0
-<1262,7> <1263,7> <1264,7>
+<1264,1326> <1267,1323> <1266,1327>
 Face verts 3 flags 0 mat 0
-<1264,7> <1263,7> <1265,7>
+<1266,1327> <1267,1323> <1268,1328>
 Face verts 3 flags 0 mat 0
-<1264,7> <1267,7> <1266,7>
+<1268,1328> <1267,1323> <1269,1323>
 Face verts 3 flags 0 mat 0
-<1264,7> <1265,7> <1267,7>
+<1268,1328> <1271,1323> <1270,1329>
 Face verts 3 flags 0 mat 0
-<1266,7> <1267,7> <1268,7>
+<1268,1328> <1269,1323> <1271,1323>
 Face verts 3 flags 0 mat 0
-<1268,7> <1267,7> <1269,7>
+<1270,1329> <1271,1323> <1272,1330>
 Face verts 3 flags 0 mat 0
-<1268,7> <1271,7> <1270,7>
+<1272,1330> <1275,1323> <1274,1331>
 Face verts 3 flags 0 mat 0
-<1268,7> <1269,7> <1271,7>
+<1274,1331> <1275,1323> <1276,1332>
 Face verts 3 flags 0 mat 0
-<1270,7> <1271,7> <1272,7>
+<1276,1332> <1275,1323> <1277,1323>
 Face verts 3 flags 0 mat 0
-<1272,7> <1271,7> <1273,7>
+<1276,1332> <1279,1323> <1278,1333>
 Face verts 3 flags 0 mat 0
-<1272,7> <1275,7> <1274,7>
+<1276,1332> <1277,1323> <1279,1323>
 Face verts 3 flags 0 mat 0
-<1272,7> <1273,7> <1275,7>
+<1278,1333> <1279,1323> <1280,1334>
 Face verts 3 flags 0 mat 0
-<1274,7> <1275,7> <1276,7>
+<1280,1334> <1283,1323> <1282,1335>
 Face verts 3 flags 0 mat 0
-<1276,7> <1275,7> <1277,7>
+<1282,1335> <1283,1323> <1284,1336>
 Face verts 3 flags 0 mat 0
-<1276,7> <1279,7> <1278,7>
+<1284,1336> <1283,1323> <1285,1323>
 Face verts 3 flags 0 mat 0
-<1276,7> <1277,7> <1279,7>
+<1284,1336> <1287,1323> <1286,1337>
 Face verts 3 flags 0 mat 0
-<1278,7> <1279,7> <1280,7>
+<1284,1336> <1285,1323> <1287,1323>
 Face verts 3 flags 0 mat 0
-<1280,7> <1279,7> <1281,7>
+<1286,1337> <1287,1323> <1256,1321>
 Face verts 3 flags 0 mat 0
-<1280,7> <1283,7> <1282,7>
+<1288,1338> <1290,1340> <1289,1339>
 Face verts 3 flags 0 mat 0
-<1280,7> <1281,7> <1283,7>
+<1288,1338> <1291,1341> <1290,1340>
 Face verts 3 flags 0 mat 0
-<1282,7> <1283,7> <1284,7>
+<1292,1342> <1294,1344> <1293,1343>
 Face verts 3 flags 0 mat 0
-<1284,7> <1283,7> <1285,7>
+<1292,1342> <1295,1345> <1294,1344>
 Face verts 3 flags 0 mat 0
-<1284,7> <1287,7> <1286,7>
+<1296,1346> <1298,1348> <1297,1347>
 Face verts 3 flags 0 mat 0
-<1284,7> <1285,7> <1287,7>
+<1296,1346> <1299,1349> <1298,1348>
 Face verts 3 flags 0 mat 0
-<1286,7> <1287,7> <1256,7>
+<1300,1350> <1302,1352> <1301,1351>
 Face verts 3 flags 0 mat 0
-<1256,7> <1287,7> <1257,7>
+<1300,1350> <1303,1353> <1302,1352>
 Face verts 3 flags 0 mat 0
-<1288,8> <1290,8> <1289,8>
+<1304,1354> <1306,1356> <1305,1355>
 Face verts 3 flags 0 mat 0
-<1288,8> <1291,8> <1290,8>
+<1304,1354> <1307,1357> <1306,1356>
 Face verts 3 flags 0 mat 0
-<1292,8> <1294,8> <1293,8>
+<1308,1358> <1310,1360> <1309,1359>
 Face verts 3 flags 0 mat 0
-<1292,8> <1295,8> <1294,8>
+<1308,1358> <1311,1361> <1310,1360>
 Face verts 3 flags 0 mat 0
-<1296,8> <1298,8> <1297,8>
+<1312,1362> <1314,1364> <1313,1363>
 Face verts 3 flags 0 mat 0
-<1296,8> <1299,8> <1298,8>
+<1312,1362> <1315,1365> <1314,1364>
 Face verts 3 flags 0 mat 0
-<1300,8> <1302,8> <1301,8>
+<1316,1366> <1318,1368> <1317,1367>
 Face verts 3 flags 0 mat 0
-<1300,8> <1303,8> <1302,8>
+<1316,1366> <1319,1369> <1318,1368>
 Face verts 3 flags 0 mat 0
-<1304,8> <1306,8> <1305,8>
+<1320,1370> <1322,1372> <1321,1371>
 Face verts 3 flags 0 mat 0
-<1304,8> <1307,8> <1306,8>
+<1320,1370> <1323,1373> <1322,1372>
 Face verts 3 flags 0 mat 0
-<1308,8> <1310,8> <1309,8>
+<1324,1374> <1326,1376> <1325,1375>
 Face verts 3 flags 0 mat 0
-<1308,8> <1311,8> <1310,8>
+<1324,1374> <1327,1377> <1326,1376>
 Face verts 3 flags 0 mat 0
-<1312,8> <1314,8> <1313,8>
+<1328,1378> <1330,1380> <1329,1379>
 Face verts 3 flags 0 mat 0
-<1312,8> <1315,8> <1314,8>
+<1328,1378> <1331,1381> <1330,1380>
 Face verts 3 flags 0 mat 0
-<1316,8> <1318,8> <1317,8>
+<1332,1382> <1334,1384> <1333,1383>
 Face verts 3 flags 0 mat 0
-<1316,8> <1319,8> <1318,8>
+<1332,1382> <1335,1385> <1334,1384>
 Face verts 3 flags 0 mat 0
-<1320,8> <1322,8> <1321,8>
+<1336,1386> <1338,1388> <1337,1387>
 Face verts 3 flags 0 mat 0
-<1320,8> <1323,8> <1322,8>
+<1336,1386> <1339,1389> <1338,1388>
 Face verts 3 flags 0 mat 0
-<1324,8> <1326,8> <1325,8>
+<1340,1390> <1342,1392> <1341,1391>
 Face verts 3 flags 0 mat 0
-<1324,8> <1327,8> <1326,8>
+<1340,1390> <1343,1393> <1342,1392>
 Face verts 3 flags 0 mat 0
-<1328,8> <1330,8> <1329,8>
+<1344,1394> <1346,1396> <1345,1395>
 Face verts 3 flags 0 mat 0
-<1328,8> <1331,8> <1330,8>
+<1344,1394> <1347,1397> <1346,1396>
 Face verts 3 flags 0 mat 0
-<1332,8> <1334,8> <1333,8>
+<1348,1398> <1350,1400> <1349,1399>
 Face verts 3 flags 0 mat 0
-<1332,8> <1335,8> <1334,8>
+<1348,1398> <1351,1401> <1350,1400>
 Face verts 3 flags 0 mat 0
-<1336,8> <1338,8> <1337,8>
+<1352,1402> <1354,1404> <1353,1403>
 Face verts 3 flags 0 mat 0
-<1336,8> <1339,8> <1338,8>
+<1352,1402> <1355,1405> <1354,1404>
 Face verts 3 flags 0 mat 0
-<1340,8> <1342,8> <1341,8>
+<1356,1406> <1358,1408> <1357,1407>
 Face verts 3 flags 0 mat 0
-<1340,8> <1343,8> <1342,8>
+<1356,1406> <1359,1409> <1358,1408>
 Face verts 3 flags 0 mat 0
-<1344,8> <1346,8> <1345,8>
+<1360,1410> <1362,1412> <1361,1411>
 Face verts 3 flags 0 mat 0
-<1344,8> <1347,8> <1346,8>
+<1360,1410> <1363,1413> <1362,1412>
 Face verts 3 flags 0 mat 0
-<1348,8> <1350,8> <1349,8>
+<1364,1414> <1366,1416> <1365,1415>
 Face verts 3 flags 0 mat 0
-<1348,8> <1351,8> <1350,8>
+<1364,1414> <1367,1417> <1366,1416>
 Face verts 3 flags 0 mat 0
-<1352,8> <1354,8> <1353,8>
+<1368,1418> <1370,1420> <1369,1419>
 Face verts 3 flags 0 mat 0
-<1352,8> <1355,8> <1354,8>
+<1368,1418> <1371,1421> <1370,1420>
 Face verts 3 flags 0 mat 0
-<1356,8> <1358,8> <1357,8>
+<1372,1422> <1374,1424> <1373,1423>
 Face verts 3 flags 0 mat 0
-<1356,8> <1359,8> <1358,8>
+<1372,1422> <1375,1425> <1374,1424>
 Face verts 3 flags 0 mat 0
-<1360,8> <1362,8> <1361,8>
+<1376,1426> <1378,1428> <1377,1427>
 Face verts 3 flags 0 mat 0
-<1360,8> <1363,8> <1362,8>
+<1376,1426> <1379,1429> <1378,1428>
 Face verts 3 flags 0 mat 0
-<1364,8> <1366,8> <1365,8>
+<1380,1430> <1382,1432> <1381,1431>
 Face verts 3 flags 0 mat 0
-<1364,8> <1367,8> <1366,8>
+<1380,1430> <1383,1433> <1382,1432>
 Face verts 3 flags 0 mat 0
-<1368,8> <1370,8> <1369,8>
+<1384,1434> <1386,1436> <1385,1435>
 Face verts 3 flags 0 mat 0
-<1368,8> <1371,8> <1370,8>
+<1384,1434> <1387,1437> <1386,1436>
 Face verts 3 flags 0 mat 0
-<1372,8> <1374,8> <1373,8>
+<1388,1438> <1390,1440> <1389,1439>
 Face verts 3 flags 0 mat 0
-<1372,8> <1375,8> <1374,8>
+<1388,1438> <1391,1441> <1390,1440>
 Face verts 3 flags 0 mat 0
-<1376,8> <1378,8> <1377,8>
+<1392,1442> <1394,1444> <1393,1443>
 Face verts 3 flags 0 mat 0
-<1376,8> <1379,8> <1378,8>
+<1392,1442> <1395,1445> <1394,1444>
 Face verts 3 flags 0 mat 0
-<1380,8> <1382,8> <1381,8>
+<1396,1446> <1398,1448> <1397,1447>
 Face verts 3 flags 0 mat 0
-<1380,8> <1383,8> <1382,8>
+<1396,1446> <1399,1449> <1398,1448>
 Face verts 3 flags 0 mat 0
-<1384,8> <1386,8> <1385,8>
+<1400,1450> <1402,1452> <1401,1451>
 Face verts 3 flags 0 mat 0
-<1384,8> <1387,8> <1386,8>
+<1400,1450> <1403,1453> <1402,1452>
 Face verts 3 flags 0 mat 0
-<1388,8> <1390,8> <1389,8>
+<1404,1454> <1406,1456> <1405,1455>
 Face verts 3 flags 0 mat 0
-<1388,8> <1391,8> <1390,8>
+<1404,1454> <1407,1457> <1406,1456>
 Face verts 3 flags 0 mat 0
-<1392,8> <1394,8> <1393,8>
+<1408,1458> <1410,1460> <1409,1459>
 Face verts 3 flags 0 mat 0
-<1392,8> <1395,8> <1394,8>
+<1408,1458> <1411,1461> <1410,1460>
 Face verts 3 flags 0 mat 0
-<1396,8> <1398,8> <1397,8>
+<1412,1462> <1414,1464> <1413,1463>
 Face verts 3 flags 0 mat 0
-<1396,8> <1399,8> <1398,8>
+<1412,1462> <1415,1465> <1414,1464>
 Face verts 3 flags 0 mat 0
-<1400,8> <1402,8> <1401,8>
+<1416,1466> <1418,1468> <1417,1467>
 Face verts 3 flags 0 mat 0
-<1400,8> <1403,8> <1402,8>
+<1416,1466> <1419,1469> <1418,1468>
 Face verts 3 flags 0 mat 0
-<1404,8> <1406,8> <1405,8>
+<1420,1470> <1422,1472> <1421,1471>
 Face verts 3 flags 0 mat 0
-<1404,8> <1407,8> <1406,8>
+<1420,1470> <1423,1473> <1422,1472>
 Face verts 3 flags 0 mat 0
-<1408,8> <1410,8> <1409,8>
+<1424,1474> <1426,1476> <1425,1475>
 Face verts 3 flags 0 mat 0
-<1408,8> <1411,8> <1410,8>
+<1424,1474> <1427,1477> <1426,1476>
 Face verts 3 flags 0 mat 0
-<1412,8> <1414,8> <1413,8>
+<1428,1478> <1430,1480> <1429,1479>
 Face verts 3 flags 0 mat 0
-<1412,8> <1415,8> <1414,8>
+<1428,1478> <1431,1481> <1430,1480>
 Face verts 3 flags 0 mat 0
-<1416,8> <1418,8> <1417,8>
+<1432,1482> <1434,1484> <1433,1483>
 Face verts 3 flags 0 mat 0
-<1416,8> <1419,8> <1418,8>
+<1432,1482> <1435,1485> <1434,1484>
 Face verts 3 flags 0 mat 0
-<1420,8> <1422,8> <1421,8>
+<1436,1486> <1438,1488> <1437,1487>
 Face verts 3 flags 0 mat 0
-<1420,8> <1423,8> <1422,8>
+<1436,1486> <1439,1489> <1438,1488>
 Face verts 3 flags 0 mat 0
-<1424,8> <1426,8> <1425,8>
+<1440,1490> <1442,1492> <1441,1491>
 Face verts 3 flags 0 mat 0
-<1424,8> <1427,8> <1426,8>
+<1440,1490> <1443,1493> <1442,1492>
 Face verts 3 flags 0 mat 0
-<1428,8> <1430,8> <1429,8>
+<1444,1494> <1446,1496> <1445,1495>
 Face verts 3 flags 0 mat 0
-<1428,8> <1431,8> <1430,8>
+<1444,1494> <1447,1497> <1446,1496>
 Face verts 3 flags 0 mat 0
-<1432,8> <1434,8> <1433,8>
+<1448,1498> <1450,1500> <1449,1499>
 Face verts 3 flags 0 mat 0
-<1432,8> <1435,8> <1434,8>
+<1448,1498> <1451,1501> <1450,1500>
 Face verts 3 flags 0 mat 0
-<1436,8> <1438,8> <1437,8>
+<1452,1502> <1454,1504> <1453,1503>
 Face verts 3 flags 0 mat 0
-<1436,8> <1439,8> <1438,8>
+<1452,1502> <1455,1505> <1454,1504>
 Face verts 3 flags 0 mat 0
-<1440,8> <1442,8> <1441,8>
+<1456,1506> <1458,1508> <1457,1507>
 Face verts 3 flags 0 mat 0
-<1440,8> <1443,8> <1442,8>
+<1456,1506> <1459,1509> <1458,1508>
 Face verts 3 flags 0 mat 0
-<1444,8> <1446,8> <1445,8>
+<1460,1510> <1462,1512> <1461,1511>
 Face verts 3 flags 0 mat 0
-<1444,8> <1447,8> <1446,8>
+<1460,1510> <1463,1513> <1462,1512>
 Face verts 3 flags 0 mat 0
-<1448,8> <1450,8> <1449,8>
+<1464,1514> <1466,1516> <1465,1515>
 Face verts 3 flags 0 mat 0
-<1448,8> <1451,8> <1450,8>
+<1464,1514> <1467,1517> <1466,1516>
 Face verts 3 flags 0 mat 0
-<1452,8> <1454,8> <1453,8>
+<1468,1518> <1470,1520> <1469,1519>
 Face verts 3 flags 0 mat 0
-<1452,8> <1455,8> <1454,8>
+<1468,1518> <1471,1521> <1470,1520>
 Face verts 3 flags 0 mat 0
-<1456,8> <1458,8> <1457,8>
+<1472,1522> <1474,1524> <1473,1523>
 Face verts 3 flags 0 mat 0
-<1456,8> <1459,8> <1458,8>
+<1472,1522> <1475,1525> <1474,1524>
 Face verts 3 flags 0 mat 0
-<1460,8> <1462,8> <1461,8>
+<1476,1526> <1478,1528> <1477,1527>
 Face verts 3 flags 0 mat 0
-<1460,8> <1463,8> <1462,8>
+<1476,1526> <1479,1529> <1478,1528>
 Face verts 3 flags 0 mat 0
-<1464,8> <1466,8> <1465,8>
+<1480,1530> <1482,1532> <1481,1531>
 Face verts 3 flags 0 mat 0
-<1464,8> <1467,8> <1466,8>
+<1480,1530> <1483,1533> <1482,1532>
 Face verts 3 flags 0 mat 0
-<1468,8> <1470,8> <1469,8>
+<1484,1534> <1486,1536> <1485,1535>
 Face verts 3 flags 0 mat 0
-<1468,8> <1471,8> <1470,8>
+<1484,1534> <1487,1537> <1486,1536>
 Face verts 3 flags 0 mat 0
-<1472,8> <1474,8> <1473,8>
+<1488,1538> <1490,1540> <1489,1539>
 Face verts 3 flags 0 mat 0
-<1472,8> <1475,8> <1474,8>
+<1488,1538> <1491,1541> <1490,1540>
 Face verts 3 flags 0 mat 0
-<1476,8> <1478,8> <1477,8>
+<1492,1542> <1494,1544> <1493,1543>
 Face verts 3 flags 0 mat 0
-<1476,8> <1479,8> <1478,8>
+<1492,1542> <1495,1545> <1494,1544>
 Face verts 3 flags 0 mat 0
-<1480,8> <1482,8> <1481,8>
+<1496,1546> <1498,1548> <1497,1547>
 Face verts 3 flags 0 mat 0
-<1480,8> <1483,8> <1482,8>
+<1496,1546> <1499,1549> <1498,1548>
 Face verts 3 flags 0 mat 0
-<1484,8> <1486,8> <1485,8>
+<1500,1550> <1502,1552> <1501,1551>
 Face verts 3 flags 0 mat 0
-<1484,8> <1487,8> <1486,8>
+<1500,1550> <1503,1553> <1502,1552>
 Face verts 3 flags 0 mat 0
-<1488,8> <1490,8> <1489,8>
+<1504,1554> <1506,1556> <1505,1555>
 Face verts 3 flags 0 mat 0
-<1488,8> <1491,8> <1490,8>
+<1504,1554> <1507,1557> <1506,1556>
 Face verts 3 flags 0 mat 0
-<1492,8> <1494,8> <1493,8>
+<1508,1558> <1510,1560> <1509,1559>
 Face verts 3 flags 0 mat 0
-<1492,8> <1495,8> <1494,8>
+<1508,1558> <1511,1561> <1510,1560>
 Face verts 3 flags 0 mat 0
-<1496,8> <1498,8> <1497,8>
+<1512,1562> <1514,1564> <1513,1563>
 Face verts 3 flags 0 mat 0
-<1496,8> <1499,8> <1498,8>
+<1512,1562> <1515,1565> <1514,1564>
 Face verts 3 flags 0 mat 0
-<1500,8> <1502,8> <1501,8>
+<1516,1566> <1518,1568> <1517,1567>
 Face verts 3 flags 0 mat 0
-<1500,8> <1503,8> <1502,8>
+<1516,1566> <1519,1569> <1518,1568>
 Face verts 3 flags 0 mat 0
-<1504,8> <1506,8> <1505,8>
+<1520,1570> <1522,1572> <1521,1571>
 Face verts 3 flags 0 mat 0
-<1504,8> <1507,8> <1506,8>
+<1520,1570> <1523,1573> <1522,1572>
 Face verts 3 flags 0 mat 0
-<1508,8> <1510,8> <1509,8>
+<1524,1574> <1526,1576> <1525,1575>
 Face verts 3 flags 0 mat 0
-<1508,8> <1511,8> <1510,8>
+<1524,1574> <1527,1577> <1526,1576>
 Face verts 3 flags 0 mat 0
-<1512,8> <1514,8> <1513,8>
+<1528,1578> <1530,1580> <1529,1579>
 Face verts 3 flags 0 mat 0
-<1512,8> <1515,8> <1514,8>
+<1528,1578> <1531,1581> <1530,1580>
 Face verts 3 flags 0 mat 0
-<1516,8> <1518,8> <1517,8>
+<1532,1582> <1534,1584> <1533,1583>
 Face verts 3 flags 0 mat 0
-<1516,8> <1519,8> <1518,8>
+<1532,1582> <1535,1585> <1534,1584>
 Face verts 3 flags 0 mat 0
-<1520,8> <1522,8> <1521,8>
+<1536,1586> <1538,1588> <1537,1587>
 Face verts 3 flags 0 mat 0
-<1520,8> <1523,8> <1522,8>
+<1536,1586> <1539,1589> <1538,1588>
 Face verts 3 flags 0 mat 0
-<1524,8> <1526,8> <1525,8>
+<1540,1590> <1542,1592> <1541,1591>
 Face verts 3 flags 0 mat 0
-<1524,8> <1527,8> <1526,8>
+<1540,1590> <1543,1593> <1542,1592>
 Face verts 3 flags 0 mat 0
-<1528,8> <1530,8> <1529,8>
+<1544,1594> <1546,1596> <1545,1595>
 Face verts 3 flags 0 mat 0
-<1528,8> <1531,8> <1530,8>
+<1544,1594> <1547,1597> <1546,1596>
 Face verts 3 flags 0 mat 0
-<1532,8> <1534,8> <1533,8>
+<1548,1598> <1550,1600> <1549,1599>
 Face verts 3 flags 0 mat 0
-<1532,8> <1535,8> <1534,8>
+<1548,1598> <1551,1601> <1550,1600>
 Face verts 3 flags 0 mat 0
-<1536,8> <1538,8> <1537,8>
+<1552,1602> <1554,1604> <1553,1603>
 Face verts 3 flags 0 mat 0
-<1536,8> <1539,8> <1538,8>
+<1552,1602> <1555,1605> <1554,1604>
 Face verts 3 flags 0 mat 0
-<1540,8> <1542,8> <1541,8>
+<1556,1606> <1558,1608> <1557,1607>
 Face verts 3 flags 0 mat 0
-<1540,8> <1543,8> <1542,8>
+<1556,1606> <1559,1609> <1558,1608>
 Face verts 3 flags 0 mat 0
-<1544,8> <1546,8> <1545,8>
+<1560,1610> <1562,1612> <1561,1611>
 Face verts 3 flags 0 mat 0
-<1544,8> <1547,8> <1546,8>
+<1560,1610> <1563,1613> <1562,1612>
 Face verts 3 flags 0 mat 0
-<1548,8> <1550,8> <1549,8>
+<1564,1614> <1566,1616> <1565,1615>
 Face verts 3 flags 0 mat 0
-<1548,8> <1551,8> <1550,8>
+<1564,1614> <1567,1617> <1566,1616>
 Face verts 3 flags 0 mat 0
-<1552,8> <1554,8> <1553,8>
+<1568,1618> <1570,1620> <1569,1619>
 Face verts 3 flags 0 mat 0
-<1552,8> <1555,8> <1554,8>
+<1568,1618> <1571,1621> <1570,1620>
 Face verts 3 flags 0 mat 0
-<1556,8> <1558,8> <1557,8>
+<1572,1622> <1574,1624> <1573,1623>
 Face verts 3 flags 0 mat 0
-<1556,8> <1559,8> <1558,8>
+<1572,1622> <1575,1625> <1574,1624>
 Face verts 3 flags 0 mat 0
-<1560,8> <1562,8> <1561,8>
+<1576,1626> <1578,1628> <1577,1627>
 Face verts 3 flags 0 mat 0
-<1560,8> <1563,8> <1562,8>
+<1576,1626> <1579,1629> <1578,1628>
 Face verts 3 flags 0 mat 0
-<1564,8> <1566,8> <1565,8>
+<1580,1630> <1582,1632> <1581,1631>
 Face verts 3 flags 0 mat 0
-<1564,8> <1567,8> <1566,8>
+<1580,1630> <1583,1633> <1582,1632>
 Face verts 3 flags 0 mat 0
-<1568,8> <1570,8> <1569,8>
+<1584,1634> <1586,1636> <1585,1635>
 Face verts 3 flags 0 mat 0
-<1568,8> <1571,8> <1570,8>
+<1584,1634> <1587,1637> <1586,1636>
 Face verts 3 flags 0 mat 0
-<1572,8> <1574,8> <1573,8>
+<1588,1638> <1590,1640> <1589,1639>
 Face verts 3 flags 0 mat 0
-<1572,8> <1575,8> <1574,8>
+<1588,1638> <1591,1641> <1590,1640>
 Face verts 3 flags 0 mat 0
-<1576,8> <1578,8> <1577,8>
+<1592,1642> <1594,1644> <1593,1643>
 Face verts 3 flags 0 mat 0
-<1576,8> <1579,8> <1578,8>
+<1592,1642> <1595,1645> <1594,1644>
 Face verts 3 flags 0 mat 0
-<1580,8> <1582,8> <1581,8>
+<1596,1646> <1598,1648> <1597,1647>
 Face verts 3 flags 0 mat 0
-<1580,8> <1583,8> <1582,8>
+<1596,1646> <1599,1649> <1598,1648>
 Face verts 3 flags 0 mat 0
-<1584,8> <1586,8> <1585,8>
+<1600,1650> <1602,1652> <1601,1651>
 Face verts 3 flags 0 mat 0
-<1584,8> <1587,8> <1586,8>
+<1600,1650> <1603,1653> <1602,1652>
 Face verts 3 flags 0 mat 0
-<1588,8> <1590,8> <1589,8>
+<1604,1654> <1606,1656> <1605,1655>
 Face verts 3 flags 0 mat 0
-<1588,8> <1591,8> <1590,8>
+<1604,1654> <1607,1657> <1606,1656>
 Face verts 3 flags 0 mat 0
-<1592,8> <1594,8> <1593,8>
+<1608,1658> <1613,1660> <1612,1659>
 Face verts 3 flags 0 mat 0
-<1592,8> <1595,8> <1594,8>
+<1608,1658> <1609,1661> <1613,1660>
 Face verts 3 flags 0 mat 0
-<1596,8> <1598,8> <1597,8>
+<1609,1662> <1610,1664> <1613,1663>
 Face verts 3 flags 0 mat 0
-<1596,8> <1599,8> <1598,8>
+<1613,1663> <1610,1664> <1614,1665>
 Face verts 3 flags 0 mat 0
-<1600,8> <1602,8> <1601,8>
+<1610,1666> <1615,1668> <1614,1667>
 Face verts 3 flags 0 mat 0
-<1600,8> <1603,8> <1602,8>
+<1610,1666> <1611,1669> <1615,1668>
 Face verts 3 flags 0 mat 0
-<1604,8> <1606,8> <1605,8>
+<1611,1669> <1608,1670> <1615,1668>
 Face verts 3 flags 0 mat 0
-<1604,8> <1607,8> <1606,8>
+<1615,1668> <1608,1670> <1612,1671>
 Face verts 3 flags 0 mat 0
-<1608,8> <1613,8> <1612,8>
+<1612,1672> <1613,1674> <1616,1673>
 Face verts 3 flags 0 mat 0
-<1608,8> <1609,8> <1613,8>
+<1616,1673> <1613,1674> <1617,1675>
 Face verts 3 flags 0 mat 0
-<1609,8> <1610,8> <1613,8>
+<1613,1674> <1618,1676> <1617,1675>
 Face verts 3 flags 0 mat 0
-<1613,8> <1610,8> <1614,8>
+<1613,1674> <1614,1677> <1618,1676>
 Face verts 3 flags 0 mat 0
-<1610,8> <1615,8> <1614,8>
+<1614,1667> <1615,1668> <1618,1678>
 Face verts 3 flags 0 mat 0
-<1610,8> <1611,8> <1615,8>
+<1618,1678> <1615,1668> <1619,1679>
 Face verts 3 flags 0 mat 0
-<1611,8> <1608,8> <1615,8>
+<1615,1668> <1616,1680> <1619,1679>
 Face verts 3 flags 0 mat 0
-<1615,8> <1608,8> <1612,8>
+<1615,1668> <1612,1671> <1616,1680>
 Face verts 3 flags 0 mat 0
-<1612,8> <1613,8> <1616,8>
+<1616,1673> <1621,1682> <1620,1681>
 Face verts 3 flags 0 mat 0
-<1616,8> <1613,8> <1617,8>
+<1616,1673> <1617,1675> <1621,1682>
 Face verts 3 flags 0 mat 0
-<1613,8> <1618,8> <1617,8>
+<1617,1675> <1618,1676> <1621,1682>
 Face verts 3 flags 0 mat 0
-<1613,8> <1614,8> <1618,8>
+<1621,1682> <1618,1676> <1622,1683>
 Face verts 3 flags 0 mat 0
-<1614,8> <1615,8> <1618,8>
+<1618,1678> <1623,1685> <1622,1684>
 Face verts 3 flags 0 mat 0
-<1618,8> <1615,8> <1619,8>
+<1618,1678> <1619,1679> <1623,1685>
 Face verts 3 flags 0 mat 0
-<1615,8> <1616,8> <1619,8>
+<1619,1679> <1616,1680> <1623,1685>
 Face verts 3 flags 0 mat 0
-<1615,8> <1612,8> <1616,8>
+<1623,1685> <1616,1680> <1620,1686>
 Face verts 3 flags 0 mat 0
-<1616,8> <1621,8> <1620,8>
+<1620,1687> <1621,1689> <1624,1688>
 Face verts 3 flags 0 mat 0
-<1616,8> <1617,8> <1621,8>
+<1624,1688> <1621,1689> <1625,1690>
 Face verts 3 flags 0 mat 0
-<1617,8> <1618,8> <1621,8>
+<1621,1691> <1626,1693> <1625,1692>
 Face verts 3 flags 0 mat 0
-<1621,8> <1618,8> <1622,8>
+<1621,1691> <1622,1694> <1626,1693>
 Face verts 3 flags 0 mat 0
-<1618,8> <1623,8> <1622,8>
+<1622,1684> <1623,1685> <1626,1695>
 Face verts 3 flags 0 mat 0
-<1618,8> <1619,8> <1623,8>
+<1626,1695> <1623,1685> <1627,1696>
 Face verts 3 flags 0 mat 0
-<1619,8> <1616,8> <1623,8>
+<1623,1685> <1624,1697> <1627,1696>
 Face verts 3 flags 0 mat 0
-<1623,8> <1616,8> <1620,8>
+<1623,1685> <1620,1686> <1624,1697>
 Face verts 3 flags 0 mat 0
-<1620,8> <1621,8> <1624,8>
+<1624,1688> <1629,1699> <1628,1698>
 Face verts 3 flags 0 mat 0
-<1624,8> <1621,8> <1625,8>
+<1624,1688> <1625,1690> <1629,1699>
 Face verts 3 flags 0 mat 0
-<1621,8> <1626,8> <1625,8>
+<1625,1692> <1626,1693> <1629,1700>
 Face verts 3 flags 0 mat 0
-<1621,8> <1622,8> <1626,8>
+<1629,1700> <1626,1693> <1630,1701>
 Face verts 3 flags 0 mat 0
-<1622,8> <1623,8> <1626,8>
+<1626,1695> <1631,1703> <1630,1702>
 Face verts 3 flags 0 mat 0
-<1626,8> <1623,8> <1627,8>
+<1626,1695> <1627,1696> <1631,1703>
 Face verts 3 flags 0 mat 0
-<1623,8> <1624,8> <1627,8>
+<1627,1696> <1624,1697> <1631,1703>
 Face verts 3 flags 0 mat 0
-<1623,8> <1620,8> <1624,8>
+<1631,1703> <1624,1697> <1628,1704>
 Face verts 3 flags 0 mat 0
-<1624,8> <1629,8> <1628,8>
+<1628,1705> <1629,1707> <1632,1706>
 Face verts 3 flags 0 mat 0
-<1624,8> <1625,8> <1629,8>
+<1632,1706> <1629,1707> <1633,1708>
 Face verts 3 flags 0 mat 0
-<1625,8> <1626,8> <1629,8>
+<1629,1707> <1634,1709> <1633,1708>
 Face verts 3 flags 0 mat 0
-<1629,8> <1626,8> <1630,8>
+<1629,1707> <1630,1710> <1634,1709>
 Face verts 3 flags 0 mat 0
-<1626,8> <1631,8> <1630,8>
+<1630,1702> <1631,1703> <1634,1711>
 Face verts 3 flags 0 mat 0
-<1626,8> <1627,8> <1631,8>
+<1634,1711> <1631,1703> <1635,1712>
 Face verts 3 flags 0 mat 0
-<1627,8> <1624,8> <1631,8>
+<1631,1703> <1632,1713> <1635,1712>
 Face verts 3 flags 0 mat 0
-<1631,8> <1624,8> <1628,8>
+<1631,1703> <1628,1704> <1632,1713>
 Face verts 3 flags 0 mat 0
-<1628,8> <1629,8> <1632,8>
+<1632,1706> <1637,1715> <1636,1714>
 Face verts 3 flags 0 mat 0
-<1632,8> <1629,8> <1633,8>
+<1632,1706> <1633,1708> <1637,1715>
 Face verts 3 flags 0 mat 0
-<1629,8> <1634,8> <1633,8>
+<1633,1708> <1634,1709> <1637,1715>
 Face verts 3 flags 0 mat 0
-<1629,8> <1630,8> <1634,8>
+<1637,1715> <1634,1709> <1638,1716>
 Face verts 3 flags 0 mat 0
-<1630,8> <1631,8> <1634,8>
+<1634,1711> <1639,1718> <1638,1717>
 Face verts 3 flags 0 mat 0
-<1634,8> <1631,8> <1635,8>
+<1634,1711> <1635,1712> <1639,1718>
 Face verts 3 flags 0 mat 0
-<1631,8> <1632,8> <1635,8>
+<1635,1712> <1632,1713> <1639,1718>
 Face verts 3 flags 0 mat 0
-<1631,8> <1628,8> <1632,8>
+<1639,1718> <1632,1713> <1636,1719>
 Face verts 3 flags 0 mat 0
-<1632,8> <1637,8> <1636,8>
+<1636,1720> <1637,1722> <1640,1721>
 Face verts 3 flags 0 mat 0
-<1632,8> <1633,8> <1637,8>
+<1640,1721> <1637,1722> <1641,1723>
 Face verts 3 flags 0 mat 0
-<1633,8> <1634,8> <1637,8>
+<1637,1724> <1642,1726> <1641,1725>
 Face verts 3 flags 0 mat 0
-<1637,8> <1634,8> <1638,8>
+<1637,1724> <1638,1727> <1642,1726>
 Face verts 3 flags 0 mat 0
-<1634,8> <1639,8> <1638,8>
+<1638,1717> <1639,1718> <1642,1728>
 Face verts 3 flags 0 mat 0
-<1634,8> <1635,8> <1639,8>
+<1642,1728> <1639,1718> <1643,1729>
 Face verts 3 flags 0 mat 0
-<1635,8> <1632,8> <1639,8>
+<1639,1718> <1640,1730> <1643,1729>
 Face verts 3 flags 0 mat 0
-<1639,8> <1632,8> <1636,8>
+<1639,1718> <1636,1719> <1640,1730>
 Face verts 3 flags 0 mat 0
-<1636,8> <1637,8> <1640,8>
+<1640,1721> <1645,1732> <1644,1731>
 Face verts 3 flags 0 mat 0
-<1640,8> <1637,8> <1641,8>
+<1640,1721> <1641,1723> <1645,1732>
 Face verts 3 flags 0 mat 0
-<1637,8> <1642,8> <1641,8>
+<1641,1725> <1642,1726> <1645,1733>
 Face verts 3 flags 0 mat 0
-<1637,8> <1638,8> <1642,8>
+<1645,1733> <1642,1726> <1646,1734>
 Face verts 3 flags 0 mat 0
-<1638,8> <1639,8> <1642,8>
+<1642,1728> <1647,1736> <1646,1735>
 Face verts 3 flags 0 mat 0
-<1642,8> <1639,8> <1643,8>
+<1642,1728> <1643,1729> <1647,1736>
 Face verts 3 flags 0 mat 0
-<1639,8> <1640,8> <1643,8>
+<1643,1729> <1640,1730> <1647,1736>
 Face verts 3 flags 0 mat 0
-<1639,8> <1636,8> <1640,8>
+<1647,1736> <1640,1730> <1644,1737>
 Face verts 3 flags 0 mat 0
-<1640,8> <1645,8> <1644,8>
+<1644,1738> <1645,1740> <1648,1739>
 Face verts 3 flags 0 mat 0
-<1640,8> <1641,8> <1645,8>
+<1648,1739> <1645,1740> <1649,1741>
 Face verts 3 flags 0 mat 0
-<1641,8> <1642,8> <1645,8>
+<1645,1740> <1650,1742> <1649,1741>
 Face verts 3 flags 0 mat 0
-<1645,8> <1642,8> <1646,8>
+<1645,1740> <1646,1743> <1650,1742>
 Face verts 3 flags 0 mat 0
-<1642,8> <1647,8> <1646,8>
+<1646,1735> <1647,1736> <1650,1744>
 Face verts 3 flags 0 mat 0
-<1642,8> <1643,8> <1647,8>
+<1650,1744> <1647,1736> <1651,1745>
 Face verts 3 flags 0 mat 0
-<1643,8> <1640,8> <1647,8>
+<1647,1736> <1648,1746> <1651,1745>
 Face verts 3 flags 0 mat 0
-<1647,8> <1640,8> <1644,8>
+<1647,1736> <1644,1737> <1648,1746>
 Face verts 3 flags 0 mat 0
-<1644,8> <1645,8> <1648,8>
+<1648,1739> <1653,1748> <1652,1747>
 Face verts 3 flags 0 mat 0
-<1648,8> <1645,8> <1649,8>
+<1648,1739> <1649,1741> <1653,1748>
 Face verts 3 flags 0 mat 0
-<1645,8> <1650,8> <1649,8>
+<1649,1741> <1650,1742> <1653,1748>
 Face verts 3 flags 0 mat 0
-<1645,8> <1646,8> <1650,8>
+<1653,1748> <1650,1742> <1654,1749>
 Face verts 3 flags 0 mat 0
-<1646,8> <1647,8> <1650,8>
+<1650,1744> <1655,1751> <1654,1750>
 Face verts 3 flags 0 mat 0
-<1650,8> <1647,8> <1651,8>
+<1650,1744> <1651,1745> <1655,1751>
 Face verts 3 flags 0 mat 0
-<1647,8> <1648,8> <1651,8>
+<1651,1745> <1648,1746> <1655,1751>
 Face verts 3 flags 0 mat 0
-<1647,8> <1644,8> <1648,8>
+<1655,1751> <1648,1746> <1652,1752>
 Face verts 3 flags 0 mat 0
-<1648,8> <1653,8> <1652,8>
+<1652,1753> <1653,1755> <1656,1754>
 Face verts 3 flags 0 mat 0
-<1648,8> <1649,8> <1653,8>
+<1656,1754> <1653,1755> <1657,1756>
 Face verts 3 flags 0 mat 0
-<1649,8> <1650,8> <1653,8>
+<1653,1757> <1658,1759> <1657,1758>
 Face verts 3 flags 0 mat 0
-<1653,8> <1650,8> <1654,8>
+<1653,1757> <1654,1760> <1658,1759>
 Face verts 3 flags 0 mat 0
-<1650,8> <1655,8> <1654,8>
+<1654,1750> <1655,1751> <1658,1761>
 Face verts 3 flags 0 mat 0
-<1650,8> <1651,8> <1655,8>
+<1658,1761> <1655,1751> <1659,1762>
 Face verts 3 flags 0 mat 0
-<1651,8> <1648,8> <1655,8>
+<1655,1751> <1656,1763> <1659,1762>
 Face verts 3 flags 0 mat 0
-<1655,8> <1648,8> <1652,8>
+<1655,1751> <1652,1752> <1656,1763>
 Face verts 3 flags 0 mat 0
-<1652,8> <1653,8> <1656,8>
+<1656,1754> <1661,1765> <1660,1764>
 Face verts 3 flags 0 mat 0
-<1656,8> <1653,8> <1657,8>
+<1656,1754> <1657,1756> <1661,1765>
 Face verts 3 flags 0 mat 0
-<1653,8> <1658,8> <1657,8>
+<1657,1758> <1658,1759> <1661,1766>
 Face verts 3 flags 0 mat 0
-<1653,8> <1654,8> <1658,8>
+<1661,1766> <1658,1759> <1662,1767>
 Face verts 3 flags 0 mat 0
-<1654,8> <1655,8> <1658,8>
+<1658,1761> <1663,1769> <1662,1768>
 Face verts 3 flags 0 mat 0
-<1658,8> <1655,8> <1659,8>
+<1658,1761> <1659,1762> <1663,1769>
 Face verts 3 flags 0 mat 0
-<1655,8> <1656,8> <1659,8>
+<1659,1762> <1656,1763> <1663,1769>
 Face verts 3 flags 0 mat 0
-<1655,8> <1652,8> <1656,8>
+<1663,1769> <1656,1763> <1660,1770>
 Face verts 3 flags 0 mat 0
-<1656,8> <1661,8> <1660,8>
+<1660,1771> <1661,1773> <1664,1772>
 Face verts 3 flags 0 mat 0
-<1656,8> <1657,8> <1661,8>
+<1664,1772> <1661,1773> <1665,1774>
 Face verts 3 flags 0 mat 0
-<1657,8> <1658,8> <1661,8>
+<1661,1773> <1666,1775> <1665,1774>
 Face verts 3 flags 0 mat 0
-<1661,8> <1658,8> <1662,8>
+<1661,1773> <1662,1776> <1666,1775>
 Face verts 3 flags 0 mat 0
-<1658,8> <1663,8> <1662,8>
+<1662,1768> <1663,1769> <1666,1777>
 Face verts 3 flags 0 mat 0
-<1658,8> <1659,8> <1663,8>
+<1666,1777> <1663,1769> <1667,1778>
 Face verts 3 flags 0 mat 0
-<1659,8> <1656,8> <1663,8>
+<1663,1769> <1664,1779> <1667,1778>
 Face verts 3 flags 0 mat 0
-<1663,8> <1656,8> <1660,8>
+<1663,1769> <1660,1770> <1664,1779>
 Face verts 3 flags 0 mat 0
-<1660,8> <1661,8> <1664,8>
+<1664,1772> <1669,1781> <1668,1780>
 Face verts 3 flags 0 mat 0
-<1664,8> <1661,8> <1665,8>
+<1664,1772> <1665,1774> <1669,1781>
 Face verts 3 flags 0 mat 0
-<1661,8> <1666,8> <1665,8>
+<1665,1774> <1666,1775> <1669,1781>
 Face verts 3 flags 0 mat 0
-<1661,8> <1662,8> <1666,8>
+<1669,1781> <1666,1775> <1670,1782>
 Face verts 3 flags 0 mat 0
-<1662,8> <1663,8> <1666,8>
+<1666,1777> <1671,1784> <1670,1783>
 Face verts 3 flags 0 mat 0
-<1666,8> <1663,8> <1667,8>
+<1666,1777> <1667,1778> <1671,1784>
 Face verts 3 flags 0 mat 0
-<1663,8> <1664,8> <1667,8>
+<1667,1778> <1664,1779> <1671,1784>
 Face verts 3 flags 0 mat 0
-<1663,8> <1660,8> <1664,8>
+<1671,1784> <1664,1779> <1668,1785>
 Face verts 3 flags 0 mat 0
-<1664,8> <1669,8> <1668,8>
+<1668,1786> <1669,1788> <1672,1787>
 Face verts 3 flags 0 mat 0
-<1664,8> <1665,8> <1669,8>
+<1672,1787> <1669,1788> <1673,1789>
 Face verts 3 flags 0 mat 0
-<1665,8> <1666,8> <1669,8>
+<1669,1790> <1674,1792> <1673,1791>
 Face verts 3 flags 0 mat 0
-<1669,8> <1666,8> <1670,8>
+<1669,1790> <1670,1793> <1674,1792>
 Face verts 3 flags 0 mat 0
-<1666,8> <1671,8> <1670,8>
+<1670,1783> <1671,1784> <1674,1794>
 Face verts 3 flags 0 mat 0
-<1666,8> <1667,8> <1671,8>
+<1674,1794> <1671,1784> <1675,1669>
 Face verts 3 flags 0 mat 0
-<1667,8> <1664,8> <1671,8>
+<1671,1784> <1672,1795> <1675,1669>
 Face verts 3 flags 0 mat 0
-<1671,8> <1664,8> <1668,8>
-Face verts 3 flags 0 mat 0
-<1668,8> <1669,8> <1672,8>
-Face verts 3 flags 0 mat 0
-<1672,8> <1669,8> <1673,8>
-Face verts 3 flags 0 mat 0
-<1669,8> <1674,8> <1673,8>
-Face verts 3 flags 0 mat 0
-<1669,8> <1670,8> <1674,8>
-Face verts 3 flags 0 mat 0
-<1670,8> <1671,8> <1674,8>
-Face verts 3 flags 0 mat 0
-<1674,8> <1671,8> <1675,8>
-Face verts 3 flags 0 mat 0
-<1671,8> <1672,8> <1675,8>
-Face verts 3 flags 0 mat 0
-<1671,8> <1668,8> <1672,8>
+<1671,1784> <1668,1785> <1672,1795>
 Face verts 3 flags 0 mat 2
-<1676,6> <1683,6> <1682,6>
+<1676,1796> <1683,1798> <1682,1797>
 Face verts 3 flags 0 mat 2
-<1676,6> <1677,6> <1683,6>
+<1676,1796> <1677,1799> <1683,1798>
 Face verts 3 flags 0 mat 2
-<1677,6> <1678,6> <1683,6>
+<1677,1800> <1678,1802> <1683,1801>
 Face verts 3 flags 0 mat 2
-<1683,6> <1678,6> <1684,6>
+<1683,1801> <1678,1802> <1684,1803>
 Face verts 3 flags 0 mat 2
-<1678,6> <1685,6> <1684,6>
+<1678,1804> <1685,1806> <1684,1805>
 Face verts 3 flags 0 mat 2
-<1678,6> <1679,6> <1685,6>
+<1678,1804> <1679,1807> <1685,1806>
 Face verts 3 flags 0 mat 2
-<1679,6> <1680,6> <1685,6>
+<1679,1807> <1680,1808> <1685,1806>
 Face verts 3 flags 0 mat 2
-<1685,6> <1680,6> <1686,6>
+<1685,1806> <1680,1808> <1686,1809>
 Face verts 3 flags 0 mat 2
-<1680,6> <1687,6> <1686,6>
+<1680,1810> <1687,1812> <1686,1811>
 Face verts 3 flags 0 mat 2
-<1680,6> <1681,6> <1687,6>
+<1680,1810> <1681,1813> <1687,1812>
 Face verts 3 flags 0 mat 2
-<1681,6> <1676,6> <1687,6>
+<1681,1814> <1676,1796> <1687,1815>
 Face verts 3 flags 0 mat 2
-<1687,6> <1676,6> <1682,6>
+<1687,1815> <1676,1796> <1682,1797>
 Face verts 3 flags 0 mat 2
-<1688,6> <1695,6> <1694,6>
+<1688,1816> <1695,1818> <1694,1817>
 Face verts 3 flags 0 mat 2
-<1688,6> <1689,6> <1695,6>
+<1688,1816> <1689,1819> <1695,1818>
 Face verts 3 flags 0 mat 2
-<1689,6> <1690,6> <1695,6>
+<1689,1820> <1690,1822> <1695,1821>
 Face verts 3 flags 0 mat 2
-<1695,6> <1690,6> <1696,6>
+<1695,1821> <1690,1822> <1696,1823>
 Face verts 3 flags 0 mat 2
-<1690,6> <1697,6> <1696,6>
+<1690,1824> <1697,1826> <1696,1825>
 Face verts 3 flags 0 mat 2
-<1690,6> <1691,6> <1697,6>
+<1690,1824> <1691,1827> <1697,1826>
 Face verts 3 flags 0 mat 2
-<1691,6> <1692,6> <1697,6>
+<1691,1827> <1692,1828> <1697,1826>
 Face verts 3 flags 0 mat 2
-<1697,6> <1692,6> <1698,6>
+<1697,1826> <1692,1828> <1698,1829>
 Face verts 3 flags 0 mat 2
-<1692,6> <1699,6> <1698,6>
+<1692,1830> <1699,1832> <1698,1831>
 Face verts 3 flags 0 mat 2
-<1692,6> <1693,6> <1699,6>
+<1692,1830> <1693,1833> <1699,1832>
 Face verts 3 flags 0 mat 2
-<1693,6> <1688,6> <1699,6>
+<1693,1834> <1688,1816> <1699,1835>
 Face verts 3 flags 0 mat 2
-<1699,6> <1688,6> <1694,6>
+<1699,1835> <1688,1816> <1694,1817>
 Face verts 3 flags 0 mat 2
-<1700,6> <1707,6> <1706,6>
+<1700,1836> <1707,1838> <1706,1837>
 Face verts 3 flags 0 mat 2
-<1700,6> <1701,6> <1707,6>
+<1700,1836> <1701,1839> <1707,1838>
 Face verts 3 flags 0 mat 2
-<1701,6> <1702,6> <1707,6>
+<1701,1840> <1702,1842> <1707,1841>
 Face verts 3 flags 0 mat 2
-<1707,6> <1702,6> <1708,6>
+<1707,1841> <1702,1842> <1708,1843>
 Face verts 3 flags 0 mat 2
-<1702,6> <1709,6> <1708,6>
+<1702,1844> <1709,1846> <1708,1845>
 Face verts 3 flags 0 mat 2
-<1702,6> <1703,6> <1709,6>
+<1702,1844> <1703,1847> <1709,1846>
 Face verts 3 flags 0 mat 2
-<1703,6> <1704,6> <1709,6>
+<1703,1847> <1704,1848> <1709,1846>
 Face verts 3 flags 0 mat 2
-<1709,6> <1704,6> <1710,6>
+<1709,1846> <1704,1848> <1710,1849>
 Face verts 3 flags 0 mat 2
-<1704,6> <1711,6> <1710,6>
+<1704,1850> <1711,1852> <1710,1851>
 Face verts 3 flags 0 mat 2
-<1704,6> <1705,6> <1711,6>
+<1704,1850> <1705,1853> <1711,1852>
 Face verts 3 flags 0 mat 2
-<1705,6> <1700,6> <1711,6>
+<1705,1854> <1700,1836> <1711,1855>
 Face verts 3 flags 0 mat 2
-<1711,6> <1700,6> <1706,6>
+<1711,1855> <1700,1836> <1706,1837>
 Face verts 3 flags 0 mat 2
-<1712,6> <1719,6> <1718,6>
+<1712,1856> <1719,1858> <1718,1857>
 Face verts 3 flags 0 mat 2
-<1712,6> <1713,6> <1719,6>
+<1712,1856> <1713,1859> <1719,1858>
 Face verts 3 flags 0 mat 2
-<1713,6> <1714,6> <1719,6>
+<1713,1860> <1714,1862> <1719,1861>
 Face verts 3 flags 0 mat 2
-<1719,6> <1714,6> <1720,6>
+<1719,1861> <1714,1862> <1720,1863>
 Face verts 3 flags 0 mat 2
-<1714,6> <1721,6> <1720,6>
+<1714,1864> <1721,1866> <1720,1865>
 Face verts 3 flags 0 mat 2
-<1714,6> <1715,6> <1721,6>
+<1714,1864> <1715,1867> <1721,1866>
 Face verts 3 flags 0 mat 2
-<1715,6> <1716,6> <1721,6>
+<1715,1867> <1716,1868> <1721,1866>
 Face verts 3 flags 0 mat 2
-<1721,6> <1716,6> <1722,6>
+<1721,1866> <1716,1868> <1722,1869>
 Face verts 3 flags 0 mat 2
-<1716,6> <1723,6> <1722,6>
+<1716,1870> <1723,1872> <1722,1871>
 Face verts 3 flags 0 mat 2
-<1716,6> <1717,6> <1723,6>
+<1716,1870> <1717,1873> <1723,1872>
 Face verts 3 flags 0 mat 2
-<1717,6> <1712,6> <1723,6>
+<1717,1874> <1712,1856> <1723,1875>
 Face verts 3 flags 0 mat 2
-<1723,6> <1712,6> <1718,6>
+<1723,1875> <1712,1856> <1718,1857>
 Face verts 3 flags 0 mat 2
-<1724,6> <1731,6> <1730,6>
+<1724,1876> <1731,1878> <1730,1877>
 Face verts 3 flags 0 mat 2
-<1724,6> <1725,6> <1731,6>
+<1724,1876> <1725,1879> <1731,1878>
 Face verts 3 flags 0 mat 2
-<1725,6> <1726,6> <1731,6>
+<1725,1880> <1726,1882> <1731,1881>
 Face verts 3 flags 0 mat 2
-<1731,6> <1726,6> <1732,6>
+<1731,1881> <1726,1882> <1732,1883>
 Face verts 3 flags 0 mat 2
-<1726,6> <1733,6> <1732,6>
+<1726,1884> <1733,1886> <1732,1885>
 Face verts 3 flags 0 mat 2
-<1726,6> <1727,6> <1733,6>
+<1726,1884> <1727,1887> <1733,1886>
 Face verts 3 flags 0 mat 2
-<1727,6> <1728,6> <1733,6>
+<1727,1887> <1728,1888> <1733,1886>
 Face verts 3 flags 0 mat 2
-<1733,6> <1728,6> <1734,6>
+<1733,1886> <1728,1888> <1734,1889>
 Face verts 3 flags 0 mat 2
-<1728,6> <1735,6> <1734,6>
+<1728,1890> <1735,1892> <1734,1891>
 Face verts 3 flags 0 mat 2
-<1728,6> <1729,6> <1735,6>
+<1728,1890> <1729,1893> <1735,1892>
 Face verts 3 flags 0 mat 2
-<1729,6> <1724,6> <1735,6>
+<1729,1894> <1724,1876> <1735,1895>
 Face verts 3 flags 0 mat 2
-<1735,6> <1724,6> <1730,6>
+<1735,1895> <1724,1876> <1730,1877>
 Face verts 3 flags 0 mat 2
-<1736,6> <1743,6> <1742,6>
+<1736,1896> <1743,1898> <1742,1897>
 Face verts 3 flags 0 mat 2
-<1736,6> <1737,6> <1743,6>
+<1736,1896> <1737,1899> <1743,1898>
 Face verts 3 flags 0 mat 2
-<1737,6> <1738,6> <1743,6>
+<1737,1900> <1738,1902> <1743,1901>
 Face verts 3 flags 0 mat 2
-<1743,6> <1738,6> <1744,6>
+<1743,1901> <1738,1902> <1744,1903>
 Face verts 3 flags 0 mat 2
-<1738,6> <1745,6> <1744,6>
+<1738,1904> <1745,1906> <1744,1905>
 Face verts 3 flags 0 mat 2
-<1738,6> <1739,6> <1745,6>
+<1738,1904> <1739,1907> <1745,1906>
 Face verts 3 flags 0 mat 2
-<1739,6> <1740,6> <1745,6>
+<1739,1907> <1740,1908> <1745,1906>
 Face verts 3 flags 0 mat 2
-<1745,6> <1740,6> <1746,6>
+<1745,1906> <1740,1908> <1746,1909>
 Face verts 3 flags 0 mat 2
-<1740,6> <1747,6> <1746,6>
+<1740,1910> <1747,1912> <1746,1911>
 Face verts 3 flags 0 mat 2
-<1740,6> <1741,6> <1747,6>
+<1740,1910> <1741,1913> <1747,1912>
 Face verts 3 flags 0 mat 2
-<1741,6> <1736,6> <1747,6>
+<1741,1914> <1736,1896> <1747,1915>
 Face verts 3 flags 0 mat 2
-<1747,6> <1736,6> <1742,6>
+<1747,1915> <1736,1896> <1742,1897>
 Face verts 3 flags 0 mat 2
-<1748,6> <1755,6> <1754,6>
+<1748,1916> <1755,1918> <1754,1917>
 Face verts 3 flags 0 mat 2
-<1748,6> <1749,6> <1755,6>
+<1748,1916> <1749,1919> <1755,1918>
 Face verts 3 flags 0 mat 2
-<1749,6> <1750,6> <1755,6>
+<1749,1920> <1750,1922> <1755,1921>
 Face verts 3 flags 0 mat 2
-<1755,6> <1750,6> <1756,6>
+<1755,1921> <1750,1922> <1756,1923>
 Face verts 3 flags 0 mat 2
-<1750,6> <1757,6> <1756,6>
+<1750,1924> <1757,1926> <1756,1925>
 Face verts 3 flags 0 mat 2
-<1750,6> <1751,6> <1757,6>
+<1750,1924> <1751,1927> <1757,1926>
 Face verts 3 flags 0 mat 2
-<1751,6> <1752,6> <1757,6>
+<1751,1927> <1752,1928> <1757,1926>
 Face verts 3 flags 0 mat 2
-<1757,6> <1752,6> <1758,6>
+<1757,1926> <1752,1928> <1758,1929>
 Face verts 3 flags 0 mat 2
-<1752,6> <1759,6> <1758,6>
+<1752,1930> <1759,1932> <1758,1931>
 Face verts 3 flags 0 mat 2
-<1752,6> <1753,6> <1759,6>
+<1752,1930> <1753,1933> <1759,1932>
 Face verts 3 flags 0 mat 2
-<1753,6> <1748,6> <1759,6>
+<1753,1934> <1748,1916> <1759,1935>
 Face verts 3 flags 0 mat 2
-<1759,6> <1748,6> <1754,6>
+<1759,1935> <1748,1916> <1754,1917>
 Face verts 3 flags 0 mat 2
-<1760,6> <1767,6> <1766,6>
+<1760,1936> <1767,1938> <1766,1937>
 Face verts 3 flags 0 mat 2
-<1760,6> <1761,6> <1767,6>
+<1760,1936> <1761,1939> <1767,1938>
 Face verts 3 flags 0 mat 2
-<1761,6> <1762,6> <1767,6>
+<1761,1940> <1762,1942> <1767,1941>
 Face verts 3 flags 0 mat 2
-<1767,6> <1762,6> <1768,6>
+<1767,1941> <1762,1942> <1768,1943>
 Face verts 3 flags 0 mat 2
-<1762,6> <1769,6> <1768,6>
+<1762,1944> <1769,1946> <1768,1945>
 Face verts 3 flags 0 mat 2
-<1762,6> <1763,6> <1769,6>
+<1762,1944> <1763,1947> <1769,1946>
 Face verts 3 flags 0 mat 2
-<1763,6> <1764,6> <1769,6>
+<1763,1947> <1764,1948> <1769,1946>
 Face verts 3 flags 0 mat 2
-<1769,6> <1764,6> <1770,6>
+<1769,1946> <1764,1948> <1770,1949>
 Face verts 3 flags 0 mat 2
-<1764,6> <1771,6> <1770,6>
+<1764,1950> <1771,1952> <1770,1951>
 Face verts 3 flags 0 mat 2
-<1764,6> <1765,6> <1771,6>
+<1764,1950> <1765,1953> <1771,1952>
 Face verts 3 flags 0 mat 2
-<1765,6> <1760,6> <1771,6>
+<1765,1954> <1760,1936> <1771,1955>
 Face verts 3 flags 0 mat 2
-<1771,6> <1760,6> <1766,6>
+<1771,1955> <1760,1936> <1766,1937>
 Face verts 3 flags 0 mat 3
-<1772,6> <1778,6> <1777,6>
+<1772,1168> <1778,1168> <1777,1168>
 Face verts 3 flags 0 mat 3
-<1772,6> <1773,6> <1778,6>
+<1772,1168> <1773,1168> <1778,1168>
 Face verts 3 flags 0 mat 3
-<1773,6> <1774,6> <1778,6>
+<1773,1168> <1774,1168> <1778,1168>
 Face verts 3 flags 0 mat 3
-<1778,6> <1774,6> <1779,6>
+<1778,1168> <1774,1168> <1779,1168>
 Face verts 3 flags 0 mat 3
-<1774,6> <1780,6> <1779,6>
+<1774,1168> <1780,1168> <1779,1168>
 Face verts 3 flags 0 mat 3
-<1774,6> <1775,6> <1780,6>
+<1774,1168> <1775,1168> <1780,1168>
 Face verts 3 flags 0 mat 3
-<1775,6> <1776,6> <1780,6>
+<1775,1168> <1776,1168> <1780,1168>
 Face verts 3 flags 0 mat 3
-<1780,6> <1776,6> <1781,6>
+<1780,1168> <1776,1168> <1781,1168>
 Face verts 3 flags 0 mat 3
-<1777,6> <1778,6> <1782,6>
+<1777,1168> <1778,1168> <1782,1168>
 Face verts 3 flags 0 mat 3
-<1782,6> <1778,6> <1783,6>
+<1782,1168> <1778,1168> <1783,1168>
 Face verts 3 flags 0 mat 3
-<1778,6> <1784,6> <1783,6>
+<1778,1168> <1784,1168> <1783,1168>
 Face verts 3 flags 0 mat 3
-<1778,6> <1779,6> <1784,6>
+<1778,1168> <1779,1168> <1784,1168>
 Face verts 3 flags 0 mat 3
-<1779,6> <1780,6> <1784,6>
+<1779,1168> <1780,1168> <1784,1168>
 Face verts 3 flags 0 mat 3
-<1784,6> <1780,6> <1785,6>
+<1784,1168> <1780,1168> <1785,1168>
 Face verts 3 flags 0 mat 3
-<1780,6> <1786,6> <1785,6>
+<1780,1168> <1786,1168> <1785,1168>
 Face verts 3 flags 0 mat 3
-<1780,6> <1781,6> <1786,6>
+<1780,1168> <1781,1168> <1786,1168>
 Face verts 3 flags 0 mat 3
-<1782,6> <1788,6> <1787,6>
+<1782,1168> <1788,1168> <1787,1168>
 Face verts 3 flags 0 mat 3
-<1782,6> <1783,6> <1788,6>
+<1782,1168> <1783,1168> <1788,1168>
 Face verts 3 flags 0 mat 3
-<1783,6> <1784,6> <1788,6>
+<1783,1168> <1784,1168> <1788,1168>
 Face verts 3 flags 0 mat 3
-<1788,6> <1784,6> <1789,6>
+<1788,1168> <1784,1168> <1789,1168>
 Face verts 3 flags 0 mat 3
-<1784,6> <1790,6> <1789,6>
+<1784,1168> <1790,1168> <1789,1168>
 Face verts 3 flags 0 mat 3
-<1784,6> <1785,6> <1790,6>
+<1784,1168> <1785,1168> <1790,1168>
 Face verts 3 flags 0 mat 3
-<1785,6> <1786,6> <1790,6>
+<1785,1168> <1786,1168> <1790,1168>
 Face verts 3 flags 0 mat 3
-<1790,6> <1786,6> <1791,6>
+<1790,1168> <1786,1168> <1791,1168>
 Face verts 3 flags 0 mat 3
-<1787,6> <1788,6> <1792,6>
+<1787,1168> <1788,1168> <1792,1168>
 Face verts 3 flags 0 mat 3
-<1792,6> <1788,6> <1793,6>
+<1792,1168> <1788,1168> <1793,1168>
 Face verts 3 flags 0 mat 3
-<1788,6> <1794,6> <1793,6>
+<1788,1168> <1794,1168> <1793,1168>
 Face verts 3 flags 0 mat 3
-<1788,6> <1789,6> <1794,6>
+<1788,1168> <1789,1168> <1794,1168>
 Face verts 3 flags 0 mat 3
-<1789,6> <1790,6> <1794,6>
+<1789,1168> <1790,1168> <1794,1168>
 Face verts 3 flags 0 mat 3
-<1794,6> <1790,6> <1795,6>
+<1794,1168> <1790,1168> <1795,1168>
 Face verts 3 flags 0 mat 3
-<1790,6> <1796,6> <1795,6>
+<1790,1168> <1796,1168> <1795,1168>
 Face verts 3 flags 0 mat 3
-<1790,6> <1791,6> <1796,6>
+<1790,1168> <1791,1168> <1796,1168>
 Face verts 3 flags 0 mat 3
-<1792,6> <1798,6> <1797,6>
+<1792,1168> <1798,1168> <1797,1168>
 Face verts 3 flags 0 mat 3
-<1792,6> <1793,6> <1798,6>
+<1792,1168> <1793,1168> <1798,1168>
 Face verts 3 flags 0 mat 3
-<1793,6> <1794,6> <1798,6>
+<1793,1168> <1794,1168> <1798,1168>
 Face verts 3 flags 0 mat 3
-<1798,6> <1794,6> <1799,6>
+<1798,1168> <1794,1168> <1799,1168>
 Face verts 3 flags 0 mat 3
-<1794,6> <1800,6> <1799,6>
+<1794,1168> <1800,1168> <1799,1168>
 Face verts 3 flags 0 mat 3
-<1794,6> <1795,6> <1800,6>
+<1794,1168> <1795,1168> <1800,1168>
 Face verts 3 flags 0 mat 3
-<1795,6> <1796,6> <1800,6>
+<1795,1168> <1796,1168> <1800,1168>
 Face verts 3 flags 0 mat 3
-<1800,6> <1796,6> <1801,6>
+<1800,1168> <1796,1168> <1801,1168>
 Face verts 3 flags 0 mat 3
-<1797,6> <1798,6> <1802,6>
+<1797,1168> <1798,1168> <1802,1168>
 Face verts 3 flags 0 mat 3
-<1802,6> <1798,6> <1803,6>
+<1802,1168> <1798,1168> <1803,1168>
 Face verts 3 flags 0 mat 3
-<1798,6> <1804,6> <1803,6>
+<1798,1168> <1804,1168> <1803,1168>
 Face verts 3 flags 0 mat 3
-<1798,6> <1799,6> <1804,6>
+<1798,1168> <1799,1168> <1804,1168>
 Face verts 3 flags 0 mat 3
-<1799,6> <1800,6> <1804,6>
+<1799,1168> <1800,1168> <1804,1168>
 Face verts 3 flags 0 mat 3
-<1804,6> <1800,6> <1805,6>
+<1804,1168> <1800,1168> <1805,1168>
 Face verts 3 flags 0 mat 3
-<1800,6> <1806,6> <1805,6>
+<1800,1168> <1806,1168> <1805,1168>
 Face verts 3 flags 0 mat 3
-<1800,6> <1801,6> <1806,6>
+<1800,1168> <1801,1168> <1806,1168>
 Face verts 3 flags 0 mat 3
-<1802,6> <1808,6> <1807,6>
+<1802,1168> <1808,1168> <1807,1168>
 Face verts 3 flags 0 mat 3
-<1802,6> <1803,6> <1808,6>
+<1802,1168> <1803,1168> <1808,1168>
 Face verts 3 flags 0 mat 3
-<1803,6> <1804,6> <1808,6>
+<1803,1168> <1804,1168> <1808,1168>
 Face verts 3 flags 0 mat 3
-<1808,6> <1804,6> <1809,6>
+<1808,1168> <1804,1168> <1809,1168>
 Face verts 3 flags 0 mat 3
-<1804,6> <1810,6> <1809,6>
+<1804,1168> <1810,1168> <1809,1168>
 Face verts 3 flags 0 mat 3
-<1804,6> <1805,6> <1810,6>
+<1804,1168> <1805,1168> <1810,1168>
 Face verts 3 flags 0 mat 3
-<1805,6> <1806,6> <1810,6>
+<1805,1168> <1806,1168> <1810,1168>
 Face verts 3 flags 0 mat 3
-<1810,6> <1806,6> <1811,6>
+<1810,1168> <1806,1168> <1811,1168>
 Face verts 3 flags 0 mat 3
-<1807,6> <1808,6> <1772,6>
+<1807,1168> <1808,1168> <1772,1168>
 Face verts 3 flags 0 mat 3
-<1772,6> <1808,6> <1773,6>
+<1772,1168> <1808,1168> <1773,1168>
 Face verts 3 flags 0 mat 3
-<1808,6> <1774,6> <1773,6>
+<1808,1168> <1774,1168> <1773,1168>
 Face verts 3 flags 0 mat 3
-<1808,6> <1809,6> <1774,6>
+<1808,1168> <1809,1168> <1774,1168>
 Face verts 3 flags 0 mat 3
-<1809,6> <1810,6> <1774,6>
+<1809,1168> <1810,1168> <1774,1168>
 Face verts 3 flags 0 mat 3
-<1774,6> <1810,6> <1775,6>
+<1774,1168> <1810,1168> <1775,1168>
 Face verts 3 flags 0 mat 3
-<1810,6> <1776,6> <1775,6>
+<1810,1168> <1776,1168> <1775,1168>
 Face verts 3 flags 0 mat 3
-<1810,6> <1811,6> <1776,6>
-Face verts 3 flags 0 mat 0
-<1812,1> <1815,1> <1814,1>
-Face verts 3 flags 0 mat 0
-<1812,1> <1813,1> <1815,1>
-Face verts 3 flags 0 mat 0
-<1814,1> <1815,1> <1816,1>
-Face verts 3 flags 0 mat 0
-<1816,1> <1815,1> <1817,1>
+<1810,1168> <1811,1168> <1776,1168>
 Face verts 3 flags 0 mat 0
-<1816,1> <1819,1> <1818,1>
+<1812,1956> <1815,1958> <1814,1957>
 Face verts 3 flags 0 mat 0
-<1816,1> <1817,1> <1819,1>
+<1812,1956> <1813,1959> <1815,1958>
 Face verts 3 flags 0 mat 0
-<1818,1> <1819,1> <1820,1>
+<1814,1957> <1815,1958> <1816,1960>
 Face verts 3 flags 0 mat 0
-<1820,1> <1819,1> <1821,1>
+<1816,1960> <1815,1958> <1817,1961>
 Face verts 3 flags 0 mat 0
-<1820,1> <1823,1> <1822,1>
+<1816,1962> <1819,1964> <1818,1963>
 Face verts 3 flags 0 mat 0
-<1820,1> <1821,1> <1823,1>
+<1816,1962> <1817,1965> <1819,1964>
 Face verts 3 flags 0 mat 0
-<1822,1> <1823,1> <1824,1>
+<1818,1963> <1819,1964> <1820,1966>
 Face verts 3 flags 0 mat 0
-<1824,1> <1823,1> <1825,1>
+<1820,1966> <1819,1964> <1821,1967>
 Face verts 3 flags 0 mat 0
-<1824,1> <1827,1> <1826,1>
+<1820,1966> <1823,1969> <1822,1968>
 Face verts 3 flags 0 mat 0
-<1824,1> <1825,1> <1827,1>
+<1820,1966> <1821,1967> <1823,1969>
 Face verts 3 flags 0 mat 0
-<1826,1> <1827,1> <1828,1>
+<1822,1968> <1823,1969> <1824,1970>
 Face verts 3 flags 0 mat 0
-<1828,1> <1827,1> <1829,1>
+<1824,1970> <1823,1969> <1825,1971>
 Face verts 3 flags 0 mat 0
-<1828,1> <1831,1> <1830,1>
+<1824,1972> <1827,1974> <1826,1973>
 Face verts 3 flags 0 mat 0
-<1828,1> <1829,1> <1831,1>
+<1824,1972> <1825,1975> <1827,1974>
 Face verts 3 flags 0 mat 0
-<1830,1> <1831,1> <1832,1>
+<1826,1973> <1827,1974> <1828,1976>
 Face verts 3 flags 0 mat 0
-<1832,1> <1831,1> <1833,1>
+<1828,1976> <1827,1974> <1829,1977>
 Face verts 3 flags 0 mat 0
-<1832,1> <1835,1> <1834,1>
+<1828,1976> <1831,1979> <1830,1978>
 Face verts 3 flags 0 mat 0
-<1832,1> <1833,1> <1835,1>
+<1828,1976> <1829,1977> <1831,1979>
 Face verts 3 flags 0 mat 0
-<1834,1> <1835,1> <1836,1>
+<1830,1978> <1831,1979> <1832,1980>
 Face verts 3 flags 0 mat 0
-<1836,1> <1835,1> <1837,1>
+<1832,1980> <1831,1979> <1833,1981>
 Face verts 3 flags 0 mat 0
-<1836,1> <1839,1> <1838,1>
+<1832,1982> <1835,1984> <1834,1983>
 Face verts 3 flags 0 mat 0
-<1836,1> <1837,1> <1839,1>
+<1832,1982> <1833,1985> <1835,1984>
 Face verts 3 flags 0 mat 0
-<1838,1> <1839,1> <1840,1>
+<1834,1983> <1835,1984> <1836,1986>
 Face verts 3 flags 0 mat 0
-<1840,1> <1839,1> <1841,1>
+<1836,1986> <1835,1984> <1837,1987>
 Face verts 3 flags 0 mat 0
-<1840,1> <1843,1> <1842,1>
+<1836,1986> <1839,1989> <1838,1988>
 Face verts 3 flags 0 mat 0
-<1840,1> <1841,1> <1843,1>
+<1836,1986> <1837,1987> <1839,1989>
 Face verts 3 flags 0 mat 0
-<1842,1> <1843,1> <1812,1>
+<1838,1988> <1839,1989> <1840,1990>
 Face verts 3 flags 0 mat 0
-<1812,1> <1843,1> <1813,1>
+<1840,1990> <1839,1989> <1841,1991>
 Face verts 3 flags 0 mat 0
-<1844,1> <1847,1> <1846,1>
+<1840,1992> <1843,1994> <1842,1993>
 Face verts 3 flags 0 mat 0
-<1844,1> <1845,1> <1847,1>
+<1840,1992> <1841,1995> <1843,1994>
 Face verts 3 flags 0 mat 0
-<1846,1> <1847,1> <1848,1>
+<1842,1993> <1843,1994> <1812,1956>
 Face verts 3 flags 0 mat 0
-<1848,1> <1847,1> <1849,1>
+<1812,1956> <1843,1994> <1813,1959>
 Face verts 3 flags 0 mat 0
-<1848,1> <1851,1> <1850,1>
+<1844,1996> <1847,1998> <1846,1997>
 Face verts 3 flags 0 mat 0
-<1848,1> <1849,1> <1851,1>
+<1844,1996> <1845,1999> <1847,1998>
 Face verts 3 flags 0 mat 0
-<1850,1> <1851,1> <1852,1>
+<1846,1997> <1847,1998> <1848,2000>
 Face verts 3 flags 0 mat 0
-<1852,1> <1851,1> <1853,1>
+<1848,2000> <1847,1998> <1849,2001>
 Face verts 3 flags 0 mat 0
-<1852,1> <1855,1> <1854,1>
+<1848,2002> <1851,2004> <1850,2003>
 Face verts 3 flags 0 mat 0
-<1852,1> <1853,1> <1855,1>
+<1848,2002> <1849,2005> <1851,2004>
 Face verts 3 flags 0 mat 0
-<1854,1> <1855,1> <1856,1>
+<1850,2003> <1851,2004> <1852,2006>
 Face verts 3 flags 0 mat 0
-<1856,1> <1855,1> <1857,1>
+<1852,2006> <1851,2004> <1853,2007>
 Face verts 3 flags 0 mat 0
-<1856,1> <1859,1> <1858,1>
+<1852,2006> <1855,2009> <1854,2008>
 Face verts 3 flags 0 mat 0
-<1856,1> <1857,1> <1859,1>
+<1852,2006> <1853,2007> <1855,2009>
 Face verts 3 flags 0 mat 0
-<1858,1> <1859,1> <1860,1>
+<1854,2008> <1855,2009> <1856,2010>
 Face verts 3 flags 0 mat 0
-<1860,1> <1859,1> <1861,1>
+<1856,2010> <1855,2009> <1857,2011>
 Face verts 3 flags 0 mat 0
-<1860,1> <1863,1> <1862,1>
+<1856,2012> <1859,2014> <1858,2013>
 Face verts 3 flags 0 mat 0
-<1860,1> <1861,1> <1863,1>
+<1856,2012> <1857,2015> <1859,2014>
 Face verts 3 flags 0 mat 0
-<1862,1> <1863,1> <1864,1>
+<1858,2013> <1859,2014> <1860,2016>
 Face verts 3 flags 0 mat 0
-<1864,1> <1863,1> <1865,1>
+<1860,2016> <1859,2014> <1861,2017>
 Face verts 3 flags 0 mat 0
-<1864,1> <1867,1> <1866,1>
+<1860,2016> <1863,2019> <1862,2018>
 Face verts 3 flags 0 mat 0
-<1864,1> <1865,1> <1867,1>
+<1860,2016> <1861,2017> <1863,2019>
 Face verts 3 flags 0 mat 0
-<1866,1> <1867,1> <1868,1>
+<1862,2018> <1863,2019> <1864,2020>
 Face verts 3 flags 0 mat 0
-<1868,1> <1867,1> <1869,1>
+<1864,2020> <1863,2019> <1865,2021>
 Face verts 3 flags 0 mat 0
-<1868,1> <1871,1> <1870,1>
+<1864,2022> <1867,2024> <1866,2023>
 Face verts 3 flags 0 mat 0
-<1868,1> <1869,1> <1871,1>
+<1864,2022> <1865,2025> <1867,2024>
 Face verts 3 flags 0 mat 0
-<1870,1> <1871,1> <1872,1>
+<1866,2023> <1867,2024> <1868,2026>
 Face verts 3 flags 0 mat 0
-<1872,1> <1871,1> <1873,1>
+<1868,2026> <1867,2024> <1869,2027>
 Face verts 3 flags 0 mat 0
-<1872,1> <1875,1> <1874,1>
+<1868,2026> <1871,2029> <1870,2028>
 Face verts 3 flags 0 mat 0
-<1872,1> <1873,1> <1875,1>
+<1868,2026> <1869,2027> <1871,2029>
 Face verts 3 flags 0 mat 0
-<1874,1> <1875,1> <1844,1>
+<1870,2028> <1871,2029> <1872,2030>
 Face verts 3 flags 0 mat 0
-<1844,1> <1875,1> <1845,1>
+<1872,2030> <1871,2029> <1873,2031>
 Face verts 3 flags 0 mat 0
-<1876,1> <1879,1> <1878,1>
+<1872,2032> <1875,2034> <1874,2033>
 Face verts 3 flags 0 mat 0
-<1876,1> <1877,1> <1879,1>
+<1872,2032> <1873,2035> <1875,2034>
 Face verts 3 flags 0 mat 0
-<1878,1> <1879,1> <1880,1>
+<1874,2033> <1875,2034> <1844,1996>
 Face verts 3 flags 0 mat 0
-<1880,1> <1879,1> <1881,1>
+<1844,1996> <1875,2034> <1845,1999>
 Face verts 3 flags 0 mat 0
-<1880,1> <1883,1> <1882,1>
+<1876,2036> <1879,2038> <1878,2037>
 Face verts 3 flags 0 mat 0
-<1880,1> <1881,1> <1883,1>
+<1876,2036> <1877,2039> <1879,2038>
 Face verts 3 flags 0 mat 0
-<1882,1> <1883,1> <1884,1>
+<1878,2037> <1879,2038> <1880,2040>
 Face verts 3 flags 0 mat 0
-<1884,1> <1883,1> <1885,1>
+<1880,2040> <1879,2038> <1881,2041>
 Face verts 3 flags 0 mat 0
-<1884,1> <1887,1> <1886,1>
+<1880,2040> <1883,2043> <1882,2042>
 Face verts 3 flags 0 mat 0
-<1884,1> <1885,1> <1887,1>
+<1880,2040> <1881,2041> <1883,2043>
 Face verts 3 flags 0 mat 0
-<1886,1> <1887,1> <1888,1>
+<1882,2042> <1883,2043> <1884,2044>
 Face verts 3 flags 0 mat 0
-<1888,1> <1887,1> <1889,1>
+<1884,2044> <1883,2043> <1885,2045>
 Face verts 3 flags 0 mat 0
-<1888,1> <1891,1> <1890,1>
+<1884,2044> <1887,2047> <1886,2046>
 Face verts 3 flags 0 mat 0
-<1888,1> <1889,1> <1891,1>
+<1884,2044> <1885,2045> <1887,2047>
 Face verts 3 flags 0 mat 0
-<1890,1> <1891,1> <1892,1>
+<1886,2046> <1887,2047> <1888,2048>
 Face verts 3 flags 0 mat 0
-<1892,1> <1891,1> <1893,1>
+<1888,2048> <1887,2047> <1889,2049>
 Face verts 3 flags 0 mat 0
-<1892,1> <1895,1> <1894,1>
+<1888,2048> <1891,2051> <1890,2050>
 Face verts 3 flags 0 mat 0
-<1892,1> <1893,1> <1895,1>
+<1888,2048> <1889,2049> <1891,2051>
 Face verts 3 flags 0 mat 0
-<1894,1> <1895,1> <1896,1>
+<1890,2050> <1891,2051> <1892,2052>
 Face verts 3 flags 0 mat 0
-<1896,1> <1895,1> <1897,1>
+<1892,2052> <1891,2051> <1893,2053>
 Face verts 3 flags 0 mat 0
-<1896,1> <1899,1> <1898,1>
+<1892,2052> <1895,2055> <1894,2054>
 Face verts 3 flags 0 mat 0
-<1896,1> <1897,1> <1899,1>
+<1892,2052> <1893,2053> <1895,2055>
 Face verts 3 flags 0 mat 0
-<1898,1> <1899,1> <1900,1>
+<1894,2054> <1895,2055> <1896,2056>
 Face verts 3 flags 0 mat 0
-<1900,1> <1899,1> <1901,1>
+<1896,2056> <1895,2055> <1897,2057>
 Face verts 3 flags 0 mat 0
-<1900,1> <1903,1> <1902,1>
+<1896,2056> <1899,2059> <1898,2058>
 Face verts 3 flags 0 mat 0
-<1900,1> <1901,1> <1903,1>
+<1896,2056> <1897,2057> <1899,2059>
 Face verts 3 flags 0 mat 0
-<1902,1> <1903,1> <1904,1>
+<1898,2058> <1899,2059> <1900,2060>
 Face verts 3 flags 0 mat 0
-<1904,1> <1903,1> <1905,1>
+<1900,2060> <1899,2059> <1901,2061>
 Face verts 3 flags 0 mat 0
-<1904,1> <1907,1> <1906,1>
+<1900,2060> <1903,2063> <1902,2062>
 Face verts 3 flags 0 mat 0
-<1904,1> <1905,1> <1907,1>
+<1900,2060> <1901,2061> <1903,2063>
 Face verts 3 flags 0 mat 0
-<1906,1> <1907,1> <1876,1>
+<1902,2062> <1903,2063> <1904,2064>
 Face verts 3 flags 0 mat 0
-<1876,1> <1907,1> <1877,1>
+<1904,2064> <1903,2063> <1905,2065>
 Face verts 3 flags 0 mat 0
-<1908,0> <1911,0> <1910,0>
+<1904,2064> <1907,2067> <1906,2066>
 Face verts 3 flags 0 mat 0
-<1908,0> <1909,0> <1911,0>
+<1904,2064> <1905,2065> <1907,2067>
 Face verts 3 flags 0 mat 0
-<1910,0> <1911,0> <1912,0>
+<1906,2066> <1907,2067> <1876,2036>
 Face verts 3 flags 0 mat 0
-<1912,0> <1911,0> <1913,0>
+<1876,2036> <1907,2067> <1877,2039>
 Face verts 3 flags 0 mat 0
-<1912,0> <1915,0> <1914,0>
+<1908,2068> <1909,2070> <1911,2069>
 Face verts 3 flags 0 mat 0
-<1912,0> <1913,0> <1915,0>
+<1910,2068> <1911,2069> <1912,2068>
 Face verts 3 flags 0 mat 0
-<1914,0> <1915,0> <1916,0>
+<1912,2068> <1911,2069> <1913,2071>
 Face verts 3 flags 0 mat 0
-<1916,0> <1915,0> <1917,0>
+<1912,2068> <1915,2072> <1914,2068>
 Face verts 3 flags 0 mat 0
-<1916,0> <1919,0> <1918,0>
+<1912,2068> <1913,2071> <1915,2072>
 Face verts 3 flags 0 mat 0
-<1916,0> <1917,0> <1919,0>
+<1916,2068> <1915,2072> <1917,2073>
 Face verts 3 flags 0 mat 0
-<1918,0> <1919,0> <1920,0>
+<1916,2068> <1917,2073> <1919,2074>
 Face verts 3 flags 0 mat 0
-<1920,0> <1919,0> <1921,0>
+<1918,2068> <1919,2074> <1920,2068>
 Face verts 3 flags 0 mat 0
-<1920,0> <1923,0> <1922,0>
+<1920,2068> <1919,2074> <1921,2075>
 Face verts 3 flags 0 mat 0
-<1920,0> <1921,0> <1923,0>
+<1920,2068> <1923,2076> <1922,2068>
 Face verts 3 flags 0 mat 0
-<1922,0> <1923,0> <1924,0>
+<1920,2068> <1921,2075> <1923,2076>
 Face verts 3 flags 0 mat 0
-<1924,0> <1923,0> <1925,0>
+<1924,2068> <1923,2076> <1925,2077>
 Face verts 3 flags 0 mat 0
-<1924,0> <1927,0> <1926,0>
+<1924,2068> <1925,2077> <1927,2078>
 Face verts 3 flags 0 mat 0
-<1924,0> <1925,0> <1927,0>
+<1926,2068> <1927,2078> <1928,2068>
 Face verts 3 flags 0 mat 0
-<1926,0> <1927,0> <1928,0>
+<1928,2068> <1927,2078> <1929,2079>
 Face verts 3 flags 0 mat 0
-<1928,0> <1927,0> <1929,0>
+<1928,2068> <1931,2080> <1930,2068>
 Face verts 3 flags 0 mat 0
-<1928,0> <1931,0> <1930,0>
+<1928,2068> <1929,2079> <1931,2080>
 Face verts 3 flags 0 mat 0
-<1928,0> <1929,0> <1931,0>
+<1932,2068> <1931,2080> <1933,2081>
 Face verts 3 flags 0 mat 0
-<1930,0> <1931,0> <1932,0>
+<1932,2068> <1933,2081> <1935,2082>
 Face verts 3 flags 0 mat 0
-<1932,0> <1931,0> <1933,0>
+<1934,2068> <1935,2082> <1936,2068>
 Face verts 3 flags 0 mat 0
-<1932,0> <1935,0> <1934,0>
+<1936,2068> <1935,2082> <1937,2083>
 Face verts 3 flags 0 mat 0
-<1932,0> <1933,0> <1935,0>
+<1936,2068> <1939,2084> <1938,2068>
 Face verts 3 flags 0 mat 0
-<1934,0> <1935,0> <1936,0>
+<1936,2068> <1937,2083> <1939,2084>
 Face verts 3 flags 0 mat 0
-<1936,0> <1935,0> <1937,0>
-Face verts 3 flags 0 mat 0
-<1936,0> <1939,0> <1938,0>
-Face verts 3 flags 0 mat 0
-<1936,0> <1937,0> <1939,0>
-Face verts 3 flags 0 mat 0
-<1938,0> <1939,0> <1908,0>
-Face verts 3 flags 0 mat 0
-<1908,0> <1939,0> <1909,0>
-Face verts 3 flags 0 mat 2
-<1940,9> <1949,9> <1948,9>
-Face verts 3 flags 0 mat 2
-<1940,9> <1941,9> <1949,9>
-Face verts 3 flags 0 mat 2
-<1941,9> <1942,9> <1949,9>
-Face verts 3 flags 0 mat 2
-<1949,9> <1942,9> <1950,9>
-Face verts 3 flags 0 mat 2
-<1942,9> <1951,9> <1950,9>
-Face verts 3 flags 0 mat 2
-<1942,9> <1943,9> <1951,9>
-Face verts 3 flags 0 mat 2
-<1943,9> <1944,9> <1951,9>
-Face verts 3 flags 0 mat 2
-<1951,9> <1944,9> <1952,9>
+<1908,2068> <1939,2084> <1909,2070>
 Face verts 3 flags 0 mat 2
-<1944,9> <1953,9> <1952,9>
+<1940,2085> <1949,2087> <1948,2086>
 Face verts 3 flags 0 mat 2
-<1944,9> <1945,9> <1953,9>
+<1940,2085> <1941,2088> <1949,2087>
 Face verts 3 flags 0 mat 2
-<1945,9> <1946,9> <1953,9>
+<1941,2088> <1942,2089> <1949,2087>
 Face verts 3 flags 0 mat 2
-<1953,9> <1946,9> <1954,9>
+<1949,2087> <1942,2089> <1950,2090>
 Face verts 3 flags 0 mat 2
-<1946,9> <1955,9> <1954,9>
+<1942,2091> <1951,2093> <1950,2092>
 Face verts 3 flags 0 mat 2
-<1946,9> <1947,9> <1955,9>
+<1942,2091> <1943,2094> <1951,2093>
 Face verts 3 flags 0 mat 2
-<1948,9> <1949,9> <1956,9>
+<1943,2094> <1944,2095> <1951,2093>
 Face verts 3 flags 0 mat 2
-<1956,9> <1949,9> <1957,9>
+<1951,2093> <1944,2095> <1952,2096>
 Face verts 3 flags 0 mat 2
-<1949,9> <1958,9> <1957,9>
+<1944,2097> <1953,2099> <1952,2098>
 Face verts 3 flags 0 mat 2
-<1949,9> <1950,9> <1958,9>
+<1944,2097> <1945,2100> <1953,2099>
 Face verts 3 flags 0 mat 2
-<1950,9> <1951,9> <1958,9>
+<1945,2100> <1946,2101> <1953,2099>
 Face verts 3 flags 0 mat 2
-<1958,9> <1951,9> <1959,9>
+<1953,2099> <1946,2101> <1954,2102>
 Face verts 3 flags 0 mat 2
-<1951,9> <1960,9> <1959,9>
+<1946,2101> <1955,2103> <1954,2102>
 Face verts 3 flags 0 mat 2
-<1951,9> <1952,9> <1960,9>
+<1948,2086> <1949,2087> <1956,2104>
 Face verts 3 flags 0 mat 2
-<1952,9> <1953,9> <1960,9>
+<1956,2104> <1949,2087> <1957,2105>
 Face verts 3 flags 0 mat 2
-<1960,9> <1953,9> <1961,9>
+<1949,2087> <1958,2106> <1957,2105>
 Face verts 3 flags 0 mat 2
-<1953,9> <1962,9> <1961,9>
+<1949,2087> <1950,2090> <1958,2106>
 Face verts 3 flags 0 mat 2
-<1953,9> <1954,9> <1962,9>
+<1950,2092> <1951,2093> <1958,2107>
 Face verts 3 flags 0 mat 2
-<1954,9> <1955,9> <1962,9>
+<1958,2107> <1951,2093> <1959,2108>
 Face verts 3 flags 0 mat 2
-<1962,9> <1955,9> <1963,9>
+<1951,2093> <1960,2109> <1959,2108>
 Face verts 3 flags 0 mat 2
-<1956,9> <1965,9> <1964,9>
+<1951,2093> <1952,2096> <1960,2109>
 Face verts 3 flags 0 mat 2
-<1956,9> <1957,9> <1965,9>
+<1952,2098> <1953,2099> <1960,2110>
 Face verts 3 flags 0 mat 2
-<1957,9> <1958,9> <1965,9>
+<1960,2110> <1953,2099> <1961,2111>
 Face verts 3 flags 0 mat 2
-<1965,9> <1958,9> <1966,9>
+<1953,2099> <1962,2112> <1961,2111>
 Face verts 3 flags 0 mat 2
-<1958,9> <1967,9> <1966,9>
+<1953,2099> <1954,2102> <1962,2112>
 Face verts 3 flags 0 mat 2
-<1958,9> <1959,9> <1967,9>
+<1954,2102> <1955,2103> <1962,2112>
 Face verts 3 flags 0 mat 2
-<1959,9> <1960,9> <1967,9>
+<1962,2112> <1955,2103> <1963,2103>
 Face verts 3 flags 0 mat 2
-<1967,9> <1960,9> <1968,9>
+<1956,2113> <1965,2115> <1964,2114>
 Face verts 3 flags 0 mat 2
-<1960,9> <1969,9> <1968,9>
+<1956,2113> <1957,2116> <1965,2115>
 Face verts 3 flags 0 mat 2
-<1960,9> <1961,9> <1969,9>
+<1957,2116> <1958,2117> <1965,2115>
 Face verts 3 flags 0 mat 2
-<1961,9> <1962,9> <1969,9>
+<1965,2115> <1958,2117> <1966,2118>
 Face verts 3 flags 0 mat 2
-<1969,9> <1962,9> <1970,9>
+<1958,2107> <1967,2120> <1966,2119>
 Face verts 3 flags 0 mat 2
-<1962,9> <1971,9> <1970,9>
+<1958,2107> <1959,2108> <1967,2120>
 Face verts 3 flags 0 mat 2
-<1962,9> <1963,9> <1971,9>
+<1959,2108> <1960,2109> <1967,2120>
 Face verts 3 flags 0 mat 2
-<1964,9> <1965,9> <1972,9>
+<1967,2120> <1960,2109> <1968,2121>
 Face verts 3 flags 0 mat 2
-<1972,9> <1965,9> <1973,9>
+<1960,2122> <1969,2124> <1968,2123>
 Face verts 3 flags 0 mat 2
-<1965,9> <1974,9> <1973,9>
+<1960,2122> <1961,2125> <1969,2124>
 Face verts 3 flags 0 mat 2
-<1965,9> <1966,9> <1974,9>
+<1961,2125> <1962,2126> <1969,2124>
 Face verts 3 flags 0 mat 2
-<1966,9> <1967,9> <1974,9>
+<1969,2124> <1962,2126> <1970,2127>
 Face verts 3 flags 0 mat 2
-<1974,9> <1967,9> <1975,9>
+<1962,2126> <1971,2128> <1970,2127>
 Face verts 3 flags 0 mat 2
-<1967,9> <1976,9> <1975,9>
+<1962,2126> <1963,2128> <1971,2128>
 Face verts 3 flags 0 mat 2
-<1967,9> <1968,9> <1976,9>
+<1964,2114> <1965,2115> <1972,2129>
 Face verts 3 flags 0 mat 2
-<1968,9> <1969,9> <1976,9>
+<1972,2129> <1965,2115> <1973,2130>
 Face verts 3 flags 0 mat 2
-<1976,9> <1969,9> <1977,9>
+<1965,2115> <1974,2131> <1973,2130>
 Face verts 3 flags 0 mat 2
-<1969,9> <1978,9> <1977,9>
+<1965,2115> <1966,2118> <1974,2131>
 Face verts 3 flags 0 mat 2
-<1969,9> <1970,9> <1978,9>
+<1966,2119> <1967,2120> <1974,2132>
 Face verts 3 flags 0 mat 2
-<1970,9> <1971,9> <1978,9>
+<1974,2132> <1967,2120> <1975,2133>
 Face verts 3 flags 0 mat 2
-<1978,9> <1971,9> <1979,9>
+<1967,2120> <1976,2134> <1975,2133>
 Face verts 3 flags 0 mat 2
-<1972,9> <1981,9> <1980,9>
+<1967,2120> <1968,2121> <1976,2134>
 Face verts 3 flags 0 mat 2
-<1972,9> <1973,9> <1981,9>
+<1968,2123> <1969,2124> <1976,2135>
 Face verts 3 flags 0 mat 2
-<1973,9> <1974,9> <1981,9>
+<1976,2135> <1969,2124> <1977,2136>
 Face verts 3 flags 0 mat 2
-<1981,9> <1974,9> <1982,9>
+<1969,2124> <1978,2137> <1977,2136>
 Face verts 3 flags 0 mat 2
-<1974,9> <1983,9> <1982,9>
+<1969,2124> <1970,2127> <1978,2137>
 Face verts 3 flags 0 mat 2
-<1974,9> <1975,9> <1983,9>
+<1970,2127> <1971,2128> <1978,2137>
 Face verts 3 flags 0 mat 2
-<1975,9> <1976,9> <1983,9>
+<1972,2129> <1981,2139> <1980,2138>
 Face verts 3 flags 0 mat 2
-<1983,9> <1976,9> <1984,9>
+<1972,2129> <1973,2130> <1981,2139>
 Face verts 3 flags 0 mat 2
-<1976,9> <1985,9> <1984,9>
+<1973,2130> <1974,2131> <1981,2139>
 Face verts 3 flags 0 mat 2
-<1976,9> <1977,9> <1985,9>
+<1981,2139> <1974,2131> <1982,2140>
 Face verts 3 flags 0 mat 2
-<1977,9> <1978,9> <1985,9>
+<1974,2132> <1983,2142> <1982,2141>
 Face verts 3 flags 0 mat 2
-<1985,9> <1978,9> <1986,9>
+<1974,2132> <1975,2133> <1983,2142>
 Face verts 3 flags 0 mat 2
-<1978,9> <1987,9> <1986,9>
+<1975,2133> <1976,2134> <1983,2142>
 Face verts 3 flags 0 mat 2
-<1978,9> <1979,9> <1987,9>
+<1983,2142> <1976,2134> <1984,2143>
 Face verts 3 flags 0 mat 2
-<1980,9> <1981,9> <1988,9>
+<1976,2135> <1985,2145> <1984,2144>
 Face verts 3 flags 0 mat 2
-<1988,9> <1981,9> <1989,9>
+<1976,2135> <1977,2136> <1985,2145>
 Face verts 3 flags 0 mat 2
-<1981,9> <1990,9> <1989,9>
+<1977,2136> <1978,2137> <1985,2145>
 Face verts 3 flags 0 mat 2
-<1981,9> <1982,9> <1990,9>
+<1985,2145> <1978,2137> <1986,2146>
 Face verts 3 flags 0 mat 2
-<1982,9> <1983,9> <1990,9>
+<1978,2137> <1987,2128> <1986,2146>
 Face verts 3 flags 0 mat 2
-<1990,9> <1983,9> <1991,9>
+<1980,2138> <1981,2139> <1988,2147>
 Face verts 3 flags 0 mat 2
-<1983,9> <1992,9> <1991,9>
+<1988,2147> <1981,2139> <1989,2148>
 Face verts 3 flags 0 mat 2
-<1983,9> <1984,9> <1992,9>
+<1981,2139> <1990,2149> <1989,2148>
 Face verts 3 flags 0 mat 2
-<1984,9> <1985,9> <1992,9>
+<1981,2139> <1982,2140> <1990,2149>
 Face verts 3 flags 0 mat 2
-<1992,9> <1985,9> <1993,9>
+<1982,2141> <1983,2142> <1990,2150>
 Face verts 3 flags 0 mat 2
-<1985,9> <1994,9> <1993,9>
+<1990,2150> <1983,2142> <1991,2151>
 Face verts 3 flags 0 mat 2
-<1985,9> <1986,9> <1994,9>
+<1983,2142> <1992,2152> <1991,2151>
 Face verts 3 flags 0 mat 2
-<1986,9> <1987,9> <1994,9>
+<1983,2142> <1984,2143> <1992,2152>
 Face verts 3 flags 0 mat 2
-<1994,9> <1987,9> <1995,9>
+<1984,2144> <1985,2145> <1992,2153>
 Face verts 3 flags 0 mat 2
-<1988,9> <1997,9> <1996,9>
+<1992,2153> <1985,2145> <1993,2154>
 Face verts 3 flags 0 mat 2
-<1988,9> <1989,9> <1997,9>
+<1985,2145> <1994,2155> <1993,2154>
 Face verts 3 flags 0 mat 2
-<1989,9> <1990,9> <1997,9>
+<1985,2145> <1986,2146> <1994,2155>
 Face verts 3 flags 0 mat 2
-<1997,9> <1990,9> <1998,9>
+<1986,2146> <1987,2128> <1994,2155>
 Face verts 3 flags 0 mat 2
-<1990,9> <1999,9> <1998,9>
+<1994,2155> <1987,2128> <1995,2128>
 Face verts 3 flags 0 mat 2
-<1990,9> <1991,9> <1999,9>
+<1988,2156> <1997,2158> <1996,2157>
 Face verts 3 flags 0 mat 2
-<1991,9> <1992,9> <1999,9>
+<1988,2156> <1989,2159> <1997,2158>
 Face verts 3 flags 0 mat 2
-<1999,9> <1992,9> <2000,9>
+<1989,2159> <1990,2160> <1997,2158>
 Face verts 3 flags 0 mat 2
-<1992,9> <2001,9> <2000,9>
+<1997,2158> <1990,2160> <1998,2161>
 Face verts 3 flags 0 mat 2
-<1992,9> <1993,9> <2001,9>
+<1990,2150> <1999,2163> <1998,2162>
 Face verts 3 flags 0 mat 2
-<1993,9> <1994,9> <2001,9>
+<1990,2150> <1991,2151> <1999,2163>
 Face verts 3 flags 0 mat 2
-<2001,9> <1994,9> <2002,9>
+<1991,2151> <1992,2152> <1999,2163>
 Face verts 3 flags 0 mat 2
-<1994,9> <2003,9> <2002,9>
+<1999,2163> <1992,2152> <2000,2164>
 Face verts 3 flags 0 mat 2
-<1994,9> <1995,9> <2003,9>
+<1992,2165> <2001,2167> <2000,2166>
 Face verts 3 flags 0 mat 2
-<1996,9> <1997,9> <2004,9>
+<1992,2165> <1993,2168> <2001,2167>
 Face verts 3 flags 0 mat 2
-<2004,9> <1997,9> <2005,9>
+<1993,2168> <1994,2169> <2001,2167>
 Face verts 3 flags 0 mat 2
-<1997,9> <2006,9> <2005,9>
+<2001,2167> <1994,2169> <2002,2170>
 Face verts 3 flags 0 mat 2
-<1997,9> <1998,9> <2006,9>
+<1994,2169> <2003,2171> <2002,2170>
 Face verts 3 flags 0 mat 2
-<1998,9> <1999,9> <2006,9>
+<1994,2169> <1995,2171> <2003,2171>
 Face verts 3 flags 0 mat 2
-<2006,9> <1999,9> <2007,9>
+<1996,2157> <1997,2158> <2004,2172>
 Face verts 3 flags 0 mat 2
-<1999,9> <2008,9> <2007,9>
+<2004,2172> <1997,2158> <2005,2173>
 Face verts 3 flags 0 mat 2
-<1999,9> <2000,9> <2008,9>
+<1997,2158> <2006,2174> <2005,2173>
 Face verts 3 flags 0 mat 2
-<2000,9> <2001,9> <2008,9>
+<1997,2158> <1998,2161> <2006,2174>
 Face verts 3 flags 0 mat 2
-<2008,9> <2001,9> <2009,9>
+<1998,2162> <1999,2163> <2006,2175>
 Face verts 3 flags 0 mat 2
-<2001,9> <2010,9> <2009,9>
+<2006,2175> <1999,2163> <2007,2176>
 Face verts 3 flags 0 mat 2
-<2001,9> <2002,9> <2010,9>
+<1999,2163> <2008,2177> <2007,2176>
 Face verts 3 flags 0 mat 2
-<2002,9> <2003,9> <2010,9>
+<1999,2163> <2000,2164> <2008,2177>
 Face verts 3 flags 0 mat 2
-<2010,9> <2003,9> <2011,9>
+<2000,2166> <2001,2167> <2008,2178>
 Face verts 3 flags 0 mat 2
-<2004,9> <2013,9> <2012,9>
+<2008,2178> <2001,2167> <2009,2179>
 Face verts 3 flags 0 mat 2
-<2004,9> <2005,9> <2013,9>
+<2001,2167> <2010,2180> <2009,2179>
 Face verts 3 flags 0 mat 2
-<2005,9> <2006,9> <2013,9>
+<2001,2167> <2002,2170> <2010,2180>
 Face verts 3 flags 0 mat 2
-<2013,9> <2006,9> <2014,9>
+<2002,2170> <2003,2171> <2010,2180>
 Face verts 3 flags 0 mat 2
-<2006,9> <2015,9> <2014,9>
+<2004,2172> <2013,2182> <2012,2181>
 Face verts 3 flags 0 mat 2
-<2006,9> <2007,9> <2015,9>
+<2004,2172> <2005,2173> <2013,2182>
 Face verts 3 flags 0 mat 2
-<2007,9> <2008,9> <2015,9>
+<2005,2173> <2006,2174> <2013,2182>
 Face verts 3 flags 0 mat 2
-<2015,9> <2008,9> <2016,9>
+<2013,2182> <2006,2174> <2014,2183>
 Face verts 3 flags 0 mat 2
-<2008,9> <2017,9> <2016,9>
+<2006,2175> <2015,2185> <2014,2184>
 Face verts 3 flags 0 mat 2
-<2008,9> <2009,9> <2017,9>
+<2006,2175> <2007,2176> <2015,2185>
 Face verts 3 flags 0 mat 2
-<2009,9> <2010,9> <2017,9>
+<2007,2176> <2008,2177> <2015,2185>
 Face verts 3 flags 0 mat 2
-<2017,9> <2010,9> <2018,9>
+<2015,2185> <2008,2177> <2016,2186>
 Face verts 3 flags 0 mat 2
-<2010,9> <2019,9> <2018,9>
+<2008,2178> <2017,2188> <2016,2187>
 Face verts 3 flags 0 mat 2
-<2010,9> <2011,9> <2019,9>
+<2008,2178> <2009,2179> <2017,2188>
 Face verts 3 flags 0 mat 2
-<2012,9> <2013,9> <2020,9>
+<2009,2179> <2010,2180> <2017,2188>
 Face verts 3 flags 0 mat 2
-<2020,9> <2013,9> <2021,9>
+<2017,2188> <2010,2180> <2018,2189>
 Face verts 3 flags 0 mat 2
-<2013,9> <2022,9> <2021,9>
+<2010,2180> <2019,2171> <2018,2189>
 Face verts 3 flags 0 mat 2
-<2013,9> <2014,9> <2022,9>
+<2012,2181> <2013,2182> <2020,2190>
 Face verts 3 flags 0 mat 2
-<2014,9> <2015,9> <2022,9>
+<2020,2190> <2013,2182> <2021,2191>
 Face verts 3 flags 0 mat 2
-<2022,9> <2015,9> <2023,9>
+<2013,2182> <2022,2192> <2021,2191>
 Face verts 3 flags 0 mat 2
-<2015,9> <2024,9> <2023,9>
+<2013,2182> <2014,2183> <2022,2192>
 Face verts 3 flags 0 mat 2
-<2015,9> <2016,9> <2024,9>
+<2014,2184> <2015,2185> <2022,2193>
 Face verts 3 flags 0 mat 2
-<2016,9> <2017,9> <2024,9>
+<2022,2193> <2015,2185> <2023,2194>
 Face verts 3 flags 0 mat 2
-<2024,9> <2017,9> <2025,9>
+<2015,2185> <2024,2195> <2023,2194>
 Face verts 3 flags 0 mat 2
-<2017,9> <2026,9> <2025,9>
+<2015,2185> <2016,2186> <2024,2195>
 Face verts 3 flags 0 mat 2
-<2017,9> <2018,9> <2026,9>
+<2016,2187> <2017,2188> <2024,2196>
 Face verts 3 flags 0 mat 2
-<2018,9> <2019,9> <2026,9>
+<2024,2196> <2017,2188> <2025,2197>
 Face verts 3 flags 0 mat 2
-<2026,9> <2019,9> <2027,9>
+<2017,2188> <2026,2198> <2025,2197>
 Face verts 3 flags 0 mat 2
-<2020,9> <2029,9> <2028,9>
+<2017,2188> <2018,2189> <2026,2198>
 Face verts 3 flags 0 mat 2
-<2020,9> <2021,9> <2029,9>
+<2018,2189> <2019,2171> <2026,2198>
 Face verts 3 flags 0 mat 2
-<2021,9> <2022,9> <2029,9>
+<2026,2198> <2019,2171> <2027,2171>
 Face verts 3 flags 0 mat 2
-<2029,9> <2022,9> <2030,9>
+<2020,2199> <2029,2201> <2028,2200>
 Face verts 3 flags 0 mat 2
-<2022,9> <2031,9> <2030,9>
+<2020,2199> <2021,2202> <2029,2201>
 Face verts 3 flags 0 mat 2
-<2022,9> <2023,9> <2031,9>
+<2021,2202> <2022,2203> <2029,2201>
 Face verts 3 flags 0 mat 2
-<2023,9> <2024,9> <2031,9>
+<2029,2201> <2022,2203> <2030,2204>
 Face verts 3 flags 0 mat 2
-<2031,9> <2024,9> <2032,9>
+<2022,2193> <2031,2206> <2030,2205>
 Face verts 3 flags 0 mat 2
-<2024,9> <2033,9> <2032,9>
+<2022,2193> <2023,2194> <2031,2206>
 Face verts 3 flags 0 mat 2
-<2024,9> <2025,9> <2033,9>
+<2023,2194> <2024,2195> <2031,2206>
 Face verts 3 flags 0 mat 2
-<2025,9> <2026,9> <2033,9>
+<2031,2206> <2024,2195> <2032,2207>
 Face verts 3 flags 0 mat 2
-<2033,9> <2026,9> <2034,9>
+<2024,2208> <2033,2210> <2032,2209>
 Face verts 3 flags 0 mat 2
-<2026,9> <2035,9> <2034,9>
+<2024,2208> <2025,2211> <2033,2210>
 Face verts 3 flags 0 mat 2
-<2026,9> <2027,9> <2035,9>
+<2025,2211> <2026,2212> <2033,2210>
 Face verts 3 flags 0 mat 2
-<2028,9> <2029,9> <2036,9>
+<2033,2210> <2026,2212> <2034,2213>
 Face verts 3 flags 0 mat 2
-<2036,9> <2029,9> <2037,9>
+<2026,2212> <2035,2214> <2034,2213>
 Face verts 3 flags 0 mat 2
-<2029,9> <2038,9> <2037,9>
+<2026,2212> <2027,2214> <2035,2214>
 Face verts 3 flags 0 mat 2
-<2029,9> <2030,9> <2038,9>
+<2028,2200> <2029,2201> <2036,2215>
 Face verts 3 flags 0 mat 2
-<2030,9> <2031,9> <2038,9>
+<2036,2215> <2029,2201> <2037,2216>
 Face verts 3 flags 0 mat 2
-<2038,9> <2031,9> <2039,9>
+<2029,2201> <2038,2217> <2037,2216>
 Face verts 3 flags 0 mat 2
-<2031,9> <2040,9> <2039,9>
+<2029,2201> <2030,2204> <2038,2217>
 Face verts 3 flags 0 mat 2
-<2031,9> <2032,9> <2040,9>
+<2030,2205> <2031,2206> <2038,2218>
 Face verts 3 flags 0 mat 2
-<2032,9> <2033,9> <2040,9>
+<2038,2218> <2031,2206> <2039,2219>
 Face verts 3 flags 0 mat 2
-<2040,9> <2033,9> <2041,9>
+<2031,2206> <2040,2220> <2039,2219>
 Face verts 3 flags 0 mat 2
-<2033,9> <2042,9> <2041,9>
+<2031,2206> <2032,2207> <2040,2220>
 Face verts 3 flags 0 mat 2
-<2033,9> <2034,9> <2042,9>
+<2032,2209> <2033,2210> <2040,2221>
 Face verts 3 flags 0 mat 2
-<2034,9> <2035,9> <2042,9>
+<2040,2221> <2033,2210> <2041,2222>
 Face verts 3 flags 0 mat 2
-<2042,9> <2035,9> <2043,9>
+<2033,2210> <2042,2223> <2041,2222>
 Face verts 3 flags 0 mat 2
-<2036,9> <2045,9> <2044,9>
+<2033,2210> <2034,2213> <2042,2223>
 Face verts 3 flags 0 mat 2
-<2036,9> <2037,9> <2045,9>
+<2034,2213> <2035,2214> <2042,2223>
 Face verts 3 flags 0 mat 2
-<2037,9> <2038,9> <2045,9>
+<2036,2215> <2045,2225> <2044,2224>
 Face verts 3 flags 0 mat 2
-<2045,9> <2038,9> <2046,9>
+<2036,2215> <2037,2216> <2045,2225>
 Face verts 3 flags 0 mat 2
-<2038,9> <2047,9> <2046,9>
+<2037,2216> <2038,2217> <2045,2225>
 Face verts 3 flags 0 mat 2
-<2038,9> <2039,9> <2047,9>
+<2045,2225> <2038,2217> <2046,2226>
 Face verts 3 flags 0 mat 2
-<2039,9> <2040,9> <2047,9>
+<2038,2218> <2047,2228> <2046,2227>
 Face verts 3 flags 0 mat 2
-<2047,9> <2040,9> <2048,9>
+<2038,2218> <2039,2219> <2047,2228>
 Face verts 3 flags 0 mat 2
-<2040,9> <2049,9> <2048,9>
+<2039,2219> <2040,2220> <2047,2228>
 Face verts 3 flags 0 mat 2
-<2040,9> <2041,9> <2049,9>
+<2047,2228> <2040,2220> <2048,2229>
 Face verts 3 flags 0 mat 2
-<2041,9> <2042,9> <2049,9>
+<2040,2221> <2049,2231> <2048,2230>
 Face verts 3 flags 0 mat 2
-<2049,9> <2042,9> <2050,9>
+<2040,2221> <2041,2222> <2049,2231>
 Face verts 3 flags 0 mat 2
-<2042,9> <2051,9> <2050,9>
+<2041,2222> <2042,2223> <2049,2231>
 Face verts 3 flags 0 mat 2
-<2042,9> <2043,9> <2051,9>
+<2049,2231> <2042,2223> <2050,2232>
 Face verts 3 flags 0 mat 2
-<2044,9> <2045,9> <2052,9>
+<2042,2223> <2051,2214> <2050,2232>
 Face verts 3 flags 0 mat 2
-<2052,9> <2045,9> <2053,9>
+<2044,2224> <2045,2225> <2052,2233>
 Face verts 3 flags 0 mat 2
-<2045,9> <2054,9> <2053,9>
+<2052,2233> <2045,2225> <2053,2234>
 Face verts 3 flags 0 mat 2
-<2045,9> <2046,9> <2054,9>
+<2045,2225> <2054,2235> <2053,2234>
 Face verts 3 flags 0 mat 2
-<2046,9> <2047,9> <2054,9>
+<2045,2225> <2046,2226> <2054,2235>
 Face verts 3 flags 0 mat 2
-<2054,9> <2047,9> <2055,9>
+<2046,2227> <2047,2228> <2054,2236>
 Face verts 3 flags 0 mat 2
-<2047,9> <2056,9> <2055,9>
+<2054,2236> <2047,2228> <2055,2237>
 Face verts 3 flags 0 mat 2
-<2047,9> <2048,9> <2056,9>
+<2047,2228> <2056,2238> <2055,2237>
 Face verts 3 flags 0 mat 2
-<2048,9> <2049,9> <2056,9>
+<2047,2228> <2048,2229> <2056,2238>
 Face verts 3 flags 0 mat 2
-<2056,9> <2049,9> <2057,9>
+<2048,2230> <2049,2231> <2056,2239>
 Face verts 3 flags 0 mat 2
-<2049,9> <2058,9> <2057,9>
+<2056,2239> <2049,2231> <2057,2240>
 Face verts 3 flags 0 mat 2
-<2049,9> <2050,9> <2058,9>
+<2049,2231> <2058,2241> <2057,2240>
 Face verts 3 flags 0 mat 2
-<2050,9> <2051,9> <2058,9>
+<2049,2231> <2050,2232> <2058,2241>
 Face verts 3 flags 0 mat 2
-<2058,9> <2051,9> <2059,9>
+<2050,2232> <2051,2214> <2058,2241>
 Face verts 3 flags 0 mat 2
-<2052,9> <2061,9> <2060,9>
+<2058,2241> <2051,2214> <2059,2214>
 Face verts 3 flags 0 mat 2
-<2052,9> <2053,9> <2061,9>
+<2052,2242> <2061,2244> <2060,2243>
 Face verts 3 flags 0 mat 2
-<2053,9> <2054,9> <2061,9>
+<2052,2242> <2053,2245> <2061,2244>
 Face verts 3 flags 0 mat 2
-<2061,9> <2054,9> <2062,9>
+<2053,2245> <2054,2246> <2061,2244>
 Face verts 3 flags 0 mat 2
-<2054,9> <2063,9> <2062,9>
+<2061,2244> <2054,2246> <2062,2247>
 Face verts 3 flags 0 mat 2
-<2054,9> <2055,9> <2063,9>
+<2054,2236> <2063,2249> <2062,2248>
 Face verts 3 flags 0 mat 2
-<2055,9> <2056,9> <2063,9>
+<2054,2236> <2055,2237> <2063,2249>
 Face verts 3 flags 0 mat 2
-<2063,9> <2056,9> <2064,9>
+<2055,2237> <2056,2238> <2063,2249>
 Face verts 3 flags 0 mat 2
-<2056,9> <2065,9> <2064,9>
+<2063,2249> <2056,2238> <2064,2250>
 Face verts 3 flags 0 mat 2
-<2056,9> <2057,9> <2065,9>
+<2056,2251> <2065,2253> <2064,2252>
 Face verts 3 flags 0 mat 2
-<2057,9> <2058,9> <2065,9>
+<2056,2251> <2057,2254> <2065,2253>
 Face verts 3 flags 0 mat 2
-<2065,9> <2058,9> <2066,9>
+<2057,2254> <2058,2255> <2065,2253>
 Face verts 3 flags 0 mat 2
-<2058,9> <2067,9> <2066,9>
+<2065,2253> <2058,2255> <2066,2256>
 Face verts 3 flags 0 mat 2
-<2058,9> <2059,9> <2067,9>
+<2058,2255> <2067,2103> <2066,2256>
 Face verts 3 flags 0 mat 2
-<2060,9> <2061,9> <1940,9>
+<2058,2255> <2059,2103> <2067,2103>
 Face verts 3 flags 0 mat 2
-<1940,9> <2061,9> <1941,9>
+<2060,2243> <2061,2244> <1940,2085>
 Face verts 3 flags 0 mat 2
-<2061,9> <1942,9> <1941,9>
+<1940,2085> <2061,2244> <1941,2088>
 Face verts 3 flags 0 mat 2
-<2061,9> <2062,9> <1942,9>
+<2061,2244> <1942,2089> <1941,2088>
 Face verts 3 flags 0 mat 2
-<2062,9> <2063,9> <1942,9>
+<2061,2244> <2062,2247> <1942,2089>
 Face verts 3 flags 0 mat 2
-<1942,9> <2063,9> <1943,9>
+<2062,2248> <2063,2249> <1942,2091>
 Face verts 3 flags 0 mat 2
-<2063,9> <1944,9> <1943,9>
+<1942,2091> <2063,2249> <1943,2094>
 Face verts 3 flags 0 mat 2
-<2063,9> <2064,9> <1944,9>
+<2063,2249> <1944,2095> <1943,2094>
 Face verts 3 flags 0 mat 2
-<2064,9> <2065,9> <1944,9>
+<2063,2249> <2064,2250> <1944,2095>
 Face verts 3 flags 0 mat 2
-<1944,9> <2065,9> <1945,9>
+<2064,2252> <2065,2253> <1944,2097>
 Face verts 3 flags 0 mat 2
-<2065,9> <1946,9> <1945,9>
+<1944,2097> <2065,2253> <1945,2100>
 Face verts 3 flags 0 mat 2
-<2065,9> <2066,9> <1946,9>
+<2065,2253> <1946,2101> <1945,2100>
 Face verts 3 flags 0 mat 2
-<2066,9> <2067,9> <1946,9>
+<2065,2253> <2066,2256> <1946,2101>
 Face verts 3 flags 0 mat 2
-<1946,9> <2067,9> <1947,9>
+<2066,2256> <2067,2103> <1946,2101>
 Face verts 3 flags 0 mat 0
-<2068,8> <2069,8> <2070,8>
+<2068,2257> <2069,2259> <2070,2258>
 Face verts 3 flags 0 mat 0
-<2071,8> <2073,8> <2072,8>
+<2071,2260> <2073,2262> <2072,2261>
 Face verts 3 flags 0 mat 0
-<2074,8> <2075,8> <2076,8>
+<2074,2263> <2075,2265> <2076,2264>
 Face verts 3 flags 0 mat 0
-<2074,8> <2076,8> <2077,8>
+<2074,2263> <2076,2264> <2077,2266>
 Face verts 3 flags 0 mat 0
-<2078,8> <2079,8> <2080,8>
+<2078,2267> <2079,2269> <2080,2268>
 Face verts 3 flags 0 mat 0
-<2078,8> <2080,8> <2081,8>
+<2078,2267> <2080,2268> <2081,2270>
 mat# 0
 rgb 1,1,1
 alpha 1 ka 0.1 ks 0.1 exp 0
