@@ -398,8 +398,7 @@ bool ReadColorShader(Load* load, Material* material) {
     if (!Search(reader, kFileName)) {
         return false;
     }
-    const std::size_t start =
-        std::min(kFileNameStart, static_cast<std::size_t>(std::strlen(reader->line)));
+    const std::size_t start = std::min(kFileNameStart, std::strlen(reader->line));
     CopyText(material->textureName, sizeof material->textureName, reader->line + start);
     if (load->mesh->texture.single == nullptr) {
         LoadTexture(load->mesh, material->textureName);
