@@ -107,6 +107,16 @@ float Lookup(const float* table, float degrees) {
     return table[i] + (table[i + 1] - table[i]) * fraction;
 }
 
+// Kept apart, so that no arithmetic moves to before the switch of the rounding mode.
+[[gnu::noinline]] void FillTables() {
+    constexpr float kRadiansPerDegree = 0.0174532924F;
+    for (std::int32_t i = 0; i <= 360; ++i) {
+        const double radians = static_cast<double>(i) * static_cast<double>(kRadiansPerDegree);
+        SinTableDeg[i] = static_cast<float>(SinRad(radians));
+        CosTableDeg[i] = static_cast<float>(CosRad(radians));
+    }
+}
+
 } // namespace
 
 double SinRad(double radians) {
@@ -124,12 +134,7 @@ double TanRad(double radians) {
 
 void InitTrigTables() {
     const ScopedFloatMode nearest(FloatMode::Nearest);
-    constexpr float kRadiansPerDegree = 0.0174532924F;
-    for (std::int32_t i = 0; i <= 360; ++i) {
-        const double radians = static_cast<double>(i) * static_cast<double>(kRadiansPerDegree);
-        SinTableDeg[i] = static_cast<float>(SinRad(radians));
-        CosTableDeg[i] = static_cast<float>(CosRad(radians));
-    }
+    FillTables();
 }
 
 void ResetTrigTables() {
