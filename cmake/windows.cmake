@@ -7,7 +7,9 @@ ombrel_back_end(offscreen SOFT)
 ombrel_back_end(win32 OWN ddraw dxguid winmm gdi32 user32)
 
 # The data stands beside the program, as it ships.
-file(CREATE_LINK ${CMAKE_SOURCE_DIR}/data ${CMAKE_BINARY_DIR}/data SYMBOLIC)
+if(NOT EXISTS ${CMAKE_BINARY_DIR}/data)
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/data ${CMAKE_BINARY_DIR}/data SYMBOLIC)
+endif()
 
 add_executable(larkfen WIN32 src/app/entry_win32.cpp src/platform/win32/larkfen.rc)
 target_link_libraries(larkfen PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_win32)

@@ -87,7 +87,7 @@ int main(int count, char** arguments) {
     }
     std::printf("open %d\n",
                 OpenDisplay(shell.screenWidth, shell.screenHeight, 16, shell.windowed, 0));
-    std::printf("rgb-bits %d\n", displayFormat.rgbBits);
+    std::printf("own-format %d\n", win32State.ownFormat);
     std::printf("path %d\n", static_cast<int>(win32State.path));
 
     DrawCard();

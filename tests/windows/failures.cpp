@@ -533,6 +533,7 @@ void Formats() {
     win32Calls.createSurface = SomeCreateFails;
     Open(true);
     Check(win32State.ownFormat, "32 bits: surfaces have a format of their own");
+    Check(displayFormat.rgbBits == 16, "32 bits: for the loaders that is 16 bits");
     Check(win32State.path == PresentPath::Blit, "32 bits: blits that convert are used");
     glyph = MakeOffscreenSurface(48, 42, SurfaceMemory::Any, 0);
     Check((notes.wanted.dwFlags & DDSD_PIXELFORMAT) &&

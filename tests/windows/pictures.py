@@ -37,10 +37,11 @@ def read_hashes(path):
     return table
 
 
-def find_frame(desk, name, known, place, scale=1, tries=10):
+def find_frame(desk, name, known, place, scale=1, tries=60):
     """Screenshots until the pixels at place (left, top, width, height) are a frame; its number.
     A screenshot can fall between the parts of a frame, or before the first."""
     left, top, width, height = place
+    black, tries_left = True, 8
     for _ in range(tries):
         screen = desk.screenshot(name)
         data = crop(screen, left, top, width, height, scale)
@@ -49,8 +50,13 @@ def find_frame(desk, name, known, place, scale=1, tries=10):
             if scale > 1:
                 expect_sharp(screen, place, scale)
             return frame
+        # While it loads the picture is black; later one try in eight must do.
+        black = black and not any(data)
+        tries_left = tries_left if black else tries_left - 1
+        if tries_left == 0:
+            break
         time.sleep(0.3)
-    raise Failure(f"no frame of the production at {left}, {top}")
+    raise Failure(f"no frame of the production at {left}, {top}{' but black' if black else ''}")
 
 
 def expect_sharp(screen, place, scale):

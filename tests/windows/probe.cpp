@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "app/shell.h"
@@ -163,12 +164,21 @@ OMBREL_WIN32_CALLS(OMBREL_NAME)
 #undef OMBREL_NAME
 
 template <auto Member, class R, class... A> R WINAPI Recorded(A... arguments) {
-    if (Telling() && !IsNoise(kName<Member>)) {
+    const bool telling = Telling() && !IsNoise(kName<Member>);
+    if (telling) {
         std::fprintf(watch.log, "%s", kName<Member>);
         (Print(arguments), ...);
         std::fputc('\n', watch.log);
     }
-    return (systemCalls.*Member)(arguments...);
+    if constexpr (std::is_same_v<R, HRESULT>) {
+        const HRESULT result = (systemCalls.*Member)(arguments...);
+        if (telling && result < 0) {
+            std::fprintf(watch.log, "failed %lx\n", static_cast<unsigned long>(result));
+        }
+        return result;
+    } else {
+        return (systemCalls.*Member)(arguments...);
+    }
 }
 template <auto Member, class R, class... A> void Install(R (*Win32Calls::*)(A...)) {
     win32Calls.*Member = Recorded<Member, R, A...>;
@@ -333,7 +343,7 @@ int main(int count, char** arguments) {
     InstallAll();
     win32State.instance = GetModuleHandleA(nullptr);
     const int result = RunProduction(production.c_str());
-    std::printf("shown %ld rgb-bits %d path %d result %d\n", watch.shown, displayFormat.rgbBits,
+    std::printf("shown %ld own-format %d path %d result %d\n", watch.shown, win32State.ownFormat,
                 static_cast<int>(win32State.path), result);
     if (watch.log) {
         std::fclose(watch.log);

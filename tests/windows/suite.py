@@ -297,11 +297,11 @@ def fallback(suite, name, wrong, path):
     with output.open("wb") as file:
         process = subprocess.Popen(
             ["wine", "explorer", f"/desktop=t{name},{WIDTH}x{HEIGHT}",
-             str(suite.desk.tests / "probe.exe"), "--wrong", wrong, "--frames", "300", "--", "-w",
+             str(suite.desk.tests / "probe.exe"), "--wrong", wrong, "--frames", "390", "--", "-w",
              "-ns"], env=suite.desk.env, stdout=file, stderr=file, stdin=subprocess.DEVNULL)
     suite.desk.running.append(process)
     frame = None
-    for _ in range(20):
+    for _ in range(60):
         time.sleep(1)
         try:
             frame = suite.shows(name, (320, 281))
@@ -311,7 +311,7 @@ def fallback(suite, name, wrong, path):
     process.wait(timeout=200)
     expect(frame is not None, "no frame of the production on the screen")
     said = output.read_text(errors="replace")
-    expect(f"rgb-bits 32 path {path} result 0" in said, said[-200:])
+    expect(f"own-format 1 path {path} result 0" in said, said[-200:])
 
 
 @case(quick=True)
@@ -559,6 +559,15 @@ def lost_frames(suite):
 
 
 @case()
+def other_format(suite):
+    """a 32-bit screen: the same frames, texts included"""
+    suite.frames()
+    wanted = first_lines(suite, "format", suite.desk.work / "frames-640x480.txt", 31)
+    compare_hashes(hashes_of_probe(suite, "own", 30, "--wrong", "depth"), wanted, 31)
+    compare_hashes(hashes_of_probe(suite, "own-gdi", 30, "--wrong", "gdi"), wanted, 31)
+
+
+@case()
 def failing_locks(suite):
     """every third lock fails: no crash, and it ends as always"""
     output = suite.probe("--wrong", "locks", "--frames", "30", "--", "-w", "-ns")
@@ -607,6 +616,7 @@ def main():
     try:
         desk.prepare()
         suite = Suite(desk, reference)
+        suite.frames()
         print(f"frames compared with {reference or 'larkfen-hashes.exe'}", flush=True)
         for name, function in chosen:
             start = time.monotonic()

@@ -71,10 +71,11 @@ void ReadPrimaryFormat(std::int32_t bitsPerPixel) {
     DDPIXELFORMAT format = {};
     format.dwSize = sizeof(format);
     win32Calls.getPixelFormat(win32State.primary, &format);
+    const auto count = static_cast<std::int32_t>(format.dwRGBBitCount);
+    win32State.ownFormat = count != 15 && count != 16;
     displayFormat.bitsPerPixel = bitsPerPixel;
-    displayFormat.rgbBits = static_cast<std::int32_t>(format.dwRGBBitCount);
+    displayFormat.rgbBits = win32State.ownFormat ? 16 : count;
     displayFormat.pack = displayFormat.rgbBits == 15 ? PackRgb555 : PackRgb565;
-    win32State.ownFormat = displayFormat.rgbBits != 15 && displayFormat.rgbBits != 16;
 }
 
 // 0 only where a flipping display has no back buffer; a surface that cannot be made stays null.
