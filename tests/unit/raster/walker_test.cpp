@@ -396,6 +396,39 @@ TEST_F(WalkerTest, DepthTestedFacesMayComeInAnyOrder) {
     }
 }
 
+// A line: both edges have the same slope, so the short one stays on the left and gives the depth.
+TEST_F(WalkerTest, EqualSlopesAreNotSwapped) {
+    Canvas canvas(64, 48, DepthRule::Z);
+    DrawWith(FillerId::FillFlatZ,
+             MakePolygon({{{5, 5, 10, 0, 0}, {15, 15, 110, 0, 0}, {35, 35, 30, 0, 0}}}),
+             canvas.Target());
+    for (std::uint32_t row = 5; row <= 35; ++row) {
+        const std::uint32_t z = row <= 15 ? 10 + 10 * (row - 5) : 110 - 4 * (row - 15);
+        const auto place = static_cast<std::int32_t>(row);
+        EXPECT_EQ(canvas.DepthAt(place, place), (z << 16) + 0x8000) << row;
+    }
+    EXPECT_EQ(canvas.CountChanged(), 31);
+}
+
+// Rows so far apart that their difference wraps: the long edge leaves the triangle to the left,
+// where only the column clipping holds it.
+TEST_F(WalkerTest, EdgesThatWrapStayWithinTheClipRectangle) {
+    TestTexture texture(8, 8, CountedTexels(64));
+    const ScreenPolygon polygon = MakePolygon(
+        {{{0, -2147483904.0F, 9, 0, 0}, {30, 20, 9, 7, 0}, {60, 2147483520.0F, 9, 7, 7}}},
+        &texture.record);
+    for (std::int32_t id = 0; id < kFillerCount; ++id) {
+        Canvas canvas(64, 48, RulesOf(id).depth);
+        DrawWith(id, polygon, canvas.Target());
+        EXPECT_NE(canvas.At(20, 40), kBackground) << kFillerTable[id].name;
+        for (std::int32_t y = 0; y < 48; ++y) {
+            for (std::int32_t x = 64; x < 64 + kPadding; ++x) {
+                ASSERT_EQ(canvas.At(x, y), kBackground) << kFillerTable[id].name;
+            }
+        }
+    }
+}
+
 TEST_F(WalkerTest, R2_FillFlatZHasClosedEdges) {
     const ScreenPolygon polygon =
         MakePolygon({{{4, 4, 1, 0, 0}, {12, 4, 1, 0, 0}, {4, 12, 1, 0, 0}}});
