@@ -435,7 +435,7 @@ void FramesThatFail() {
     win32Calls.blt = LostBlt;
     notes.blits = 0;
     Check(PresentFrame() == 0 && PresentFrame() == 0 && PresentFrame() == 0 && notes.blits == 3,
-          "R_lost lost surfaces: 0 each, one try a frame, no restoring");
+          "R49_ lost surfaces: 0 each, one try a frame, no restoring");
     ResetWin32Calls();
     Check(PresentFrame() == 1, "the surfaces are back: the next frame is presented");
     win32Calls.getWindowRect = NoWindowRect;
@@ -486,6 +486,19 @@ void FramesThatFail() {
               std::memcmp(notes.released.data(), order, sizeof(order)) == 0,
           "everything is released in its order");
     Check(win32State.directDraw != nullptr, "the variables are not cleared");
+
+    Begin(true);
+    Open(true);
+    Surface* first = MakeOffscreenSurface(48, 42, SurfaceMemory::System, 0);
+    Surface* second = MakeOffscreenSurface(48, 42, SurfaceMemory::System, 0);
+    win32Calls.release = NotingRelease;
+    ReleaseSurface(first);
+    CloseDisplay();
+    Check(notes.released.size() == 7 && notes.released[0] == ObjectOf(first) &&
+              notes.released[6] == ObjectOf(second),
+          "what is still there at the end is released last");
+    ReleaseSurface(second);
+    Check(notes.released.size() == 7, "and not twice");
 }
 
 void Flipping() {
@@ -506,7 +519,7 @@ void Formats() {
     win32Calls.getPixelFormat = Format15;
     Open(true);
     Check(displayFormat.rgbBits == 15 && displayFormat.pack(255, 255, 255) == 0x7FFF,
-          "15 bits choose the 5-5-5 packer");
+          "R50_ 15 bits choose the 5-5-5 packer");
     Check(!win32State.ownFormat, "15 bits: surfaces take the screen's format");
     CloseDisplay();
 

@@ -87,8 +87,8 @@ bool BlitsConvert() {
     Surface* from = MakeProbeSurface(Format565());
     Surface* to = MakeProbeSurface(format);
     const bool converts = ProbeBlit(from, to, format);
-    ReleaseSurface(from);
-    ReleaseSurface(to);
+    win32Calls.release(ObjectOf(from));
+    win32Calls.release(ObjectOf(to));
     return converts;
 }
 

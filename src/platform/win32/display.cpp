@@ -75,6 +75,7 @@ void ReadPrimaryFormat(std::int32_t bitsPerPixel) {
     win32State.ownFormat = count != 15 && count != 16;
     displayFormat.bitsPerPixel = bitsPerPixel;
     displayFormat.rgbBits = win32State.ownFormat ? 16 : count;
+    // REQUIRED R50: only the packer heeds 15 bits.
     displayFormat.pack = displayFormat.rgbBits == 15 ? PackRgb555 : PackRgb565;
 }
 
@@ -82,6 +83,7 @@ void ReadPrimaryFormat(std::int32_t bitsPerPixel) {
 int MakeBackSurface(std::int32_t width, std::int32_t height, bool flipping) {
     if (!flipping) {
         display.backSurface = MakeOffscreenSurface(width, height, SurfaceMemory::System, 0);
+        win32State.surfaceCount = 0; // the back surface has its own place in the order of release
         return 1;
     }
     DDSCAPS2 caps = {};
@@ -150,16 +152,15 @@ int CloseDisplay() {
     IUnknown* const made[] = {win32State.backClipper, win32State.windowClipper,
                               ObjectOf(display.backSurface), win32State.primary,
                               win32State.directDraw};
-    ULONG left = 0;
     for (IUnknown* object : made) {
         if (object) {
-            left = win32Calls.release(object);
+            win32Calls.release(object);
         }
     }
-    // The release of the last one gives the desktop its mode back. Glyph surfaces, which live as
-    // long as the process, hold on to it; then it is told to let the screen go.
-    if (win32State.directDraw && left > 0 && !display.windowed) {
-        win32Calls.setCooperativeLevel(win32State.directDraw, win32State.window, DDSCL_NORMAL);
+    // Glyph surfaces live as long as the process, and hold on to the object that gives the desktop
+    // its mode back when it goes.
+    while (win32State.surfaceCount > 0) {
+        win32Calls.release(win32State.surfaces[--win32State.surfaceCount]);
     }
     return 1;
 }
@@ -207,6 +208,7 @@ int PresentFrame() {
     target.right = target.left + display.width;
     target.bottom = target.top + display.height;
     RECT source = RectOf(display.source);
+    // REQUIRED R49: a lost surface is not restored.
     return SUCCEEDED(win32Calls.blt(win32State.primary, &target, ObjectOf(display.backSurface),
                                     &source, DDBLT_WAIT, nullptr))
                ? 1

@@ -46,12 +46,20 @@ Surface* MakeOffscreenSurface(std::int32_t width, std::int32_t height, SurfaceMe
     key.dwColorSpaceLowValue = colorKey & 0xFFFF;
     key.dwColorSpaceHighValue = colorKey & 0xFFFF;
     win32Calls.setColorKey(made, DDCKEY_SRCBLT, &key);
+    if (win32State.surfaceCount < kMaxSurfaces) {
+        win32State.surfaces[win32State.surfaceCount++] = made;
+    }
     return SurfaceOf(made);
 }
 
 void ReleaseSurface(Surface* surface) {
-    if (surface) {
-        win32Calls.release(ObjectOf(surface));
+    // A surface that CloseDisplay has released already is not in the list any more.
+    for (std::int32_t i = 0; surface && i < win32State.surfaceCount; ++i) {
+        if (win32State.surfaces[i] == ObjectOf(surface)) {
+            win32State.surfaces[i] = win32State.surfaces[--win32State.surfaceCount];
+            win32Calls.release(ObjectOf(surface));
+            return;
+        }
     }
 }
 

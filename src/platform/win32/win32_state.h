@@ -20,6 +20,8 @@ enum class PresentPath {
 
 // instance: written by the entry. window, quitPosted, entryMode: written by window.cpp. The rest:
 // written by OpenDisplay, read by presentation and release.
+inline constexpr std::int32_t kMaxSurfaces = 1024; // glyphs of two fonts, and to spare
+
 struct Win32State {
     HINSTANCE instance;
     HWND window;
@@ -29,6 +31,8 @@ struct Win32State {
     IDirectDrawSurface7* primary;
     IDirectDrawClipper* backClipper;
     IDirectDrawClipper* windowClipper;
+    IDirectDrawSurface7* surfaces[kMaxSurfaces]; // made and not released, but for the back surface
+    std::int32_t surfaceCount;
     bool ownFormat; // the screen is not 16-bit: surfaces ask for 5-6-5 themselves
     PresentPath path;
     Rect picture; // path Stretch: where the frame goes, client pixels
