@@ -115,7 +115,7 @@ void WritePicture(Recorder* recorder, const ombrel::PresentedFrame& shown) {
 void RecordFrame(Recorder* recorder, const ombrel::PresentedFrame& shown) {
     const Options& options = recorder->options;
     const bool picked = (shown.number - options.first) % options.every == 0;
-    if (options.hashFile.empty() == false && picked) {
+    if (!options.hashFile.empty() && picked) {
         WriteHashLine(recorder, shown);
     }
     const bool wantsPicture = !options.pngFolder.empty() && picked;
@@ -165,6 +165,10 @@ void OnMessage(const char* text, ombrel::MessageKind kind, void*) {
     }
 }
 
+bool Records(const Options& options) {
+    return !options.pngFolder.empty() || !options.videoFile.empty() || !options.hashFile.empty();
+}
+
 std::string OpenOutputs(Recorder* recorder) {
     const Options& options = recorder->options;
     if (!options.pngFolder.empty()) {
@@ -208,7 +212,7 @@ void CloseOutputs(Recorder* recorder) {
     if (recorder->video.pipe == nullptr) {
         return;
     }
-    if (!recorder->problem.empty() || recorder->recorded == 0) {
+    if (!recorder->problem.empty()) {
         DropVideo(&recorder->video);
         return;
     }
@@ -236,6 +240,14 @@ int main(int argc, char** argv) {
     ombrel::SetDataFolder(recorder.options.dataFolder.empty()
                               ? ombrel::DataFolderOf(ombrel::ProgramFolder())
                               : recorder.options.dataFolder);
+    // Without a whole first track nobody would end the run.
+    const std::int64_t whole = FramesOfProduction();
+    const Options& options = recorder.options;
+    if (whole == 0 && options.end == INT64_MAX && options.settings.empty() && Records(options)) {
+        std::fprintf(stderr, "larkfen-capture: data/cam/scene1.trk has fewer than 35 keys, so the "
+                             "production never ends; give --frames A:B\n");
+        return 2;
+    }
     const std::string unopened = OpenOutputs(&recorder);
     if (!unopened.empty()) {
         DropVideo(&recorder.video);
@@ -244,10 +256,8 @@ int main(int argc, char** argv) {
     }
 
     // Play as fast as it goes; the clock moves by exactly one frame a frame.
-    const std::int64_t whole = FramesOfProduction();
-    const bool bounded = whole == 0 || recorder.options.end < whole;
-    recorder.progress =
-        StartProgress(bounded && recorder.options.end != INT64_MAX ? recorder.options.end : whole);
+    const bool bounded = whole == 0 || options.end < whole;
+    recorder.progress = StartProgress(bounded && options.end != INT64_MAX ? options.end : whole);
     HoldSwitches(recorder);
     ombrel::script.msPerRead = 0;
     ombrel::script.msPerPresent = kMsPerFrame;
@@ -258,6 +268,9 @@ int main(int argc, char** argv) {
     const int result = ombrel::RunProduction(recorder.options.production.c_str());
     const bool helped = recorder.played == 0 && result == 0;
 
+    if (!helped && recorder.recorded == 0) {
+        Note(&recorder, "the production ended before frame " + std::to_string(options.first));
+    }
     CloseOutputs(&recorder);
     if (!recorder.problem.empty()) {
         std::fprintf(stderr, "%slarkfen-capture: %s\n", recorder.progress.terminal ? "\n" : "",

@@ -308,6 +308,14 @@ def argument_tests(capture, data, work):
     result = record(capture, data, "-?")
     check("-? shows the production's help", result.returncode == 0 and "examlpe" in result.stdout)
 
+    empty = work / "empty"
+    empty.mkdir()
+    result = record(capture, empty, "--hashes", "-")
+    check("a production without an end wants --frames", result.returncode == 2
+          and "--frames" in result.stderr, result.stderr.strip())
+    result = record(capture, empty, "--frames", ":40", "--hashes", "-")
+    check("with --frames it plays on no data at all", result.returncode == 0
+          and result.stdout.count("\n") == 40, result.stderr.strip())
     target = work / "no" / "such"
     for option in ("--hashes", "--video"):
         result = record(capture, data, "--frames", ":3", option, target / "file")
