@@ -88,7 +88,7 @@ def main():
         path = cache / "mesh" / (name + ".npz")
         digests.append(save_mesh(path, mesh, True)[0])
         meshes[name] = str(path)
-        lights.append(dict(name=name, mesh=str(path), row=row, size=size, samples=24,
+        lights.append(dict(name=name, mesh=str(path), row=row, size=size, samples=16,
                            out=str(cache / "bake" / (name + ".light.npz"))))
     mark = hashlib.sha256((tool + "".join(shape + digests) + json.dumps(
         [(k["name"], k["size"], k["samples"]) for k in lights])).encode()).hexdigest()

@@ -46,4 +46,5 @@ def main():
     out.write_text("\n".join(lines) + "\n")
 
 
-main()
+if __name__ == "__main__":
+    main()

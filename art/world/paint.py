@@ -81,8 +81,8 @@ def sky_day():
                          warm), 0.75 * np.exp(-(np.maximum(e, 0) / 2.2)) * (e >= 0))
 
     # the sea below the horizon, hazy far off, with a glitter below the sun
-    sea = ramp(-e, [(0, (180, 166, 172)), (2.0, (146, 151, 162)), (5, (128, 144, 156)),
-                    (30, (122, 140, 152))])
+    sea = ramp(-e, [(0, (180, 166, 172)), (2.0, (146, 151, 162)), (5, (128, 144, 154)),
+                    (30, (122, 141, 151))])
     sea = lerp(sea, np.full(sky.shape, (236, 196, 158)), 0.75 * warm * np.exp(-np.maximum(
         -e, 0) / 3.5))
     spark = fft_noise((h, w), 13, 0.5, stretch=(0.25, 1.0))
@@ -119,7 +119,7 @@ def sky_night(day):
     a = np.hypot(side * np.cos(np.radians(up)), up - MOON[1])
     glow = 0.55 * np.exp(-(a / 9.0) ** 1.1)
     d = lerp(d, np.full(d.shape, (132, 140, 176)), glow)
-    d = lerp(d, np.full(d.shape, (255, 240, 206)), smooth(4.4, 3.4, a))
+    d = lerp(d, np.full(d.shape, (255, 240, 206)), smooth(3.3, 2.5, a))
     rng = np.random.RandomState(3)
     for _ in range(150):
         i, j = rng.randint(4, 252), rng.randint(2, 254)
@@ -134,10 +134,10 @@ def sea_tile(size=512):
     b = fft_noise(size, 22, 0.7, stretch=(0.7, 1.5), low=24, high=150)
     drift = fft_noise(size, 23, 2.2, low=1, high=5)
     n = 0.62 * a + 0.42 * b
-    base = np.full((size, size, 3), (122, 152, 172.0))
-    base = lerp(base, np.full(base.shape, (90, 132, 158)), np.clip(-0.30 * n + 0.10, 0, 0.8))
-    base = lerp(base, np.full(base.shape, (186, 190, 198)), np.clip(0.26 * (n - 0.35), 0, 0.7))
-    base = lerp(base, np.full(base.shape, (238, 214, 190)), np.clip(0.34 * (n - 1.55), 0, 0.5))
+    base = np.full((size, size, 3), (126, 155, 186.0))
+    base = lerp(base, np.full(base.shape, (94, 135, 174)), np.clip(-0.30 * n + 0.10, 0, 0.8))
+    base = lerp(base, np.full(base.shape, (188, 192, 210)), np.clip(0.26 * (n - 0.35), 0, 0.7))
+    base = lerp(base, np.full(base.shape, (242, 222, 206)), np.clip(0.34 * (n - 1.55), 0, 0.5))
     return base + 3.0 * drift[..., None]
 
 
@@ -165,14 +165,14 @@ def sand_color(x, y, h, seed=40):
         v = np.floor((y / period % 1.0) * 512).astype(int) % 512
         return f[v, u]
 
-    base = np.full(x.shape + (3,), (206, 176, 150.0))
-    base = lerp(base, np.full(base.shape, (222, 196, 166)), np.clip(0.5 + 0.4 * look(soft, 1900),
+    base = np.full(x.shape + (3,), (222, 194, 164.0))
+    base = lerp(base, np.full(base.shape, (238, 214, 180)), np.clip(0.5 + 0.4 * look(soft, 1900),
                                                                   0, 1))
-    base = lerp(base, np.full(base.shape, (196, 160, 140)), np.clip(0.22 * look(fine, 1100), 0,
+    base = lerp(base, np.full(base.shape, (208, 172, 148)), np.clip(0.22 * look(fine, 1100), 0,
                                                                   0.5))
     # growth in the hollows, wet sand and a pale foam line at the shore
     moss = np.clip(0.8 * look(soft, 830) - 0.55, 0, 0.6) * smooth(18, 40, h) * smooth(120, 60, h)
-    base = lerp(base, np.full(base.shape, (146, 150, 116)), moss)
+    base = lerp(base, np.full(base.shape, (158, 164, 122)), moss)
     wet = smooth(15, 3, h)
     base = lerp(base, np.full(base.shape, (150, 128, 118)), 0.8 * wet)
     wave = h + 2.2 * look(soft, 620)
@@ -231,8 +231,8 @@ def dial(size, radius, light=None):
     out = out + 5.0 * grain[..., None] + 6.0 * drift[..., None]
     out = lerp(out, np.full(out.shape, (128, 108, 98)), 0.5 * joint)
     sandy = np.clip(0.55 * drift - 0.25, 0, 0.6) * smooth(500, 1300, r)
-    out = lerp(out, np.full(out.shape, (206, 178, 150)), sandy)
-    return out
+    out = lerp(1.09 * out, np.full(out.shape, (228, 200, 168)), sandy)
+    return np.clip(out, 0, 250)
 
 
 def glass(size=256):
