@@ -114,8 +114,9 @@ inline const FillerRules& RulesOf(std::int32_t id) {
 struct Dice {
     std::mt19937 generator;
     std::int32_t Roll(std::int32_t low, std::int32_t high) {
-        const auto span = static_cast<std::uint32_t>(high - low) + 1U;
-        return low + static_cast<std::int32_t>(generator() % span);
+        const auto least = static_cast<std::uint32_t>(low);
+        const std::uint32_t span = static_cast<std::uint32_t>(high) - least + 1U;
+        return static_cast<std::int32_t>(least + static_cast<std::uint32_t>(generator() % span));
     }
     float RollFloat(std::int32_t low, std::int32_t high) {
         return static_cast<float>(Roll(low, high));
