@@ -1,7 +1,7 @@
 // The ways out that are not the end of the loop: a crash puts the desktop back and then dies as it
 // would have; a request to end from outside becomes the destroy message.
 #include <signal.h>
-#include <unistd.h>
+#include <sys/time.h>
 
 #include <cstdint>
 
@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kCrashes[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGSYS};
 constexpr int kRequests[] = {SIGINT, SIGTERM, SIGHUP};
-constexpr unsigned kSecondsToRescue = 2;
+constexpr int kMicrosecondsToRescue = 500000;
 constexpr std::size_t kStackSize = 1 << 16;
 
 struct CrashHandler {
@@ -22,18 +22,36 @@ struct CrashHandler {
 };
 constinit CrashHandler handlers[sizeof kCrashes / sizeof kCrashes[0]]{};
 constinit volatile sig_atomic_t endRequested = 0;
+constinit volatile sig_atomic_t crashedWith = 0;
 alignas(16) constinit unsigned char rescueStack[kStackSize]{};
 
+// The rescue hangs: die of the crash all the same. What the window system holds for a client it
+// takes back from a dead one.
+void OnLate(int) {
+    sigset_t crash;
+    sigemptyset(&crash);
+    sigaddset(&crash, crashedWith);
+    sigprocmask(SIG_UNBLOCK, &crash, nullptr);
+    raise(crashedWith);
+}
+
 void OnCrash(int signal) {
-    // Whoever crashed may hold a lock that is needed here: then the alarm ends the process.
-    alarm(kSecondsToRescue);
+    crashedWith = signal;
     for (const CrashHandler& handler : handlers) {
         sigaction(handler.signal, &handler.before, nullptr);
     }
+    // Whoever crashed may hold a lock that is needed here: allow for a limited time.
+    struct sigaction late {};
+    late.sa_handler = OnLate;
+    late.sa_flags = SA_ONSTACK;
+    sigaction(SIGALRM, &late, nullptr);
+    const itimerval limit{{0, 0}, {0, kMicrosecondsToRescue}};
+    setitimer(ITIMER_REAL, &limit, nullptr);
     SDL_ShowCursor(SDL_ENABLE);
     SDL_EnableScreenSaver();
     SDL_VideoQuit(); // full screen and grabs end with the window
-    alarm(0);
+    const itimerval none{};
+    setitimer(ITIMER_REAL, &none, nullptr);
     raise(signal); // waits until this handler returns, then does what it would have done
 }
 
