@@ -28,6 +28,8 @@ MODELS = {
 
 # Models that bring their own uv, and who paints them.
 PAINTED = {"canopy": paint.canopy}
+# Bakes that need another balance: the way lies within the wet band of the baker.
+TINT = {"causeway": (1.42, 1.27, 1.18)}
 
 
 def swatches(mesh):
@@ -144,6 +146,7 @@ def main():
                 raise SystemExit("%s: the cached bake is of another model" % name)
             mesh.uvs = [tuple((float(u), float(v)) for u, v in f) for f in stored["uv"]]
             page = lift(stored["page"].astype(float))
+            page = np.clip(page * np.array(TINT.get(name, (1, 1, 1))), 0, 255)
         picture(name, page)
         cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
     dummy = models.dummy()
