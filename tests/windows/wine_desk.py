@@ -120,7 +120,8 @@ class Stage:
         self.desk, self.name = desk, name
         self.log = desk.work / f"{name}.txt"
         self.log.unlink(missing_ok=True)
-        line = [desk.tests / "stage.exe", windows_path(self.log), *options, "--", *command]
+        line = [desk.tests / "stage.exe", windows_path(self.log), "--limit", "200", *options, "--",
+                *command]
         if virtual:
             line = ["explorer", f"/desktop=t{name},{WIDTH}x{HEIGHT}", *line]
         self.process = desk.start(line, folder or desk.build)
@@ -160,7 +161,8 @@ class Stage:
             self.process.kill()
         expect(code == "exit 0", code)
         before = self.wait("before", 1)
-        expect(before[7:] == after[6:], f"{before}, but {after}")
+        expect(before.split()[2] == after.split()[2], f"{before}, but {after}")
+        expect(after.endswith("saver 1"), f"the screen saver is off: {after}")
         return self.lines()
 
 
