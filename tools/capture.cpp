@@ -18,6 +18,7 @@
 #include "base/hash.h"
 #include "base/shell_state.h"
 #include "demo/scene_one.h"
+#include "demo/switches.h"
 #include "demo/world.h"
 #include "larkfen-capture/options.h"
 #include "larkfen-capture/picture.h"
@@ -149,7 +150,7 @@ void OnFrame(const ombrel::PresentedFrame& shown, void* user) {
 
 void HoldSwitches(const Recorder& recorder) {
     for (const SwitchSetting& setting : recorder.options.settings) {
-        *setting.target = setting.value;
+        ombrel::SetSwitch(setting.name.c_str(), setting.value);
     }
 }
 

@@ -370,7 +370,7 @@ def recording_tests(capture, data, work):
           and one.any())
 
     plain = record(capture, data, "--frames", "5:6", "--hashes", "-").stdout
-    for setting, differs in (("renderMode1=0", True), ("crosshair=1", True), ("scene=3", True),
+    for setting, differs in (("renderMode1=0", True), ("crosshair=1", True), ("sceneIndex=3", True),
                              ("frameCap=0", False)):
         other = record(capture, data, "--frames", "5:6", "--hashes", "-", "--switch",
                        setting).stdout

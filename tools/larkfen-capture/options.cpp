@@ -1,4 +1,4 @@
-// Reading the arguments: two tables, one of the options and one of the switches that can be set.
+// Reading the arguments, and the help text.
 #include "options.h"
 
 #include <cerrno>
@@ -6,36 +6,11 @@
 #include <cstring>
 
 #include "app/command_line.h"
-#include "base/shell_state.h"
-#include "demo/world.h"
+#include "demo/switches.h"
 
 namespace capture {
 
 namespace {
-
-struct NamedSwitch {
-    const char* name;
-    std::int32_t* target;
-    const char* meaning;
-};
-
-// clang-format off
-const NamedSwitch kSwitches[] = {
-    {"scene",         &ombrel::frame.sceneIndex,       "0 scene one, 1 scene two, 2..6 none"},
-    {"crosshair",     &ombrel::frame.crosshairSwitch,  "1 draws it (-1)"},
-    {"frameCap",      &ombrel::frame.frameCapSwitch,   "1 holds a frame for 25 ms (1)"},
-    {"renderMode1",   &ombrel::switches.renderMode1,   "0 draws corner dots (1)"},
-    {"renderMode2",   &ombrel::switches.renderMode2,   "0 draws wires (1)"},
-    {"backFace",      &ombrel::switches.backFace,      "1 culls back faces (1)"},
-    {"lighting",      &ombrel::switches.lighting,      "1 lights the faces (1)"},
-    {"sort",          &ombrel::switches.sort,          "1 sorts them by depth (-1)"},
-    {"cameraMode",    &ombrel::switches.cameraMode,    "-1 view from angles, else look-at (-1)"},
-    {"blur",          &ombrel::switches.blur,          "1 blurs (set by each scene)"},
-    {"lightCount",    &ombrel::switches.lightCount,    "lights in use (set by each scene)"},
-    {"hideCursor",    &ombrel::switches.hideCursor,    "1 hides the cursor (1)"},
-    {"cameraRunning", &ombrel::switches.cameraRunning, "1 follows the track (set by each scene)"},
-};
-// clang-format on
 
 bool ReadNumber(const std::string& text, std::int64_t low, std::int64_t high, std::int64_t* out) {
     char* end = nullptr;
@@ -72,13 +47,18 @@ std::string ReadSwitch(const std::string& text, Options* options) {
         !ReadNumber(text.substr(sign + 1), INT32_MIN, INT32_MAX, &value)) {
         return "--switch: \"" + text + "\" is not NAME=NUMBER";
     }
-    for (const NamedSwitch& known : kSwitches) {
-        if (text.compare(0, sign, known.name) == 0) {
-            options->settings.push_back({known.target, static_cast<std::int32_t>(value)});
-            return "";
-        }
+    const std::string name = text.substr(0, sign);
+    const auto number = static_cast<std::int32_t>(value);
+    std::int32_t before = 0;
+    if (!ombrel::GetSwitch(name.c_str(), &before)) {
+        return "--switch: there is no switch \"" + name + "\"";
     }
-    return "--switch: there is no switch \"" + text.substr(0, sign) + "\"";
+    if (!ombrel::SetSwitch(name.c_str(), number)) {
+        return "--switch: " + name + " cannot be " + text.substr(sign + 1);
+    }
+    ombrel::SetSwitch(name.c_str(), before);
+    options->settings.push_back({name, number});
+    return "";
 }
 
 std::string ReadCount(const char* name, const std::string& text, std::int64_t high,
@@ -208,11 +188,11 @@ std::string HelpText() {
         "  --data DIR         takes the data files from DIR\n"
         "  --switch NAME=N    holds a switch at a number from the first frame on; what a scene\n"
         "                     sets itself in its first frame holds from its second:\n";
-    for (const NamedSwitch& known : kSwitches) {
+    for (std::int32_t i = 0; ombrel::SwitchName(i) != nullptr; ++i) {
         std::string line = "                       ";
-        line += known.name;
+        line += ombrel::SwitchName(i);
         line.append(39 > line.size() ? 39 - line.size() : 1, ' ');
-        text += line + known.meaning + "\n";
+        text += line + ombrel::SwitchMeaning(i) + "\n";
     }
     text += "  --help             this text\n"
             "\n"

@@ -9,7 +9,7 @@
 namespace capture {
 
 struct SwitchSetting {
-    std::int32_t* target;
+    std::string name; // one that SetSwitch knows
     std::int32_t value;
 };
 
