@@ -79,7 +79,7 @@ def main():
     picture("sea", water)
     picture("sea-night", paint.sea_night(water)[::2, ::2])
     picture("sea-far", paint.sea_far(water.mean(axis=(0, 1))))
-    picture("glass", paint.glass())
+    picture("glass", paint.glass(), 0.0)
     picture("globe-stand", paint.stand(256))
     cobfile.write(d3 / "sky-sphere-04.cob", "sky", fixed.sky(), "sky-day.bmp", "fixed",
                   fixed.SKY_SCALE)
@@ -105,12 +105,12 @@ def main():
             return page
         stored = np.load(path)
         # Open sky is 1; the sun's shadow leaves 0.62 and goes towards lilac.
-        sky = np.clip(stored["sky"].astype(float), 0, 1.15) ** 0.62
+        sky = np.clip(stored["sky"].astype(float), 0, 1.15) ** 0.5
         shadow = stored["shadow"].astype(float)[..., None]
         if len(sky) < len(page):
             sky, shadow = bitmap.double(sky), bitmap.double(shadow)
         tone = np.array((0.68, 0.66, 0.74))
-        light = (0.42 + 0.58 * sky) * (tone + (1 - tone) * shadow)
+        light = (0.47 + 0.53 * sky) * (tone + (1 - tone) * shadow)
         return page * light
 
     for i in range(3):

@@ -81,8 +81,8 @@ def sky_day():
                          warm), 0.75 * np.exp(-(np.maximum(e, 0) / 2.2)) * (e >= 0))
 
     # the sea below the horizon, hazy far off, with a glitter below the sun
-    sea = ramp(-e, [(0, (180, 166, 172)), (2.0, (146, 151, 162)), (5, (128, 144, 154)),
-                    (30, (122, 141, 151))])
+    sea = ramp(-e, [(0, (180, 166, 172)), (2.0, (144, 150, 161)), (5, (123, 142, 155)),
+                    (12, (116, 139, 153))])
     sea = lerp(sea, np.full(sky.shape, (236, 196, 158)), 0.75 * warm * np.exp(-np.maximum(
         -e, 0) / 3.5))
     spark = fft_noise((h, w), 13, 0.5, stretch=(0.25, 1.0))
