@@ -143,8 +143,7 @@ def question_yes(suite):
     suite.desk.key("y")
     stage.wait("seen mode 640x480 ")
     suite.shows("yes", (0, 0))
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 @case()
@@ -154,8 +153,7 @@ def question_no(suite):
     suite.desk.key("n")
     _, client = stage.window()
     suite.shows("no", client[:2])
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 @case()
@@ -165,8 +163,7 @@ def question_closed(suite):
     stage.wait("did close-box")
     _, client = stage.window()
     suite.shows("closed", client[:2])
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 # --- window
@@ -184,8 +181,7 @@ def window(suite):
     no_box(stage)
     shown = [line for line in stage.lines() if line.startswith("seen window")]
     expect(f'style 0x14c80000 visible 1 "{TITLE}"' in shown[-1], shown[-1])
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 @case()
@@ -195,8 +191,7 @@ def window_moved(suite):
     stage.wait("seen window 33 101 ")
     _, client = stage.window()
     suite.shows("moved", client[:2])
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 @case()
@@ -209,8 +204,7 @@ def largest_window(suite):
     expect((client[2] - client[0], client[3] - client[1]) == (1280, 800), f"client area {client}")
     expect(client[0] == 0, f"not in the middle: {client}")
     suite.shows("large", client[:2], "1280x800")
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 # --- the ways to end
@@ -222,8 +216,7 @@ def escape_elsewhere(suite):
     stage.wait("did focus")
     suite.desk.screenshot("focus")
     start = time.monotonic()
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
     expect(time.monotonic() - start < 60, "it took long")
 
 
@@ -279,8 +272,7 @@ def add_full_screen(size):
         suite.desk.key("y")
         stage.wait(f"seen mode {size} ")
         suite.shows(name, (0, 0), size)
-        suite.desk.key("Escape")
-        stage.end()
+        stage.end("Escape")
     full_screen.__doc__ = f"full screen at {size}"
     case()(full_screen)
 
@@ -336,8 +328,7 @@ def fallback_full(suite):
     _, client = stage.window()
     suite.shows("cover", (0, 32), "640x480", 2)
     expect(client == [0, 0, WIDTH, HEIGHT], f"client area {client}")
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 @case()
@@ -354,8 +345,7 @@ def fallback_full_odd(suite):
     for x, y in ((0, 0), (39, 500), (1240, 500), (640, 61), (640, 962)):
         at = (y * WIDTH + x) * 3
         expect(screen[at:at + 3] == b"\0\0\0", f"not black at {x}, {y}")
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 @case()
@@ -467,8 +457,7 @@ def play(suite, kind, box, expected, switches=("-w",)):
         suite.desk.key("Return")
     stage.window()
     time.sleep(3)
-    suite.desk.key("Escape")
-    lines = stage.end()
+    lines = stage.end("Escape")
     boxes = [line for line in lines if line.startswith("seen box")]
     expect(len(boxes) == (1 if box else 0), str(boxes))
     calls = folder / "bass-calls.txt"
@@ -583,8 +572,7 @@ def no_data(suite):
     stage = Stage(suite.desk, "nodata", [windows_path(folder / "larkfen.exe"), "-w", "-ns"])
     stage.window()
     time.sleep(2)
-    suite.desk.key("Escape")
-    stage.end()
+    stage.end("Escape")
 
 
 @case()

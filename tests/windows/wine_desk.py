@@ -101,10 +101,14 @@ class Desk:
     def key(self, *names):
         """Holds keys down together for a moment, long enough to be seen by a poll."""
         for name in names:
-            subprocess.run(["xdotool", "keydown", name], env=self.env, check=True)
+            self.press("keydown", name)
         time.sleep(0.4)
         for name in reversed(names):
-            subprocess.run(["xdotool", "keyup", name], env=self.env, check=True)
+            self.press("keyup", name)
+
+    def press(self, what, name):
+        """One half of a key stroke: keydown or keyup."""
+        subprocess.run(["xdotool", what, name], env=self.env, check=True)
 
     def click(self, x, y):
         """Clicks the left button."""
@@ -151,9 +155,16 @@ class Stage:
             time.sleep(0.1)
         raise Failure("no visible window")
 
-    def end(self, limit=SLOW):
-        """Waits for the end; fails unless the exit code is 0 and the desktop is as before."""
-        code = self.wait("exit", limit)
+    def end(self, held=None, limit=SLOW):
+        """Waits for the end, with a key held down all the time if one is named; fails unless the
+        exit code is 0 and the desktop is as before."""
+        if held:
+            self.desk.press("keydown", held)
+        try:
+            code = self.wait("exit", limit)
+        finally:
+            if held:
+                self.desk.press("keyup", held)
         after = self.wait("after", limit)
         try:
             self.process.wait(timeout=SLOW)
