@@ -110,6 +110,14 @@ class Desk:
         """One half of a key stroke: keydown or keyup."""
         subprocess.run(["xdotool", what, name], env=self.env, check=True)
 
+    def focus(self, title):
+        """Gives the keyboard to a window of the X server; without a window manager nobody does."""
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title],
+                               env=self.env, check=False, stdout=subprocess.PIPE).stdout.split()
+        expect(found, f"no window '{title}' on the X server")
+        subprocess.run(["xdotool", "windowfocus", found[-1]], env=self.env, check=True)
+        time.sleep(0.3)
+
     def click(self, x, y):
         """Clicks the left button."""
         subprocess.run(["xdotool", "mousemove", str(x), str(y)], env=self.env, check=True)
