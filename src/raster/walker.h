@@ -28,7 +28,7 @@ inline std::int32_t DivChop(std::int32_t dividend, std::int32_t divisor) {
     if (static_cast<std::uint32_t>(divisor) + 1U > 1U) [[likely]] {
         return dividend / divisor;
     }
-    return divisor == 0 ? 0 : -dividend;
+    return divisor == 0 ? 0 : static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(dividend));
 }
 
 // Calls action(k) for k = first..last - 1, unrolled.
