@@ -2,11 +2,13 @@
 """Builds everything and runs every test, one line a step, a log a step in build/test-logs/.
 The last line counts the tests: "N passed, N failed". Exit code 0 only when none failed."""
 import argparse
+import concurrent.futures
 import os
 import pathlib
 import re
 import subprocess
 import sys
+import threading
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -16,6 +18,7 @@ CAPTURE = "larkfen-capture"
 
 passed = 0
 failed = 0
+lock = threading.Lock()
 
 
 def count_tests(output, code):
@@ -35,7 +38,6 @@ def count_tests(output, code):
 def step(name, command, env=None, counts=True, limit=900):
     """Runs one command; tells how it went; returns whether it went well."""
     global passed, failed
-    print(f"  {name:<34}", end=" ", flush=True)
     start = time.monotonic()
     log = LOGS / (re.sub(r"[^a-z0-9]+", "-", name.lower()) + ".log")
     try:
@@ -50,19 +52,29 @@ def step(name, command, env=None, counts=True, limit=900):
         output, code = f"{command[0]}: {error.strerror}\n", 127
     log.write_text(output)
     good, bad = count_tests(output, code)
-    if counts or bad:
-        passed += good
-        failed += bad
     seconds = time.monotonic() - start
     said = f"{good} tests" if counts else "done"
-    print(f"{'ok    ' if bad == 0 else 'FAILED'} {said:>12} {seconds:7.1f} s", flush=True)
-    if bad:
-        shown = output.splitlines()
-        marks = [i for i, line in enumerate(shown) if re.search(r"FAILED|error|ERROR|fault", line)]
-        start_at = max(0, min(marks[0] - 3 if marks else len(shown), len(shown) - 40))
-        print("\n".join("      | " + line for line in shown[start_at:start_at + 40]))
-        print(f"      whole log: {log.relative_to(ROOT)}")
+    with lock:
+        if counts or bad:
+            passed += good
+            failed += bad
+        print(f"  {name:<34} {'ok    ' if bad == 0 else 'FAILED'} {said:>12} {seconds:7.1f} s",
+              flush=True)
+        if bad:
+            shown = output.splitlines()
+            marks = [i for i, line in enumerate(shown)
+                     if re.search(r"FAILED|error|ERROR|fault", line)]
+            first = max(0, min(marks[0] - 3 if marks else len(shown), len(shown) - 40))
+            print("\n".join("      | " + line for line in shown[first:first + 40]))
+            print(f"      whole log: {log.relative_to(ROOT)}", flush=True)
     return bad == 0
+
+
+def side_by_side(steps):
+    """Runs steps, as (name, command, keywords), as many at a time as there are processors."""
+    with concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count() or 1) as pool:
+        for done in [pool.submit(step, name, command, **more) for name, command, more in steps]:
+            done.result()
 
 
 def build(preset, targets, *options):
@@ -78,21 +90,28 @@ def test_programs(folder):
     return [(name, folder / name) for name in names]
 
 
+def whole_runs(folder):
+    """The test programs that draw pictures or play the production, where they have sources."""
+    return [(name, folder / name) for name in ("scenario", "golden")
+            if list((ROOT / "tests" / name).glob("*.cpp"))]
+
+
 def capture_hashes(name, program, out, frames, extra=()):
-    """Writes the hash lines of the first frames of the production with one build of the tool."""
-    return step(f"hashes {name}", [*program, "-w", "-ns", "--data", ROOT / "data", "--frames",
-                                   f"0:{frames}", "--hashes", out, *extra], counts=False,
-                env={"WINEDEBUG": "-all"})
+    """The step that writes the hash lines of the first frames with one build of the tool."""
+    return (f"hashes {name}", [*program, "-w", "-ns", "--data", ROOT / "data", "--frames",
+                                   f"0:{frames}", "--hashes", out, *extra],
+            {"counts": False})
 
 
-def compare_hashes(name, one, other):
-    """Counts as one test: two files of hash lines are the same; names the first frame that differs."""
+def compare_hashes(name, one, other, whole):
+    """Counts as one test: two files of hash lines are the same, the second as long as the first
+    (whole) or shorter; names the first frame that differs."""
     global passed, failed
     a = pathlib.Path(one).read_text().splitlines() if pathlib.Path(one).exists() else []
     b = pathlib.Path(other).read_text().splitlines() if pathlib.Path(other).exists() else []
     bad = next((f"{x} / {y}" for x, y in zip(a, b) if x != y), None)
-    if bad is None and (not a or not b):
-        bad = "no lines"
+    if bad is None and (not a or not b or (whole and len(a) != len(b))):
+        bad = f"{len(a)} and {len(b)} lines"
     length = min(len(a), len(b))
     if bad is None:
         passed += 1
@@ -121,36 +140,35 @@ def main():
 
     print("Release build")
     if build("release", ["all"], "-DOMBREL_TESTS=ON", "-DOMBREL_BENCH=ON"):
-        for name, program in test_programs(release):
-            step(name, [program])
-        if not quick:
-            for name in ("golden", "scenario"):
-                if list((ROOT / "tests" / name).glob("*.cpp")):
-                    step(name, [release / name])
+        longest_first = [] if quick else whole_runs(release)
+        side_by_side([(name, [program], {}) for name, program in
+                      longest_first + test_programs(release)])
 
     if not quick:
         print("Sanitizer build (ASan, UBSan)")
         if build("sanitize", ["all"]):
             options = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
                        "UBSAN_OPTIONS": "print_stacktrace=1", "OMBREL_RANDOM_SHARE": "0.05"}
-            for name, program in test_programs(sanitize):
-                step(f"{name} sanitized", [program], env=options)
-            for name in ("golden", "scenario"):
-                if list((ROOT / "tests" / name).glob("*.cpp")):
-                    step(f"{name} sanitized", [sanitize / name], env=options)
-            step("200 frames sanitized",
-                 [sanitize / CAPTURE, "-w", "-ns", "--frames", "0:200", "--hashes",
-                  LOGS / "frames-sanitize.txt"], env=options)
+            # The stored frames are held to the release build; here 200 of them are enough.
+            programs = [(f"{name} sanitized", [program, "--gtest_filter=-Frames.*"],
+                         {"env": options})
+                        for name, program in whole_runs(sanitize) + test_programs(sanitize)]
+            frames = ("200 frames sanitized",
+                      [sanitize / CAPTURE, "-w", "-ns", "--frames", "0:200", "--hashes",
+                       LOGS / "frames-sanitize.txt"], {"env": options})
+            side_by_side(programs + [frames])
 
         print("The same pictures from every compiler")
-        frames = {}
+        captures = []
         for preset, count in (("release", 100000), ("clang", 100000), ("o0", 400)):
+            (LOGS / f"frames-{preset}.txt").unlink(missing_ok=True)
             if preset == "release" or build(preset, [CAPTURE]):
-                frames[preset] = LOGS / f"frames-{preset}.txt"
-                capture_hashes(preset, [ROOT / "build" / preset / CAPTURE], frames[preset], count)
+                captures.append(capture_hashes(preset, [ROOT / "build" / preset / CAPTURE],
+                                               LOGS / f"frames-{preset}.txt", count))
+        side_by_side(captures)
         for preset in ("clang", "o0"):
-            if preset in frames:
-                compare_hashes(f"g++ -O2 and {preset}", frames["release"], frames[preset])
+            compare_hashes(f"g++ -O2 and {preset}", LOGS / "frames-release.txt",
+                           LOGS / f"frames-{preset}.txt", whole=preset == "clang")
 
         print("Windows builds, under Wine")
         built = [build(preset, ["all"]) for preset in ("win64", "win32")]
