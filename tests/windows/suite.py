@@ -67,7 +67,8 @@ class Suite:
 
     def probe(self, *arguments, limit=300):
         """Runs the watched production on the real back end; its output."""
-        code, output = self.desk.wine([self.desk.tests / "probe.exe", *arguments], limit=limit)
+        code, output = self.desk.wine([self.desk.tests / "probe.exe", *arguments],
+                                      self.desk.build, limit)
         expect(code == 0, f"exit code {code}: {output[-200:]}")
         return output
 
@@ -290,7 +291,8 @@ def fallback(suite, name, wrong, path):
         process = subprocess.Popen(
             ["wine", "explorer", f"/desktop=t{name},{WIDTH}x{HEIGHT}",
              str(suite.desk.tests / "probe.exe"), "--wrong", wrong, "--frames", "390", "--", "-w",
-             "-ns"], env=suite.desk.env, stdout=file, stderr=file, stdin=subprocess.DEVNULL)
+             "-ns"], env=suite.desk.env, cwd=suite.desk.build, stdout=file, stderr=file,
+            stdin=subprocess.DEVNULL)
     suite.desk.running.append(process)
     end = time.monotonic() + SLOW
     while time.monotonic() < end:
@@ -592,13 +594,13 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("build", help="the build folder of the 64-bit programs")
     parser.add_argument("--quick", action="store_true", help="a few cases only")
-    parser.add_argument("--only", default="", help="only cases with this word in their name")
+    parser.add_argument("--only", default="", help="only cases whose name this pattern is found in")
     parser.add_argument("--list", action="store_true", help="name the cases and end")
     parser.add_argument("--reference", help="a native larkfen-capture to compare with "
                         "(default: ../release/larkfen-capture of the build folder, if there)")
     options = parser.parse_args()
     chosen = [(name, function) for name, function, quick in cases
-              if (quick or not options.quick) and options.only in name]
+              if (quick or not options.quick) and re.search(options.only, name)]
     if options.list:
         print("\n".join(name for name, _ in chosen))
         return 0
