@@ -81,6 +81,9 @@ HRESULT NoLevel(IDirectDraw7*, HWND, DWORD) {
 HRESULT NoMode(IDirectDraw7*, DWORD, DWORD, DWORD) {
     return DDERR_UNSUPPORTEDMODE;
 }
+HRESULT BrokenMode(IDirectDraw7*, DWORD, DWORD, DWORD) {
+    return DDERR_GENERIC;
+}
 // Says yes to full screen, and leaves the desktop alone.
 HRESULT GoodLevel(IDirectDraw7* direct, HWND window, DWORD) {
     return direct::SetCooperativeLevel(direct, window, DDSCL_NORMAL);
@@ -301,11 +304,27 @@ void FailingOpen() {
 
     Begin(false);
     win32Calls.setCooperativeLevel = GoodLevel;
-    win32Calls.setDisplayMode = NoMode;
+    win32Calls.setDisplayMode = BrokenMode;
     win32Calls.enumDisplaySettings = OneMode;
     win32Calls.createSurface = SomeCreateFails;
     Check(Open(false) == 0, "a listed mode that cannot be set: 0");
     Check(notes.creates == 0, "a listed mode that cannot be set: no surface is tried");
+    CloseDisplay();
+
+    Begin(false);
+    win32Calls.setCooperativeLevel = GoodLevel;
+    win32Calls.setDisplayMode = NoMode;
+    win32Calls.enumDisplaySettings = OneMode;
+    Check(Open(false) == 1 && win32State.path == PresentPath::Stretch,
+          "a listed mode that is said to be none: over the monitor instead");
+    CloseDisplay();
+
+    Begin(false);
+    win32Calls.setCooperativeLevel = GoodLevel;
+    win32Calls.setDisplayMode = BrokenMode;
+    win32Calls.enumDisplaySettings = NoModes;
+    Check(Open(false) == 1 && win32State.path == PresentPath::Stretch,
+          "a mode that is not listed, whatever the answer: over the monitor instead");
     CloseDisplay();
 
     Begin(false);

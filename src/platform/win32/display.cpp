@@ -13,7 +13,7 @@ namespace {
 constexpr DWORD kFullScreenLevel =
     DDSCL_FULLSCREEN | DDSCL_ALLOWREBOOT | DDSCL_EXCLUSIVE | DDSCL_ALLOWMODEX | DDSCL_MULTITHREADED;
 
-// True when the display lists the mode; then a failure to set it is a real one.
+// True when the display lists the mode.
 bool ModeListed(std::int32_t width, std::int32_t height, std::int32_t bitsPerPixel) {
     DEVMODEA mode = {};
     mode.dmSize = sizeof(mode);
@@ -27,6 +27,14 @@ bool ModeListed(std::int32_t width, std::int32_t height, std::int32_t bitsPerPix
     return false;
 }
 
+// Whether a mode could not be set because this display cannot have it. Lists of modes may name more
+// than the display can do, so an answer that says so counts too.
+bool CannotHaveMode(HRESULT answer, std::int32_t width, std::int32_t height,
+                    std::int32_t bitsPerPixel) {
+    return answer == DDERR_UNSUPPORTED || answer == DDERR_UNSUPPORTEDMODE ||
+           answer == DDERR_INVALIDMODE || !ModeListed(width, height, bitsPerPixel);
+}
+
 // Takes the display for this program. A display that has no such mode is left as it is, and the
 // window is put over the whole monitor instead.
 int TakeDisplay(std::int32_t width, std::int32_t height, std::int32_t bitsPerPixel,
@@ -38,12 +46,13 @@ int TakeDisplay(std::int32_t width, std::int32_t height, std::int32_t bitsPerPix
     if (windowed) {
         return 1;
     }
-    if (SUCCEEDED(win32Calls.setDisplayMode(win32State.directDraw, static_cast<DWORD>(width),
-                                            static_cast<DWORD>(height),
-                                            static_cast<DWORD>(bitsPerPixel)))) {
+    const HRESULT answer =
+        win32Calls.setDisplayMode(win32State.directDraw, static_cast<DWORD>(width),
+                                  static_cast<DWORD>(height), static_cast<DWORD>(bitsPerPixel));
+    if (SUCCEEDED(answer)) {
         return 1;
     }
-    if (ModeListed(width, height, bitsPerPixel) ||
+    if (!CannotHaveMode(answer, width, height, bitsPerPixel) ||
         FAILED(win32Calls.setCooperativeLevel(win32State.directDraw, win32State.window,
                                               DDSCL_NORMAL))) {
         return 0;
