@@ -1,0 +1,60 @@
+// Asks the compiler's own runtime, which reads CPUID and, before it believes in a wide register,
+// XGETBV: whether the operating system saves it.
+#include "base/vector_path.h"
+
+#include <cstring>
+
+namespace ombrel {
+
+namespace {
+constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse", "avx2", "avx512"};
+}
+
+const char* NameOf(VectorPath path) {
+    return kNames[static_cast<int>(path)];
+}
+
+bool ProcessorRuns(VectorPath path) {
+#if defined(__x86_64__) || defined(__i386__)
+    __builtin_cpu_init();
+    switch (path) {
+    case VectorPath::Scalar:
+        return true;
+    case VectorPath::Sse:
+        return __builtin_cpu_supports("sse4.1") != 0;
+    case VectorPath::Avx2:
+        return __builtin_cpu_supports("avx2") != 0;
+    case VectorPath::Avx512:
+        return __builtin_cpu_supports("avx512f") != 0 && __builtin_cpu_supports("avx512bw") != 0 &&
+               __builtin_cpu_supports("avx512dq") != 0 && __builtin_cpu_supports("avx512vl") != 0;
+    }
+    return false;
+#else
+    return path == VectorPath::Scalar;
+#endif
+}
+
+VectorPath PathFor(const char* wish, bool* understood) {
+    // Find the wish in the list; without one, start from the best that is taken unasked.
+    const bool wished = wish != nullptr && wish[0] != '\0';
+    int number = static_cast<int>(VectorPath::Avx2);
+    bool known = !wished;
+    for (int i = 0; wished && i < kVectorPathCount; ++i) {
+        if (std::strcmp(wish, kNames[i]) == 0) {
+            number = i;
+            known = true;
+        }
+    }
+    // Go down to what the processor runs.
+    bool met = known;
+    while (!ProcessorRuns(static_cast<VectorPath>(number))) {
+        --number;
+        met = met && !wished;
+    }
+    if (understood != nullptr) {
+        *understood = met;
+    }
+    return static_cast<VectorPath>(number);
+}
+
+} // namespace ombrel
