@@ -16,11 +16,20 @@ done
 cache=${OMBREL_ART_CACHE:-$here/../build/art-cache}
 mkdir -p "$data" "$cache/bake"
 PYTHON=${PYTHON:-/usr/bin/python3}
+BLENDER=${BLENDER:-blender}
 export PYTHONDONTWRITEBYTECODE=1 PYTHONHASHSEED=0
 "$PYTHON" "$here/world/bake_jobs.py" "$cache"
 if grep -q '"name"' "$cache/jobs.json"; then
-    blender -b --factory-startup -noaudio -P "$here/world/bake.py" -- "$cache/jobs.json" |
-        grep -E "^(baked|light|Traceback|Error|  File)" || true
+    # A bake that fails stops the build: no data is made from what it left behind.
+    if ! "$BLENDER" -b --factory-startup -noaudio --python-exit-code 3 -P "$here/world/bake.py" -- \
+        "$cache/jobs.json" >"$cache/bake.log" 2>&1 || ! grep -q "^all baked$" "$cache/bake.log"
+    then
+        grep -E "^(baked|light|Traceback|Error|  File|[A-Za-z]*Error)" "$cache/bake.log" ||
+            tail -n 20 "$cache/bake.log"
+        echo "error: a bake failed; the whole log: $cache/bake.log" >&2
+        exit 1
+    fi
+    grep -E "^(baked|light)" "$cache/bake.log"
 fi
 mv "$cache/marks.new.json" "$cache/marks.json"
 "$PYTHON" "$here/world/make.py" "$data" "$cache"

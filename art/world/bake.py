@@ -296,6 +296,7 @@ def main():
         job_object(job)
     if spec["lights"]:
         job_light(spec["lights"], spec["rows"], spec["meshes"])
+    print("all baked", flush=True)
 
 
 main()
