@@ -43,7 +43,7 @@ bool ReadHeaders(std::FILE* file, BmpHeaders* headers) {
     if (info.bitCount != 8 && info.bitCount != 16 && info.bitCount != 24) {
         return false;
     }
-    if (info.width < 1 || info.height < 1 || info.sizeImage > INT32_MAX) {
+    if (info.width < 1 || info.height < 1 || info.sizeImage > kMaxImageBytes) {
         return false;
     }
     // In this order nothing overflows: both factors are below 2^31.
@@ -56,7 +56,7 @@ bool ReadHeaders(std::FILE* file, BmpHeaders* headers) {
     return SeekTo(file, -static_cast<long>(info.sizeImage), SEEK_END) >= 0;
 }
 
-// 24-bit triples blue, green, red to pixels of the display's format.
+// 24-bit triples blue, green, red to pixels of the display's format; out may be where they stand.
 // REQUIRED R25: one straight after the other, over the ends of rows. In any other format than the
 // two known ones every pixel is the one before it, and so 0.
 void ConvertTriples(const std::uint8_t* triples, std::int32_t count, std::uint8_t* out) {
@@ -83,14 +83,9 @@ std::uint8_t* ReadPixels(std::FILE* file, BmpInfoHeader* info) {
     if (info->bitCount != 24) {
         return bytes;
     }
-    const std::int32_t count = info->width * info->height;
-    auto* pixels = static_cast<std::uint8_t*>(std::malloc(static_cast<std::size_t>(count) * 2));
-    if (pixels != nullptr) {
-        ConvertTriples(bytes, count, pixels);
-        info->bitCount = 16;
-    }
-    std::free(bytes);
-    return pixels;
+    ConvertTriples(bytes, info->width * info->height, bytes);
+    info->bitCount = 16;
+    return bytes;
 }
 
 void TurnRowsOver(const BmpInfoHeader& info, std::uint8_t* pixels) {

@@ -111,7 +111,8 @@ std::string FindDataFile(const char* path) {
 std::FILE* OpenDataFile(const char* path, const char* mode) {
     const std::string found = FindDataFile(path);
     std::error_code error;
-    if (found.empty() || fs::is_directory(found, error)) {
+    // Folders cannot be read, and a device or a pipe may never end.
+    if (found.empty() || !fs::is_regular_file(found, error)) {
         return nullptr;
     }
     // Always binary: a text file read here never depends on the system's idea of a line end.

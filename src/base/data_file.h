@@ -21,7 +21,7 @@ std::string DataFolder();
 std::string FindDataFile(const char* path);
 
 // fopen of FindDataFile(path) for reading; mode "r" or "rb" (line ends are never converted).
-// Null when there is no such file, it cannot be opened, or it is a folder.
+// Null when there is no such file, it cannot be opened, or it is a folder, a device or a pipe.
 std::FILE* OpenDataFile(const char* path, const char* mode);
 
 } // namespace ombrel
