@@ -9,69 +9,15 @@
 #include <utility>
 
 #include "assets/line_reader.h"
+#include "assets/object_lines.h"
 #include "base/convert.h"
 #include "base/pixel16.h"
 
 namespace ombrel {
 
+using namespace cob;
+
 namespace {
-
-// A line the loader looks for, and the characters that count as blanks in it.
-struct LineForm {
-    const char* pattern;
-    const char* blanks;
-};
-
-// clang-format off
-//                                pattern                                                     blanks
-constexpr LineForm kName       = {"['Name'] [s>0]",                                           ""};
-constexpr LineForm kCenter     = {"['center'] [f] [f] [f]",                                   ""};
-constexpr LineForm kAxes[3]    = {{"['x'] ['axis'] [f] [f] [f]",                              ""},
-                                  {"['y'] ['axis'] [f] [f] [f]",                              ""},
-                                  {"['z'] ['axis'] [f] [f] [f]",                              ""}};
-constexpr LineForm kTransform  = {"['Transform']",                                            ""};
-constexpr LineForm kThree      = {"[f] [f] [f]",                                              ""};
-constexpr LineForm kVertices   = {"['World'] ['Vertices'] [i]",                               ""};
-constexpr LineForm kTexVerts   = {"['Texture'] ['Vertices'] [i]",                             ""};
-constexpr LineForm kTwo        = {"[f] [f]",                                                  ""};
-constexpr LineForm kFaces      = {"['Faces'] [i]",                                            ""};
-constexpr LineForm kFace       = {"['Face'] ['verts'] [i] ['flags'] [i] ['mat'] [i]",         ""};
-constexpr LineForm kCorners    = {"[i] [i] [i] [i] [i] [i]",                                  ",<>"};
-constexpr LineForm kMaterial   = {"['mat#'] [i]",                                             ""};
-constexpr LineForm kRgb        = {"['rgb'] [f] [f] [f]",                                      ","};
-constexpr LineForm kAlpha      = {"['alpha'] [f] ['ka'] [f] ['ks'] [f] ['exp'] [f]",          ""};
-constexpr LineForm kColorClass = {"['Shader'] ['class:'] ['color']",                          ""};
-constexpr LineForm kPlainColor = {"['Shader'] ['name:'] ['plain'] ['color']",                 "\""};
-constexpr LineForm kTextureMap = {"['Shader'] ['name:'] ['texture'] ['map']",                 "\""};
-constexpr LineForm kFileName   = {"['file'] ['name:'] ['string']",                            "\""};
-constexpr LineForm kTransClass = {"['Shader'] ['class:'] ['transparency']",                   ""};
-constexpr LineForm kReflClass  = {"['Shader'] ['class:'] ['reflectance']",                    ""};
-constexpr LineForm kShaderName = {"['Shader'] ['name:'] [s>0]",                               "\""};
-constexpr LineForm kFilter     = {"['colour'] ['color'] [i] [i] [i]",                         ":(,)"};
-
-// The word of the reflectance shader, the class it stands for, and the class of its faces. The first
-// class that a material has wins.
-struct ShadingClass {
-    const char*   word;
-    std::uint32_t material;
-    std::uint32_t face;
-    bool          smooth; // lit per vertex: the corners need normals
-};
-constexpr ShadingClass kClasses[] = {
-    {"constant", MAT_CONSTANT, FACE_CONSTANT, false},
-    {"matte",    MAT_MATTE,    FACE_MATTE,    false},
-    {"plastic",  MAT_PLASTIC,  FACE_PLASTIC,  true},
-    {"phong",    MAT_PHONG,    FACE_PHONG,    true},
-};
-// clang-format on
-constexpr const ShadingClass& kDefaultClass = kClasses[1];
-
-constexpr std::size_t kFileNameStart = 18;     // REQUIRED R18: characters before the name
-constexpr std::int32_t kMaterialNumbers = 256; // numbers a file can use
-constexpr char kTextureFolder[] = "./data/texture/";
-constexpr float kMipBrightness = 1.01F;
-constexpr float kFilterScale = 0.02745098F; // 7 / 255
-constexpr long kShortestVertexLine = 6;     // "0 0 0" and a line end
 
 // Everything one load works on.
 struct Load {
@@ -312,15 +258,6 @@ void CopyText(char* destination, std::size_t size, const char* text) {
     const std::size_t length = std::min(std::strlen(text), size - 1);
     std::memcpy(destination, text, length);
     std::memset(destination + length, 0, size - length);
-}
-
-// What stands behind the last slash, backslash or character beyond ASCII.
-const char* BaseName(const char* name) {
-    const char* p = name + std::strlen(name);
-    while (p > name && p[-1] != '\\' && p[-1] != '/' && (p[-1] & 0x80) == 0) {
-        --p;
-    }
-    return p;
 }
 
 // Makes the mesh's texture from the named image, or, where that cannot be read, in the shape of the
@@ -565,6 +502,14 @@ void FinishObject(Load* load) {
 }
 
 } // namespace
+
+const char* cob::BaseName(const char* name) {
+    const char* p = name + std::strlen(name);
+    while (p > name && p[-1] != '\\' && p[-1] != '/' && (p[-1] & 0x80) == 0) {
+        --p;
+    }
+    return p;
+}
 
 int loadObject(Mesh* mesh, const char* path, const LoadRequest& request) {
     *mesh = Mesh{};

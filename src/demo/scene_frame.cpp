@@ -7,7 +7,6 @@
 
 #include "base/shell_state.h"
 #include "demo/face_views.h"
-#include "raster/draw_job.h"
 #include "scene/mesh_transform.h"
 #include "scene/pipeline.h"
 
@@ -19,8 +18,6 @@ constexpr std::uint32_t kTestAllSides = 7;
 constexpr float kSkyStep = -0.02F; // degrees a frame
 constexpr float kPartStep = 0.2F;
 
-constexpr std::uint32_t kJobFlags = DRAW_INV_DEPTH | DRAW_MIPMAP | DRAW_BLEND | DRAW_PATH_1;
-static_assert(kJobFlags == 0x134);
 constexpr std::int32_t kOwnLevels = -1;
 constexpr std::int32_t kLodDistance = 1000;
 
@@ -54,7 +51,7 @@ void DrawFilled(FaceList* list, World* scene) {
         static_cast<std::size_t>(shell.screenWidth) * static_cast<std::size_t>(shell.screenHeight);
     std::memset(scene->depth, 0, cells * sizeof *scene->depth);
     DrawJob job{};
-    job.flags = kJobFlags;
+    job.flags = kSceneJobFlags;
     job.faces = list;
     job.frame = display.back.pixels;
     job.framePitch = display.back.pitch;

@@ -6,6 +6,7 @@
 
 #include "demo/world.h"
 #include "platform/display.h"
+#include "raster/draw_job.h"
 
 namespace ombrel {
 
@@ -24,6 +25,11 @@ void AddListObjects(FaceList* list, World* scene);
 
 // Back faces, lights, camera space, clipping, order and projection, as the switches have it.
 void RunFacePipeline(FaceList* list, World* scene, const SceneSwitches& set);
+
+// What both scenes ask of the dispatcher: inverse depth, affine texels, blending.
+inline constexpr std::uint32_t kSceneJobFlags =
+    DRAW_INV_DEPTH | DRAW_MIPMAP | DRAW_BLEND | DRAW_PATH_1;
+static_assert(kSceneJobFlags == 0x134);
 
 enum class View { Nothing, Dots, Wire, Filled };
 // Draws the mapped list into the locked back surface; does nothing when it is not locked.

@@ -17,10 +17,6 @@ namespace {
 // A number longer than this is cut: what is left out is used up but does not count.
 constexpr std::int32_t kMaxNumber = 127;
 
-constexpr std::uint32_t kListOptions =
-    LOAD_SWAP_YZ | LOAD_MIRROR_V | LOAD_OBJECT_FRAME | LOAD_TRANSFORM;
-static_assert(kListOptions == 0x708);
-
 bool IsBlank(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
@@ -117,7 +113,8 @@ std::string ReadWholeFile(const char* path) {
         return content;
     }
     char block[4096];
-    for (std::size_t n = 0; (n = std::fread(block, 1, sizeof block, file)) > 0;) {
+    std::size_t n = 0;
+    while (content.size() < kMaxListFile && (n = std::fread(block, 1, sizeof block, file)) > 0) {
         content.append(block, n);
     }
     std::fclose(file);

@@ -2,12 +2,18 @@
 // they are. Read once by start-up into the scene object table.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
+#include "assets/object_loader.h"
 #include "demo/world.h"
 
 namespace ombrel {
 
+inline constexpr std::size_t kMaxListFile = std::size_t{1} << 20; // bytes read of a list
+inline constexpr std::uint32_t kListOptions =
+    LOAD_SWAP_YZ | LOAD_MIRROR_V | LOAD_OBJECT_FRAME | LOAD_TRANSFORM;
+static_assert(kListOptions == 0x708);
 inline constexpr std::int32_t kMaxScenePath = 1023; // characters; a longer word is cut to this
 
 // What one read of the list gives: sizes and places in tenths of a unit, angles in degrees.

@@ -7,6 +7,7 @@
 #include "assets/object_loader.h"
 #include "base/random15.h"
 #include "base/shell_state.h"
+#include "demo/fixed_objects.h"
 #include "demo/font.h"
 #include "demo/scene_list.h"
 #include "demo/soundtrack.h"
@@ -30,28 +31,9 @@ constexpr float kNear = 1.0F;
 constexpr float kFar = 15000.0F;
 constexpr float kFov = 90.0F;
 
-constexpr std::uint32_t kFixedOptions = LOAD_SWAP_XZ | LOAD_OBJECT_FRAME | LOAD_TRANSFORM;
-static_assert(kFixedOptions == 0x610);
 constexpr float kGroundShift = 50.0F;
 
-// The fixed objects, in the order in which they are loaded.
-struct FixedObject {
-    Mesh World::*mesh;
-    const char* path;
-    float scale[3];
-    Vec3 position;
-    bool shifted; // the x of its vertex 0 grows by kGroundShift
-};
 // clang-format off
-constexpr FixedObject kFixedObjects[] = {
-    {&World::sky,         "./data/3d/sky-sphere-04.cob",          {1000.0F, 1000.0F, 1000.0F}, {0.0F, 2000.0F, 0.0F, 1.0F}, false},
-    {&World::skyAlpha0,   "./data/3d/sky-sphere-04-alpha0.cob",   {1000.0F, 1000.0F, 1000.0F}, {0.0F, 2000.0F, 0.0F, 1.0F}, false},
-    {&World::skyAlphaS2,  "./data/3d/sky-sphere-04-alpha-s2.cob", {1000.0F, 1000.0F, 1000.0F}, {0.0F, 2000.0F, 0.0F, 1.0F}, false},
-    {&World::stay,        "./data/3d/stay-01.cob",                {1100.0F, 1100.0F, 1100.0F}, {0.0F, -560.0F, 0.0F, 1.0F}, false},
-    {&World::ground,      "./data/3d/ground-lowpoly-03.cob",      {  80.0F,  125.0F,  125.0F}, {0.0F,    0.0F, 0.0F, 1.0F}, true},
-    {&World::groundAlpha, "./data/3d/ground-lowpoly-03-alpha.cob",{  80.0F,  125.0F,  125.0F}, {0.0F,    0.0F, 0.0F, 1.0F}, true},
-};
-
 struct LightRow {
     std::uint32_t kind;
     std::uint32_t ambientColor, lightColor;
@@ -118,10 +100,9 @@ void LoadFixedObject(const FixedObject& object) {
 }
 
 void LoadLightMarker() {
-    constexpr float kScale[3] = {100.0F, 100.0F, 100.0F};
     Mesh* const mesh = &world.lightMarker;
-    loadObject(mesh, "./data/3d/light_debug.cob",
-               LoadRequest{kScale, &kOrigin, &kOrigin, kFixedOptions, 0});
+    loadObject(mesh, kLightMarkerPath,
+               LoadRequest{kLightMarkerScale, &kOrigin, &kOrigin, kFixedOptions, 0});
     for (std::int32_t i = 0; i < mesh->faceCount; ++i) {
         if (IsDrawable(mesh->faces[i].active)) {
             mesh->faces[i].color = displayFormat.pack(0, 0, 0);

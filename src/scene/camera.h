@@ -1,6 +1,7 @@
 // The one viewer and its keyed tracks. The camera looks along +Z, +X right, +Y up; degrees.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "math/vec3.h"
@@ -70,6 +71,12 @@ void ResetTrackState();
 // (its other columns keep the values of the line before); a line that gives nothing ends the
 // reading.
 std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
+
+// One key of a track's text: reads from *text on and moves it behind what matched. Returns how many
+// of the eleven columns were read; the others are left alone. 0: no number stands there.
+inline constexpr std::int32_t kTrackColumns = 11;
+inline constexpr std::size_t kMaxTrackFile = std::size_t{16} << 20; // bytes read of a file
+std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]);
 
 // Writes the sampled values into the camera, steps on, returns the segment just sampled. With fewer
 // than 3 keys the camera and trackT stay as they are, the segment becomes 0 and 0 is returned.

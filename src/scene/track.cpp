@@ -19,9 +19,7 @@ void ResetTrackState() {
 
 namespace {
 
-constexpr std::int32_t kColumns = 11;
 constexpr char kLinePattern[] = "%f, %f, %f;\t%f, %f, %f;\t%f, %f, %f;\t%f;\t%f;\n";
-constexpr std::size_t kMaxFileSize = std::size_t{16} << 20; // bytes; far above any true track
 
 bool IsBlank(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
@@ -36,7 +34,7 @@ std::string ReadText(const char* path) {
     }
     char block[4096];
     std::size_t length = 0;
-    while (text.size() < kMaxFileSize && (length = std::fread(block, 1, sizeof block, file)) > 0) {
+    while (text.size() < kMaxTrackFile && (length = std::fread(block, 1, sizeof block, file)) > 0) {
         text.append(block, length);
     }
     std::fclose(file);
@@ -52,39 +50,8 @@ const char* SkipFalseStart(const char* p) {
     return *p == '.' ? p + 1 : p;
 }
 
-// One reading of the line pattern, from *text on, which moves behind what matched. Returns how many
-// columns were read; the others are left alone.
-std::int32_t ReadColumns(const char** text, float columns[kColumns]) {
-    std::int32_t read = 0;
-    const char* p = *text;
-    for (const char* pattern = kLinePattern; *pattern != '\0'; ++pattern) {
-        if (IsBlank(*pattern)) {
-            // Any blanks match, none too.
-            while (IsBlank(*p)) {
-                ++p;
-            }
-        } else if (*pattern == '%') {
-            ++pattern;
-            const char* end = p;
-            const float value = ParseFloat(p, &end);
-            if (end == p) {
-                p = SkipFalseStart(p);
-                break;
-            }
-            columns[read++] = value;
-            p = end;
-        } else if (*p == *pattern) {
-            ++p;
-        } else {
-            break;
-        }
-    }
-    *text = p;
-    return read;
-}
-
 // REQUIRED R29: the first three columns are stored in reverse.
-void StoreKey(Camera* key, const float columns[kColumns]) {
+void StoreKey(Camera* key, const float columns[kTrackColumns]) {
     key->keyBias = columns[0];
     key->keyContinuity = columns[1];
     key->tension = columns[2];
@@ -114,13 +81,42 @@ float Interpolate(const Spline& s, float p0, float p1, float p2) {
 
 } // namespace
 
+std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]) {
+    std::int32_t read = 0;
+    const char* p = *text;
+    for (const char* pattern = kLinePattern; *pattern != '\0'; ++pattern) {
+        if (IsBlank(*pattern)) {
+            // Any blanks match, none too.
+            while (IsBlank(*p)) {
+                ++p;
+            }
+        } else if (*pattern == '%') {
+            ++pattern;
+            const char* end = p;
+            const float value = ParseFloat(p, &end);
+            if (end == p) {
+                p = SkipFalseStart(p);
+                break;
+            }
+            columns[read++] = value;
+            p = end;
+        } else if (*p == *pattern) {
+            ++p;
+        } else {
+            break;
+        }
+    }
+    *text = p;
+    return read;
+}
+
 std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
     const std::string text = ReadText(path);
     const char* p = text.c_str();
     // REQUIRED R39: columns that a read does not reach keep what the read before left in them.
-    float columns[kColumns] = {};
+    float columns[kTrackColumns] = {};
     std::int32_t count = 0;
-    while (count < capacity && ReadColumns(&p, columns) > 0) {
+    while (count < capacity && ReadTrackColumns(&p, columns) > 0) {
         StoreKey(&keys[count], columns);
         ++count;
     }
