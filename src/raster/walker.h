@@ -85,17 +85,19 @@ void WalkTriangle(const Corner<N> corners[3], RowRange rows, DrawSpan drawSpan) 
     const bool flatTop = top->y == middle->y;       // d
     const bool flatBottom = middle->y == bottom->y; // e
 
-    // Set up the long edge and the upper short edge, and choose their sides. (a, c, f)
+    // Set up the long edge, and the lower short edge where the upper one has no row. (a, c, d)
+    const bool turned = flatTop || middle->y < rows.first;
+    const Corner<N>& from = turned ? *middle : *top;
+    const Corner<N>& to = turned ? *bottom : *middle;
     Edge<N> longEdge = MakeEdge(*top, *bottom, rows.first - top->y);
-    Edge<N> shortEdge;
+    Edge<N> shortEdge = MakeEdge(from, to, rows.first - from.y);
+    // Choose their sides; the slopes are those of the edges that meet at the top. (f)
     bool longOnLeft = top->x <= middle->x;
     if (!flatTop) {
-        shortEdge = MakeEdge(*top, *middle, rows.first - top->y);
-        longOnLeft = flatBottom ? bottom->x < middle->x : longEdge.step[0] < shortEdge.step[0];
-    }
-    // Take the lower short edge at once where the upper one has no row. (c, d)
-    if (flatTop || middle->y < rows.first) {
-        shortEdge = MakeEdge(*middle, *bottom, rows.first - middle->y);
+        const std::int32_t slope = turned
+                                       ? DivChop(middle->slot[0] - top->slot[0], middle->y - top->y)
+                                       : shortEdge.step[0];
+        longOnLeft = flatBottom ? bottom->x < middle->x : longEdge.step[0] < slope;
     }
     const std::int32_t bend = flatTop ? rows.last : middle->y;
     Edge<N>& left = longOnLeft ? longEdge : shortEdge;
