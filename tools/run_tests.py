@@ -140,6 +140,7 @@ def main():
 
     print("Release build")
     if build("release", ["all"], "-DOMBREL_TESTS=ON", "-DOMBREL_BENCH=ON"):
+        step("clang-tidy and cppcheck", [ROOT / "tools/check_static.py", release])
         longest_first = [] if quick else whole_runs(release)
         side_by_side([(name, [program], {}) for name, program in
                       longest_first + test_programs(release)])

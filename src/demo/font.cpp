@@ -27,7 +27,7 @@ Rect CellOf(std::int32_t code, std::int32_t sheetWidth, std::int32_t sheetHeight
 
 void FillFrame(GlyphSet* set, std::int32_t code, const BmpImage& sheet) {
     FrameBuffer memory{};
-    if (!LockSurface(set->frames[code], &memory)) {
+    if (LockSurface(set->frames[code], &memory) == 0) {
         return;
     }
     const std::int32_t sheetWidth = sheet.infoHeader.width;
@@ -63,7 +63,7 @@ void DrawFrame(const GlyphSet& set, Surface* surface) {
 } // namespace
 
 int LoadGlyphSet(const char* path, GlyphSet* set) {
-    if (!loadBmp(&fontImage, path) || fontImage.infoHeader.bitCount != 16) {
+    if (loadBmp(&fontImage, path) == 0 || fontImage.infoHeader.bitCount != 16) {
         return 0;
     }
     ReleaseGlyphSet(set);
@@ -71,9 +71,8 @@ int LoadGlyphSet(const char* path, GlyphSet* set) {
     set->height = kGlyphHeight;
     set->frameCount = kGlyphCount;
     set->attributes = kGlyphAttributesAtStart;
-    for (std::int32_t code = 0; code < kGlyphCount; ++code) {
-        set->frames[code] =
-            MakeOffscreenSurface(kGlyphWidth, kGlyphHeight, SurfaceMemory::System, kKeyColor);
+    for (Surface*& glyph : set->frames) {
+        glyph = MakeOffscreenSurface(kGlyphWidth, kGlyphHeight, SurfaceMemory::System, kKeyColor);
     }
     for (std::int32_t code = 0; code < kGlyphCount; ++code) {
         FillFrame(set, code, fontImage);

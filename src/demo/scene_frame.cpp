@@ -76,7 +76,7 @@ void AddObject(FaceList* list, Mesh* object) {
 }
 
 void AddObjectInSight(FaceList* list, Mesh* object, const Camera& camera) {
-    if (!ObjectCullSphere(object, &camera, kTestAllSides)) {
+    if (ObjectCullSphere(object, &camera, kTestAllSides) == 0) {
         AddObject(list, object);
     }
 }
@@ -92,7 +92,7 @@ void AddGroundTiles(FaceList* list, Mesh* tile, const Camera& camera, std::int32
             }
             tile->position.x = TilePlace(i);
             tile->position.z = TilePlace(j);
-            if (!ObjectCullSphere(tile, &camera, kTestAllSides)) {
+            if (ObjectCullSphere(tile, &camera, kTestAllSides) == 0) {
                 MeshResetFrame(tile);
                 AddAtPosition(list, tile);
             }
@@ -104,7 +104,7 @@ void AddListObjects(FaceList* list, World* scene) {
     // REQUIRED R42: from the empty entry on, but without the last object.
     for (std::int32_t e = kFirstSceneObject; e < scene->objectCounter; ++e) {
         Mesh* const object = &scene->objects[e];
-        if (ObjectCullSphere(object, &scene->camera, kTestAllSides)) {
+        if (ObjectCullSphere(object, &scene->camera, kTestAllSides) != 0) {
             continue;
         }
         MeshResetFrame(object);

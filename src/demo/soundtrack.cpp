@@ -19,7 +19,7 @@ void StartSoundtrack() {
     if (calls.getVersion() >> 16 != kSoundVersion) {
         ShowMessage("An incorrect version of BASS.DLL was loaded", MessageKind::Error);
     }
-    if (!calls.init(kDefaultDevice, kFrequency)) {
+    if (calls.init(kDefaultDevice, kFrequency) == 0) {
         ShowMessage("Couldn't initialize sound device...", MessageKind::Ok);
         calls.init(kSilentDevice, kFrequency);
     }

@@ -134,7 +134,7 @@ int StartUp() {
     // Take the screen. What cannot be had is done without.
     EnableScreenSaver(false);
     OpenDisplay(shell.screenWidth, shell.screenHeight, kBitsPerPixel, shell.windowed, 0);
-    if (!shell.windowed) {
+    if (shell.windowed == 0) {
         ShowMouseCursor(false);
     }
 
@@ -174,7 +174,7 @@ int StartUp() {
 void ShutDown() {
     CloseDisplay();
     EnableScreenSaver(true);
-    if (shell.windowed) {
+    if (shell.windowed != 0) {
         RestoreDesktopDepth();
     }
     if (!shell.noSound) {

@@ -25,7 +25,7 @@ bool ReadNumber(const std::string& text, std::int64_t low, std::int64_t high, st
 
 std::string ReadFrames(const std::string& text, Options* options) {
     const std::size_t colon = text.find(':');
-    const std::string problem = "--frames: \"" + text + "\" is not A:B with A below B";
+    std::string problem = "--frames: \"" + text + "\" is not A:B with A below B";
     if (colon == std::string::npos || text.size() == 1) {
         return problem;
     }
@@ -154,7 +154,7 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
             }
             value = argv[++i];
         }
-        const std::string problem = ReadOption(name, value, options);
+        std::string problem = ReadOption(name, value, options);
         if (!problem.empty()) {
             return problem;
         }

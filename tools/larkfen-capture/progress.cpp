@@ -2,6 +2,7 @@
 #include "progress.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 #if __has_include(<unistd.h>)
@@ -37,7 +38,7 @@ void ShowProgress(Progress* progress, std::int64_t played) {
     if (progress->total > 0 && rate > 0.0) {
         const auto total = static_cast<double>(progress->total);
         const double left = std::max(0.0, total - static_cast<double>(played)) / rate;
-        const auto seconds = static_cast<long long>(left + 0.5);
+        const auto seconds = std::llround(left);
         std::fprintf(stderr, "\rframe %lld of %lld, %.0f frames per second, %lld:%02lld left   ",
                      static_cast<long long>(played), static_cast<long long>(progress->total), rate,
                      seconds / 60, seconds % 60);

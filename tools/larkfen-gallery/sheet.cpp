@@ -67,7 +67,7 @@ Pixel16* BeginCell(Gallery* g, const std::string& label, DepthRule rule) {
     }
     DrawText(&g->sheet, g->x, g->y + kCellHeight + 3, label, kInk);
     const std::uint32_t clear = rule == DepthRule::W ? 0U : 0xFFFFFFFFU;
-    g->depth.assign(static_cast<std::size_t>(kCellWidth * kCellHeight), clear);
+    g->depth.assign(std::size_t{kCellWidth} * kCellHeight, clear);
     Pixel16* frame = g->sheet.At(g->x, g->y);
     g->x += kCellWidth + kGap;
     return frame;
@@ -196,8 +196,9 @@ void DrawMipLevels(Gallery* g) {
     constexpr float kSquare[4][2] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
     for (std::int32_t level = 0; level <= kLargestLevel; ++level) {
         const std::string size = std::to_string(kMipWidth >> level);
-        Pixel16* frame = BeginCell(g, "level " + std::to_string(level) + ", " + size + " x " + size,
-                                   DepthRule::W);
+        std::string label = "level " + std::to_string(level);
+        label.append(", ").append(size).append(" x ").append(size);
+        Pixel16* frame = BeginCell(g, label, DepthRule::W);
         FaceListClear(g->list.get());
         for (int half = 0; half < 2; ++half) {
             RenderFace& face = g->list->records[half];
