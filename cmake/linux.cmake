@@ -20,6 +20,10 @@ ombrel_program(larkfen src/app/entry_sdl2.cpp ombrel_app ombrel_demo ombrel_plat
 ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
+if(TARGET larkfen-inspect) # its pictures are lettered and written as those of the other tools
+  target_sources(larkfen-inspect PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-gallery/tiny_font.cpp
+                                         ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/picture.cpp)
+endif()
 
 if(OMBREL_TESTS)
   enable_testing()
@@ -34,3 +38,7 @@ if(OMBREL_BENCH)
                                                 benchmark::benchmark)
   endif()
 endif()
+
+# --- the release: cmake --build --preset package makes the three archives in build/package/ ---------
+add_custom_target(packages COMMAND ${CMAKE_SOURCE_DIR}/tools/package.py DEPENDS larkfen USES_TERMINAL
+                  VERBATIM)

@@ -1,10 +1,13 @@
 """Screenshots against frames of the production: a part of the screen is turned back into 5-6-5
 pixels and its hash looked up among the hash lines of the recorder."""
+import gzip
+import pathlib
 import time
 
 from wine_desk import WIDTH, Failure, expect
 
 MASK = (1 << 64) - 1
+STORED = pathlib.Path(__file__).resolve().parent.parent / "scenario/frames.txt.gz"
 
 
 def crop(screen, left, top, width, height, step=1):
@@ -28,13 +31,22 @@ def fnv(data):
     return f"{value:016x}"
 
 
-def read_hashes(path):
-    """{hash: frame number} of a file of hash lines."""
-    table = {}
-    for line in path.read_text().splitlines():
-        words = line.split()
-        table.setdefault(words[7], int(words[1]))
-    return table
+def stored_frames():
+    """[(frame number, hash of the picture)] of the whole production at 640x480, as stored."""
+    with gzip.open(STORED, "rt") as file:
+        return read_frames(file)
+
+
+def read_frames(lines):
+    """[(frame number, hash of the picture)] of lines of the recorder or of the stored ones;
+    in both the hash is the last word."""
+    words = [line.split() for line in lines]
+    return [(int(word[1]), word[-1]) for word in words]
+
+
+def by_hash(frames):
+    """{hash: first frame number}."""
+    return {picture: number for number, picture in reversed(frames)}
 
 
 def find_frame(desk, name, known, place, scale=1, tries=60):

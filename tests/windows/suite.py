@@ -3,20 +3,22 @@
 One line a case; the last line is `N passed, N failed`. Screenshots stay in windows-tests/screens."""
 import argparse
 import pathlib
+import queue
 import re
 import shutil
 import subprocess
 import sys
+import threading
 import time
 
 import pe_file
-from pictures import crop, find_frame, read_hashes
+from pictures import by_hash, crop, find_frame, read_frames, stored_frames
 from wine_desk import HEIGHT, SLOW, WIDTH, Desk, Failure, Stage, expect, windows_path
 
 HERE = pathlib.Path(__file__).resolve().parent
 TITLE = "Ombrel - a fast prod from Quellant"
 SIZES = ["320x240", "400x300", "512x384", "640x480", "800x600", "1024x768", "1280x800"]
-KNOWN_FRAMES = 400  # of each size; a screenshot falls into the first ten seconds
+KNOWN_FRAMES = 400  # of the other sizes; a screenshot falls into the first ten seconds
 HELP = ("Help. You can use args:\\n -w  Run in window\\n -ns  No Sound\\n -resolution=?x?  Resolution "
         "(320x240, 400x300, 512x384, 640x480, 800x600, 1024x768, 1280x800)\\n\\nexamlpe:\\tlarkfen.exe "
         "-w -resolution=800x600")
@@ -32,21 +34,21 @@ def case(quick=False):
 
 
 class Suite:
-    """What the cases share: the desk, and the frames that each size may show."""
+    """What the cases of one desk share: the desk, and the frames that each size may show."""
 
     def __init__(self, desk, reference):
         self.desk = desk
         self.reference = reference
-        self.tables = {}
+        self.tables = {"640x480": by_hash(stored_frames())}
         self.program = windows_path(desk.build / "larkfen.exe")
 
     def frames(self, size="640x480"):
-        """{hash: number} of the first frames at a size, as the recorder draws them."""
+        """{hash: number} of the frames at a size: the stored ones, or the recorder's first ones."""
         if size not in self.tables:
             out = self.desk.work / f"frames-{size}.txt"
             switches = ["-w", "-ns", f"-resolution={size}", "--frames", f"0:{KNOWN_FRAMES}"]
             self.record(out, switches)
-            self.tables[size] = read_hashes(out)
+            self.tables[size] = by_hash(read_frames(out.read_text().splitlines()))
         return self.tables[size]
 
     def record(self, out, switches):
@@ -97,8 +99,7 @@ def program_files(suite):
     for folder in ("win64", "win32"):
         path = suite.desk.build if folder == "win64" else suite.desk.build.parent / folder
         program = path / "larkfen.exe"
-        if folder == "win32" and not program.exists():
-            continue
+        expect(program.exists(), f"{program} is not there: cmake --workflow --preset {folder}")
         pe_file.check_program(program)
         if folder == "win32":
             pe_file.check_imports_listed(program, HERE / "xp_imports.txt")
@@ -508,60 +509,40 @@ def no_library(suite):
 
 # --- frames
 
-def compare_hashes(one, other, least):
-    """Two files of hash lines are the same, and long enough."""
-    a, b = one.read_text().splitlines(), other.read_text().splitlines()
-    for x, y in zip(a, b):
-        expect(x == y, f"{x} / {y}")
-    expect(len(a) == len(b) >= least, f"{len(a)} and {len(b)} lines")
-
-
-def hashes_of_probe(suite, name, frames, *wrong):
-    """Hash lines of the production on the real back end."""
+def compare_frames(suite, name, count, *wrong):
+    """Plays so many frames on the real back end: they are the stored ones."""
     out = suite.desk.work / f"{name}.txt"
-    suite.probe("--hashes", windows_path(out), "--frames", str(frames), *wrong, "--", "-w", "-ns",
-                limit=1200)
-    return out
-
-
-def first_lines(suite, name, source, count):
-    """The first lines of a file of hash lines, as a file."""
-    out = suite.desk.work / f"{name}-first.txt"
-    out.write_text("".join(source.read_text().splitlines(True)[:count]))
-    return out
+    suite.probe("--hashes", windows_path(out), "--frames", str(count - 1), *wrong, "--", "-w",
+                "-ns", limit=1200)
+    got, wanted = read_frames(out.read_text().splitlines()), stored_frames()
+    for one, other in zip(got, wanted):
+        expect(one == other, f"frame {one}, stored {other}")
+    expect(len(got) == min(count, len(wanted)), f"{len(got)} frames")
 
 
 @case(quick=True)
 def same_frames(suite):
     """the frames of the real back end are those of the recorder"""
-    suite.frames()
-    wanted = first_lines(suite, "wanted", suite.desk.work / "frames-640x480.txt", 61)
-    compare_hashes(hashes_of_probe(suite, "real", 60), wanted, 61)
+    compare_frames(suite, "real", 61)
 
 
 @case()
 def wide_pitch(suite):
     """rows further apart than twice the width: the same frames"""
-    suite.frames()
-    wanted = first_lines(suite, "wide", suite.desk.work / "frames-640x480.txt", 61)
-    compare_hashes(hashes_of_probe(suite, "pitch", 60, "--wrong", "pitch"), wanted, 61)
+    compare_frames(suite, "pitch", 61, "--wrong", "pitch")
 
 
 @case()
 def lost_frames(suite):
     """surfaces lost for five frames: the production goes on, the same frames after"""
-    suite.frames()
-    wanted = first_lines(suite, "lost", suite.desk.work / "frames-640x480.txt", 31)
-    compare_hashes(hashes_of_probe(suite, "losing", 30, "--wrong", "lost"), wanted, 31)
+    compare_frames(suite, "losing", 31, "--wrong", "lost")
 
 
 @case()
 def other_format(suite):
     """a 32-bit screen: the same frames, texts included"""
-    suite.frames()
-    wanted = first_lines(suite, "format", suite.desk.work / "frames-640x480.txt", 31)
-    compare_hashes(hashes_of_probe(suite, "own", 30, "--wrong", "depth"), wanted, 31)
-    compare_hashes(hashes_of_probe(suite, "own-gdi", 30, "--wrong", "gdi"), wanted, 31)
+    compare_frames(suite, "own", 31, "--wrong", "depth")
+    compare_frames(suite, "own-gdi", 31, "--wrong", "gdi")
 
 
 @case()
@@ -585,49 +566,82 @@ def no_data(suite):
 
 @case()
 def whole_production(suite):
-    """the whole production on the real back end ends by itself, frame for frame the recorder's"""
-    wanted = suite.desk.work / "whole.txt"
-    suite.record(wanted, ["-w", "-ns"])
-    compare_hashes(hashes_of_probe(suite, "whole-real", 1000000), wanted, 3000)
+    """the whole production on the real back end ends by itself, frame for frame the stored one"""
+    compare_frames(suite, "whole-real", 1000000)
+
+
+def run_cases(suite, waiting, results, lock):
+    """Runs cases until none waits; tells of each, and adds whether it passed to the results."""
+    while True:
+        try:
+            name, function = waiting.get_nowait()
+        except queue.Empty:
+            return
+        start = time.monotonic()
+        try:
+            function(suite)
+            fault = None
+        except (Failure, OSError, subprocess.SubprocessError, AssertionError) as error:
+            fault = str(error) or type(error).__name__
+            suite.desk.end_programs()
+        with lock:
+            results.append(fault is None)
+            seconds = f"({time.monotonic() - start:.0f} s)"
+            print(f"FAILED {name}: {fault} {seconds}" if fault else f"ok     {name} {seconds}",
+                  flush=True)
+
+
+def run_desk(number, options, shared):
+    """One desk from its beginning to its end; what goes wrong with it counts as a failed case."""
+    waiting, results, lock = shared
+    try:
+        desk = Desk(options.build, number)
+        try:
+            desk.prepare()
+            run_cases(Suite(desk, options.reference), waiting, results, lock)
+        finally:
+            desk.close()
+    except (Failure, OSError, ValueError, subprocess.SubprocessError) as error:
+        with lock:
+            results.append(False)
+            print(f"FAILED desk {number}: {error}", flush=True)
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("build", help="the build folder of the 64-bit programs")
+    parser.add_argument("build", help="the build folder of the 64-bit programs; the 32-bit program "
+                        "stands in ../win32 of it")
     parser.add_argument("--quick", action="store_true", help="a few cases only")
     parser.add_argument("--only", default="", help="only cases whose name this pattern is found in")
+    parser.add_argument("--but", default="$^", help="no cases whose name this pattern is found in")
+    parser.add_argument("--desks", type=int, default=1, help="so many cases side by side")
     parser.add_argument("--list", action="store_true", help="name the cases and end")
     parser.add_argument("--reference", help="a native larkfen-capture to compare with "
                         "(default: ../release/larkfen-capture of the build folder, if there)")
     options = parser.parse_args()
     chosen = [(name, function) for name, function, quick in cases
-              if (quick or not options.quick) and re.search(options.only, name)]
+              if (quick or not options.quick) and re.search(options.only, name)
+              and not re.search(options.but, name)]
     if options.list:
         print("\n".join(name for name, _ in chosen))
         return 0
     near = pathlib.Path(options.build).resolve().parent / "release/larkfen-capture"
-    reference = options.reference or (str(near) if near.exists() else None)
-    desk = Desk(options.build)
-    passed = failed = 0
-    try:
-        desk.prepare()
-        suite = Suite(desk, reference)
-        suite.frames()
-        print(f"frames compared with {reference or 'larkfen-hashes.exe'}", flush=True)
-        for name, function in chosen:
-            start = time.monotonic()
-            try:
-                function(suite)
-                passed += 1
-                print(f"ok     {name} ({time.monotonic() - start:.0f} s)", flush=True)
-            except (Failure, OSError, subprocess.SubprocessError, AssertionError) as error:
-                failed += 1
-                print(f"FAILED {name}: {error}", flush=True)
-                desk.end_programs()
-    finally:
-        desk.close()
-    print(f"{passed} passed, {failed} failed")
-    return 1 if failed or not passed else 0
+    options.reference = options.reference or (str(near) if near.exists() else None)
+    print(f"other sizes than 640x480 compared with {options.reference or 'larkfen-hashes.exe'}",
+          flush=True)
+    waiting, results, lock = queue.SimpleQueue(), [], threading.Lock()
+    for one in chosen:
+        waiting.put(one)
+    desks = [threading.Thread(target=run_desk, args=(number, options, (waiting, results, lock)))
+             for number in range(min(options.desks, len(chosen)))]
+    for desk in desks:
+        desk.start()
+    for desk in desks:
+        desk.join()
+    left = waiting.qsize()
+    failed = results.count(False) + left
+    print(f"{results.count(True)} passed, {failed} failed")
+    return 1 if failed or not any(results) else 0
 
 
 if __name__ == "__main__":

@@ -1,7 +1,8 @@
 """A virtual X server with Wine on it: starting both, screenshots, keys, and the programs of a build.
 
-Everything started here is ended here, by its own process id; the Wine prefix is the suite's own and
-stands in the build folder."""
+Everything started here is ended here, by its own process id; the Wine prefixes are the tests' own and
+stand in the build folder, one for each desk that may be open at a time."""
+import fcntl
 import os
 import pathlib
 import shutil
@@ -23,23 +24,29 @@ def expect(good, what):
 
 
 class Desk:
-    """The X server, the Wine prefix and the folder of the build."""
+    """The X server, the Wine prefix and the folder of the build. Desks of different numbers do not
+    disturb each other; one of the same number waits until the other is closed."""
 
-    def __init__(self, build, depth=24):
+    def __init__(self, build, number=0, place=None):
         self.build = pathlib.Path(build).resolve()
         self.tests = self.build / "windows-tests"
-        self.screens = self.tests / "screens"
-        self.work = self.tests / "work"
+        place = place or self.tests
+        self.screens = place / "screens"
+        self.work = place / f"work-{number}"
+        self.prefix = self.tests / f"prefix-{number}"
+        self.prefix.mkdir(parents=True, exist_ok=True)
+        self.lock = (self.tests / f"prefix-{number}.lock").open("w")
+        fcntl.flock(self.lock, fcntl.LOCK_EX)
         shutil.rmtree(self.work, ignore_errors=True)
         for folder in (self.screens, self.work):
             folder.mkdir(parents=True, exist_ok=True)
-        self.env = dict(os.environ, WINEPREFIX=str(self.tests / "prefix"), WINEDEBUG="-all",
+        self.env = dict(os.environ, WINEPREFIX=str(self.prefix), WINEDEBUG="-all",
                         WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=", WINEARCH="win64",
                         LC_ALL="C.UTF-8")
         self.env.pop("WAYLAND_DISPLAY", None)
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x{depth}",
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
              "-nolisten", "tcp", "-noreset"], pass_fds=[write], stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL)
         os.close(write)
@@ -49,7 +56,7 @@ class Desk:
 
     def prepare(self):
         """Makes the Wine prefix at its first use, without a sound device."""
-        if not (self.tests / "prefix/system.reg").exists():
+        if not (self.prefix / "system.reg").exists():
             self.wine(["wineboot", "-i"], limit=600)
         self.wine(["reg", "add", "HKCU\\Software\\Wine\\Drivers", "/v", "Audio", "/d", "", "/f"],
                   limit=600)
@@ -69,6 +76,7 @@ class Desk:
         self.end_programs()
         self.server.terminate()
         self.server.wait()
+        self.lock.close()
 
     def start(self, command, folder=None):
         """Starts `wine command` in the background."""

@@ -1,0 +1,201 @@
+"""The archives of the release: what they hold, that they are made the same twice, and that each one
+starts from the folder it was unpacked into."""
+import argparse
+import calendar
+import pathlib
+import shutil
+import struct
+import subprocess
+import sys
+import tarfile
+import zipfile
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "tests/windows"))
+
+# pylint: disable=wrong-import-position
+import pe_file
+from pictures import by_hash, find_frame, stored_frames
+from wine_desk import Desk, Failure, Stage, expect, windows_path
+
+TITLE = "Ombrel - a fast prod from Quellant"
+NOON = (2026, 5, 1, 12, 0, 0)
+ZIPS = ("ombrel-win32.zip", "ombrel-win64.zip")
+TAR = "ombrel-linux.tar.gz"
+FIRST_OF_MAY = calendar.timegm(NOON)
+I386, AMD64 = 0x14c, 0x8664
+
+
+def names(program, licence):
+    """The files that an archive must hold, in order."""
+    data = [line.split(" | ")[0] for line in (ROOT / "art/MANIFEST").read_text().splitlines()
+            if line and not line.startswith("#")]
+    return sorted([program, "readme.txt", "file_id.diz", "licences/ombrel.txt",
+                   "licences/fonts.txt", f"licences/{licence}", *(f"data/{name}" for name in data)])
+
+
+def unpack(folder, work):
+    """Every archive into an empty folder of its own, as a user does."""
+    for archive in (*ZIPS, TAR):
+        place = work / archive
+        place.mkdir(parents=True)
+        shutil.unpack_archive(folder / archive, place)
+
+
+def zip_contents(folder):
+    """the zip archives: exactly the files that ship, one time and mode, in order"""
+    for archive in ZIPS:
+        with zipfile.ZipFile(folder / archive) as file:
+            entries = file.infolist()
+        got = [entry.filename for entry in entries]
+        expect(got == names("larkfen.exe", "mingw-w64.txt"), f"{archive} holds {got}")
+        for entry in entries:
+            mode = 0o100755 if entry.filename == "larkfen.exe" else 0o100644
+            expect((entry.date_time, entry.external_attr >> 16) == (NOON, mode), str(entry))
+
+
+def tar_contents(folder):
+    """the tar archive: the same below ombrel/, owned by nobody in particular"""
+    with tarfile.open(folder / TAR) as file:
+        entries = file.getmembers()
+    got = [entry.name for entry in entries]
+    expect(got == ["ombrel/" + name for name in names("larkfen", "sdl.txt")], f"{TAR} holds {got}")
+    for entry in entries:
+        mode = 0o755 if entry.name == "ombrel/larkfen" else 0o644
+        expect((entry.mtime, entry.mode, entry.uid, entry.gid, entry.uname, entry.gname) ==
+               (FIRST_OF_MAY, mode, 0, 0, "root", "root"), str(entry.get_info()))
+
+
+def texts(work):
+    """the texts: line ends of the system, the right half of the readme, a small file_id.diz"""
+    for archive in (*ZIPS, TAR):
+        place = work / archive / ("ombrel" if archive == TAR else "")
+        for path in (place / "readme.txt", place / "file_id.diz", *(place / "licences").iterdir()):
+            raw = path.read_bytes()
+            ends = b"\n" if archive == TAR else b"\r\n"
+            expect(raw.endswith(ends) and raw.count(ends) == raw.count(b"\n"),
+                   f"{archive}: line ends of {path.name}")
+            expect((b"\r" in raw) == (archive != TAR), f"{archive}: line ends of {path.name}")
+        readme = (place / "readme.txt").read_text("ascii")
+        expect(("BASS.dll" in readme) == (archive != TAR) and "@" not in readme, archive)
+        expect(("libsdl2-2.0-0" in readme) == (archive == TAR), archive)
+        lines = (place / "file_id.diz").read_text("ascii").splitlines()
+        expect(len(lines) <= 10 and max(map(len, lines)) <= 45, f"{archive}: file_id.diz")
+        licence = (place / "licences/ombrel.txt").read_text("ascii")
+        expect(licence == (ROOT / "LICENSE").read_text("ascii"), f"{archive}: our licence")
+
+
+def data(work):
+    """the data: byte for byte the files of data/"""
+    for archive in (*ZIPS, TAR):
+        place = work / archive / ("ombrel" if archive == TAR else "")
+        for path in (place / "data").rglob("*"):
+            if path.is_file():
+                own = ROOT / "data" / path.relative_to(place / "data")
+                expect(path.read_bytes() == own.read_bytes(), f"{archive}: {path.name}")
+
+
+def windows_programs(work):
+    """the Windows programs: kind, no time of the linker, no symbols, imports of the system only"""
+    for archive, machine in zip(ZIPS, (I386, AMD64)):
+        program = work / archive / "larkfen.exe"
+        raw = program.read_bytes()
+        start = struct.unpack_from("<I", raw, 0x3c)[0] + 4
+        kind, _, made, symbols = struct.unpack_from("<HHII", raw, start)
+        expect((kind, made, symbols) == (machine, 0, 0), f"{kind:x} {made} {symbols}")
+        expect(str(ROOT).encode() not in raw, "it holds the path of the checkout")
+        pe_file.check_program(program)
+        if machine == I386:
+            pe_file.check_imports_listed(program, ROOT / "tests/windows/xp_imports.txt")
+
+
+def linux_program(work):
+    """the Linux program: no symbols, no path of the checkout, the libraries its readme names"""
+    program = work / TAR / "ombrel/larkfen"
+    told = subprocess.run(["readelf", "-W", "-S", "-d", str(program)], check=True,
+                          stdout=subprocess.PIPE).stdout.decode()
+    expect(".symtab" not in told and ".debug" not in told, "it holds symbols")
+    expect("RPATH" not in told and "RUNPATH" not in told, "it looks for libraries elsewhere")
+    needed = {line.split("[")[1].split("]")[0] for line in told.splitlines() if "(NEEDED)" in line}
+    allowed = {"libSDL2-2.0.so.0", "libSDL2_mixer-2.0.so.0", "libstdc++.so.6", "libm.so.6",
+               "libgcc_s.so.1", "libc.so.6", "ld-linux-x86-64.so.2"}
+    expect(needed <= allowed and "libSDL2-2.0.so.0" in needed, str(sorted(needed)))
+    expect(str(ROOT).encode() not in program.read_bytes(), "it holds the path of the checkout")
+
+
+def twice(folder, work, build):
+    """made a second time: the same bytes"""
+    again = work / "again"
+    subprocess.run([ROOT / "tools/package.py", "--no-build", "--build", build, "--out", again],
+                   check=True, stdout=subprocess.DEVNULL)
+    for archive in (*ZIPS, TAR):
+        expect((again / archive).read_bytes() == (folder / archive).read_bytes(), archive)
+
+
+def linux_start(desk, work):
+    """ombrel-linux.tar.gz, unpacked: shows the production, ends on Escape with 0"""
+    env = dict(desk.env, SDL_AUDIODRIVER="dummy", SDL_VIDEODRIVER="x11")
+    with subprocess.Popen([work / TAR / "ombrel/larkfen", "-w"], env=env, cwd="/",
+                          stdin=subprocess.DEVNULL) as process:
+        try:
+            find_frame(desk, "linux", by_hash(stored_frames()), (320, 272, 640, 480))
+            desk.focus(TITLE)
+            desk.key("Escape")
+            expect(process.wait(60) == 0, f"exit code {process.returncode}")
+        finally:
+            process.kill()
+
+
+def win64_start(desk, work):
+    """ombrel-win64.zip, unpacked: shows the production, ends on Escape with 0"""
+    desk.prepare()
+    stage = Stage(desk, "unpacked",
+                  [windows_path(work / "ombrel-win64.zip/larkfen.exe"), "-w", "-ns"], folder="/")
+    _, client = stage.window()
+    find_frame(desk, "win64", by_hash(stored_frames()), (*client[:2], 640, 480))
+    stage.end("Escape")
+
+
+def run(cases):
+    """Runs (function, arguments) one after the other; whether each passed."""
+    results = []
+    for function, arguments in cases:
+        try:
+            function(*arguments)
+            fault = None
+        except (Failure, OSError, subprocess.SubprocessError) as error:
+            fault = str(error) or type(error).__name__
+        results.append(fault is None)
+        print(f"FAILED {function.__doc__}: {fault}" if fault else f"ok     {function.__doc__}",
+              flush=True)
+    return results
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("build", nargs="?", default=ROOT / "build", type=pathlib.Path,
+                        help="the folder of the build folders; the archives stand in its package/")
+    build = parser.parse_args().build.resolve()
+    folder, work = build / "package", build / "package-tests/unpacked"
+    missing = [name for name in (*ZIPS, TAR) if not (folder / name).exists()]
+    if missing:
+        print(f"FAILED {folder} has no {missing}: cmake --build --preset package makes them")
+        print("0 passed, 1 failed")
+        return 1
+    shutil.rmtree(work, ignore_errors=True)
+    unpack(folder, work)
+    results = run(((zip_contents, (folder,)), (tar_contents, (folder,)), (texts, (work,)),
+                   (data, (work,)), (windows_programs, (work,)), (linux_program, (work,)),
+                   (twice, (folder, work, build))))
+    desk = Desk(build / "win64", place=build / "package-tests")
+    try:
+        results += run(((linux_start, (desk, work)), (win64_start, (desk, work))))
+    finally:
+        desk.close()
+    shutil.rmtree(work)
+    print(f"{results.count(True)} passed, {results.count(False)} failed")
+    return 0 if all(results) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
