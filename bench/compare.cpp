@@ -4,8 +4,17 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
+
+#include "app/vector_choice.h"
 
 namespace ombrel {
+
+double ProcessorSeconds() {
+    timespec now = {};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
 
 namespace {
 
@@ -55,11 +64,12 @@ void CompareOne(const CompareRow& row, VectorPath path) {
 } // namespace
 
 int Compare(const char* filter) {
-    const char* wish = std::getenv("RASTER_USE");
+    const char* wish = std::getenv(kPathVariable);
     bool understood = true;
     const VectorPath path = PathFor(wish, &understood);
     if (!understood) {
-        std::fprintf(stderr, "RASTER_USE=%s cannot be had here; taking %s\n", wish, NameOf(path));
+        std::fprintf(stderr, "%s=%s cannot be had here; taking %s\n", kPathVariable, wish,
+                     NameOf(path));
     }
     std::printf("scalar against %s, %d rounds in turns, median of ratios\n", NameOf(path), kRounds);
     std::printf("%-32s %10s %10s %7s %7s\n", "what", "scalar us", "path us", "times", "goal");

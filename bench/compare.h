@@ -18,9 +18,13 @@ struct CompareGoals {
 struct CompareRow {
     std::string name;
     CompareGoals goals;
-    // Does the work once with the plain code (Scalar) or with a path; the seconds that it took.
+    // Does the work once with the plain code (Scalar) or with a path; the seconds that it took, by
+    // ProcessorSeconds.
     std::function<double(VectorPath)> seconds;
 };
+
+// The time that this program has had the processor; what else runs does not count.
+double ProcessorSeconds();
 
 std::vector<CompareRow> FillerRows();   // compare_fillers.cpp
 std::vector<CompareRow> FrontEndRows(); // compare_front_end.cpp

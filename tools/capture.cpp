@@ -5,6 +5,7 @@
 #include <cinttypes>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <string>
@@ -13,6 +14,7 @@
 
 #include "app/command_line.h"
 #include "app/shell.h"
+#include "app/vector_choice.h"
 #include "base/data_file.h"
 #include "base/float_mode.h"
 #include "base/hash.h"
@@ -241,6 +243,14 @@ int main(int argc, char** argv) {
     ombrel::SetDataFolder(recorder.options.dataFolder.empty()
                               ? ombrel::DataFolderOf(ombrel::ProgramFolder())
                               : recorder.options.dataFolder);
+    // The production chooses again, and says nothing.
+    bool understood = true;
+    const ombrel::VectorPath path = ombrel::ChooseVectorPath(&understood);
+    if (!understood) {
+        std::fprintf(stderr, "larkfen-capture: %s=%s cannot be had here; taking %s\n",
+                     ombrel::kPathVariable, std::getenv(ombrel::kPathVariable),
+                     ombrel::NameOf(path));
+    }
     // Without a whole first track nobody would end the run.
     const std::int64_t whole = FramesOfProduction();
     const Options& options = recorder.options;

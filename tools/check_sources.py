@@ -36,7 +36,7 @@ def allowed(path, included):
     """Whether the file may include this header of ours."""
     top, backend = folder_of(path)
     own = str(path.relative_to(SRC).parent) + "/"
-    if included.startswith(own):
+    if included.startswith(own) or (top != "platform" and included.startswith(top + "/")):
         return True
     if top == "platform" and backend:
         shared = included.startswith("platform/") and included.count("/") == 1
@@ -58,7 +58,7 @@ def may_name_system(path):
         return True
     if top == "app" and path.name.startswith("entry_"):
         return True
-    return top == "raster" and "simd" in path.parts
+    return top in ("raster", "scene") and "simd" in path.parts
 
 
 def faults_of(path):

@@ -8,6 +8,7 @@
 
 #include "app/command_line.h"
 #include "app/frame_driver.h"
+#include "app/vector_choice.h"
 #include "base/shell_state.h"
 #include "demo/startup.h"
 #include "platform/system.h"
@@ -60,6 +61,7 @@ int RunProduction(const char* commandLine) {
     }
 
     // Load, play, put everything back.
+    ChooseVectorPath(nullptr);
     StartUp();
     const std::int32_t result = RunMessageLoop();
     ShutDown();

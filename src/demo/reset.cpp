@@ -13,6 +13,7 @@
 #include "platform/display.h"
 #include "platform/sound.h"
 #include "raster/blend_tables.h"
+#include "raster/fillers.h"
 #include "scene/camera.h"
 
 namespace ombrel {
@@ -23,6 +24,7 @@ void ResetWorld() {
     ResetMaterials();
     ResetObjectLoader();
     ResetBlendTables();
+    ResetFillers();
     ResetTrigTables();
     ResetDisplayState();
     ResetDisplayFormat();

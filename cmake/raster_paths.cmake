@@ -1,0 +1,28 @@
+# The vector twins of the fillers: one file an instruction set, each with its own flags.
+if(raster_type STREQUAL INTERFACE_LIBRARY)
+  return()
+endif()
+set(simd ${CMAKE_SOURCE_DIR}/src/raster/simd)
+target_sources(ombrel_raster PRIVATE ${simd}/paths.cpp)
+if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64|AMD64|i[3-6]86)$")
+  return()
+endif()
+target_compile_definitions(ombrel_raster PRIVATE OMBREL_X86_TWINS)
+
+# Vectors never cross a boundary between files, so what other compilers think of passing them does
+# not matter. On 64-bit Windows the compiler takes the stack to be aligned for wide vectors, and it is
+# not: the assembler then writes every move of a vector as one that may be unaligned.
+set(twin_flags -Wno-psabi)
+if(WIN32)
+  list(APPEND twin_flags -Wa,-muse-unaligned-vector-move)
+endif()
+function(ombrel_twins name)
+  set(source ${CMAKE_SOURCE_DIR}/src/raster/simd/twins_${name}.cpp)
+  target_sources(ombrel_raster PRIVATE ${source})
+  set_source_files_properties(${source} PROPERTIES COMPILE_OPTIONS "${twin_flags};${ARGN}")
+endfunction()
+ombrel_twins(sse41 -msse4.1)
+ombrel_twins(avx2 -mavx2)
+# (g++ 12's own header makes its undefined vectors out of uninitialized ones.)
+ombrel_twins(avx512 -mavx512f -mavx512bw -mavx512dq -mavx512vl -Wno-uninitialized
+             -Wno-maybe-uninitialized)

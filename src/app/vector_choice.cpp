@@ -1,0 +1,16 @@
+// Asks the environment and the processor, and sets what has twins.
+#include "app/vector_choice.h"
+
+#include <cstdlib>
+
+#include "raster/simd/paths.h"
+
+namespace ombrel {
+
+VectorPath ChooseVectorPath(bool* understood) {
+    const VectorPath path = PathFor(std::getenv(kPathVariable), understood);
+    UseFillers(path);
+    return path;
+}
+
+} // namespace ombrel

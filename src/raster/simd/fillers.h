@@ -1,0 +1,277 @@
+// The twin of raster/fillers.cpp: one span loop and one triangle routine over vectors of pixels,
+// for every row of the family table. Included once by each twins_<instruction set>.cpp, behind the
+// few operations that it spells out; all names are the including file's own.
+//
+// A twin draws the ordinary triangle. One whose texels may lie outside the texture's memory, or
+// whose coordinates are so large that differences wrap, goes to the scalar member as it came.
+#pragma once
+
+#include "base/rect.h"
+#include "raster/fillers.h"
+#include "raster/simd/rules.h"
+#include "raster/simd/walker.h"
+
+namespace ombrel {
+namespace {
+
+// Columns that a span may touch, right excluded.
+struct ColumnRange {
+    std::int32_t left, right;
+    bool clips; // false: the whole triangle lies within
+};
+
+// One row of the frame and of the depth buffer.
+struct Row {
+    Pixel16* frame;
+    std::uint32_t* depth;
+};
+
+// kLanes pixels from row on. live: the lanes to draw; the others are written back as they are.
+template <FillerRules R, bool masked>
+[[gnu::always_inline]] inline void DrawBlock(const Brush& brush, const Attributes& at, Row row,
+                                             Ints live) {
+    // Test the depths.
+    Words cell = {}, nearest = {};
+    Ints pass = masked ? live : Ints{} - 1;
+    if constexpr (Needs<R>::depth) {
+        cell = Load<Words>(row.depth);
+        nearest = (Words)at.depth;
+        if constexpr (R.depth == DepthRule::W) {
+            nearest = Max(nearest, cell);
+            pass &= nearest != cell;
+        } else if constexpr (R.depth == DepthRule::Z) {
+            nearest = Min(nearest, cell);
+            pass &= nearest != cell;
+        }
+    }
+    if constexpr (Needs<R>::texels && Needs<R>::depthTest) {
+        if (!Any(pass)) {
+            return;
+        }
+    }
+    // Make the pixels.
+    const Words texels = Texels<R>(brush, at, pass);
+    if constexpr (R.texel == TexelRule::Keyed) {
+        pass &= texels != 0;
+    }
+    constexpr bool always = !masked && !Needs<R>::depthTest && R.texel != TexelRule::Keyed;
+    Words pixels = Light<R>(brush, texels, at);
+    if constexpr (!always || R.write == WriteRule::Blend) {
+        const Words there = LoadPixels(row.frame);
+        if constexpr (R.write == WriteRule::Blend) {
+            pixels = Blend(brush, pixels, there);
+        }
+        pixels = always ? pixels : Select(pass, pixels, there);
+    }
+    StorePixels(row.frame, pixels);
+    if constexpr (Needs<R>::depth) {
+        constexpr bool tested = !masked && R.texel != TexelRule::Keyed;
+        Store(row.depth, tested ? nearest : Select(pass, nearest, cell));
+    }
+}
+
+// The last pixels of a row, where a whole block would reach past the clip rectangle.
+template <FillerRules R>
+[[gnu::noinline]] void DrawBlockAside(const Brush& brush, const Attributes& at, Row row,
+                                      std::int32_t count) {
+    Pixel16 frame[kLanes] = {};
+    std::uint32_t depth[kLanes] = {};
+    std::memcpy(frame, row.frame, static_cast<std::size_t>(count) * sizeof frame[0]);
+    if constexpr (Needs<R>::depth) {
+        std::memcpy(depth, row.depth, static_cast<std::size_t>(count) * sizeof depth[0]);
+    }
+    DrawBlock<R, true>(brush, at, {frame, depth}, LaneNumbers() < count);
+    std::memcpy(row.frame, frame, static_cast<std::size_t>(count) * sizeof frame[0]);
+    if constexpr (Needs<R>::depth) {
+        std::memcpy(row.depth, depth, static_cast<std::size_t>(count) * sizeof depth[0]);
+    }
+}
+
+// Brings u and v of both ends of a span into perspective.
+[[gnu::always_inline]] inline void ProjectEnds(Quad* left, Quad* right) {
+    const __m128i l = (__m128i)*left, r = (__m128i)*right;
+    const Quad over = (Quad)_mm_unpackhi_epi64(l, r);
+    const Quad w = (Quad)_mm_unpacklo_epi64(_mm_shuffle_epi32(l, 0x55), _mm_shuffle_epi32(r, 0x55));
+    const __m128i uv = (__m128i)(DivChop(over << 6, w >> 6) << 16);
+    *left = (Quad)_mm_unpacklo_epi64(l, uv);
+    *right = (Quad)_mm_blend_epi16(r, uv, 0xF0);
+}
+
+template <FillerRules R>
+[[gnu::always_inline]] inline void DrawSpan(const Brush& brush, ColumnRange columns, Row row,
+                                            SlotsOf<R> left, SlotsOf<R> right) {
+    std::int32_t xl = (left[kX] + 0x8000) >> 16;
+    std::int32_t xr = (right[kX] + 0x8000) >> 16;
+    const std::int32_t width = xr - xl;
+    constexpr std::int32_t closed = R.edges == EdgeRule::Closed ? 1 : 0;
+    if (width + closed <= 0) {
+        return;
+    }
+    if constexpr (R.texel == TexelRule::Span) {
+        ProjectEnds(&left, &right);
+    }
+    // Divide for the steps. (A closed span of width 0 is one pixel and takes none.)
+    const SlotsOf<R> step = ScaleChop(right - left, ReciprocalOf(width));
+    SlotsOf<R> start = left + SpanStart<R>();
+    // Cut the span to the clip rectangle.
+    xr += closed;
+    if (columns.clips) {
+        if (xl < columns.left) {
+            start += step * (columns.left - xl);
+            xl = columns.left;
+        }
+        xr = xr < columns.right ? xr : columns.right;
+        if (xl >= xr) {
+            return;
+        }
+    }
+    // Spread the slots over the lanes.
+    constexpr int slotCount = sizeof(SlotsOf<R>) / 4;
+    std::int32_t starts[slotCount], steps[slotCount];
+    Store(starts, start);
+    Store(steps, step);
+    Attributes at;
+    ForEachAttribute<R>(
+        &at, [&](Ints * a, int k)
+                 __attribute__((always_inline)) { *a = starts[k] + steps[k] * LaneNumbers(); });
+    row.frame += xl;
+    row.depth += xl;
+    std::int32_t count = xr - xl;
+    while (count > kLanes) {
+        DrawBlock<R, false>(brush, at, row, Ints{});
+        ForEachAttribute<R>(
+            &at, [&](Ints * a, int k) __attribute__((always_inline)) { *a += steps[k] * kLanes; });
+        row.frame += kLanes;
+        row.depth += kLanes;
+        count -= kLanes;
+    }
+    if (columns.right - xr + count >= kLanes) {
+        DrawBlock<R, true>(brush, at, row, LaneNumbers() < count);
+    } else {
+        DrawBlockAside<R>(brush, at, row, count);
+    }
+}
+
+// --- the triangle
+// ----------------------------------------------------------------------------------
+
+[[gnu::always_inline]] inline Quad ToIntChop(__m128 v) {
+    return (Quad)_mm_cvttps_epi32(v);
+}
+
+// Whether all indices of affine texels lie within the texture's memory. u, v: the least and the
+// greatest at the corners; between them they stay.
+template <FillerRules R>
+[[gnu::always_inline]] inline bool TexelsStayInside(const Brush& brush, Quad least, Quad most) {
+    if (brush.lastTexel < 0) {
+        return false;
+    }
+    if constexpr (Needs<R>::perspective) {
+        return true; // their indices are bounded
+    }
+    // Bilinear sampling looks one row further down, as far as there are columns, and at pairs.
+    std::int32_t row = most[1];
+    if constexpr (R.texel == TexelRule::Bilinear) {
+        row += row < brush.lastColumn ? 1 : 0;
+        if (brush.lastColumn < 1) {
+            return false;
+        }
+    }
+    return (least[0] | least[1]) >= 0 && most[0] <= brush.lastColumn &&
+           row <= (brush.lastTexel - brush.lastColumn) >> brush.shift;
+}
+
+template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarget& target) {
+    constexpr FillerRules R = kFillerTable[static_cast<int>(id)].rules;
+    using Slots = SlotsOf<R>;
+    Vertex* const vertices = polygon->vertices;
+
+    // Round x, y and z; u and v after their own rule.
+    const __m128 half = _mm_set1_ps(0.5F);
+    Quad xyz[3], uv[3];
+    for (int i = 0; i < 3; ++i) {
+        xyz[i] = ToIntChop(_mm_add_ps(_mm_loadu_ps(&vertices[i].x), half));
+        if constexpr (Needs<R>::texels) {
+            const __m128 exact =
+                _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(&vertices[i].u)));
+            uv[i] = ToIntChop(Needs<R>::perspective ? _mm_add_ps(exact, half) : exact);
+        }
+    }
+    // Leave out what is far out or may read beside the texture.
+    const Quad least = Min(Min(xyz[0], xyz[1]), xyz[2]), most = Max(Max(xyz[0], xyz[1]), xyz[2]);
+    const Quad reach = (least + 16384) | (most + 16384);
+    bool ordinary = static_cast<std::uint32_t>(reach[0] | reach[1]) < 32768;
+    const Brush brush = MakeBrush<R>(*polygon, target.level);
+    if constexpr (Needs<R>::texels) {
+        ordinary = ordinary && TexelsStayInside<R>(brush, Min(Min(uv[0], uv[1]), uv[2]),
+                                                   Max(Max(uv[0], uv[1]), uv[2]));
+    }
+    if (!ordinary) [[unlikely]] {
+        return kScalarFillers[static_cast<int>(id)](polygon, target);
+    }
+    for (int i = 0; i < 3; ++i) {
+        _mm_storel_pi(reinterpret_cast<__m64*>(&vertices[i].x), _mm_cvtepi32_ps((__m128i)xyz[i]));
+    }
+    // Return when the triangle is outside, or all in one column or row.
+    if (most[1] < clipRect.top || least[1] > clipRect.bottom || most[0] < clipRect.left ||
+        least[0] > clipRect.right || least[0] == most[0] || least[1] == most[1]) {
+        return;
+    }
+    // Fill the slots of the corners.
+    Corners<Slots> corners;
+    Quad depths = {xyz[0][2], xyz[1][2], xyz[2][2], 1};
+    Quad heads[3];
+    if constexpr (R.depth == DepthRule::W) {
+        const Quad w = DivChop(Quad{} + 0x10000000, depths);
+        for (int i = 0; i < 3; ++i) {
+            heads[i] = Quad{xyz[i][0] << 16, w[i], 0, 0};
+        }
+    } else {
+        for (int i = 0; i < 3; ++i) {
+            heads[i] = Quad{xyz[i][0] << 16, xyz[i][2] << 16, 0, 0};
+        }
+    }
+    for (int i = 0; i < 3; ++i) {
+        corners.y[i] = xyz[i][1];
+        if constexpr (Needs<R>::texels) {
+            Quad texel = uv[i] << 16;
+            if constexpr (Needs<R>::perspective) {
+                texel = DivChop(uv[i] << 22, Quad{} + xyz[i][2]);
+            }
+            heads[i] = (Quad)_mm_unpacklo_epi64((__m128i)heads[i], (__m128i)texel);
+        }
+        if constexpr (Needs<R>::gouraud) {
+            const Quad masks = {0xF800, 0x07E0, 0x001F, 0}, places = {1 << 8, 1 << 13, 1 << 19, 0};
+            const auto color = static_cast<std::int32_t>(polygon->litColors[i]);
+            std::memcpy(&corners.slots[i], &heads[i], 16);
+            const Quad tail = ((Quad{} + color) & masks) * places;
+            std::memcpy(reinterpret_cast<char*>(&corners.slots[i]) + 16, &tail, 16);
+        } else {
+            corners.slots[i] = heads[i];
+        }
+    }
+    // Walk.
+    constexpr std::int32_t closed = R.edges == EdgeRule::Closed ? 1 : 0;
+    const ColumnRange columns = {clipRect.left, clipRect.right,
+                                 closed != 0 || least[0] < clipRect.left ||
+                                     most[0] > clipRect.right};
+    const std::int32_t lastRow = most[1] + closed;
+    const RowRange rows = {least[1] > clipRect.top ? least[1] : clipRect.top,
+                           lastRow < clipRect.bottom ? lastRow : clipRect.bottom};
+    const std::ptrdiff_t frameStep = target.framePitch >> 1, depthStep = target.depthPitch >> 2;
+    Row row = {target.frame + rows.first * frameStep, nullptr};
+    if constexpr (Needs<R>::depth) {
+        row.depth = target.depth + rows.first * depthStep;
+    }
+    WalkTriangle(
+        corners, rows, [&](Slots left, Slots right) __attribute__((always_inline)) {
+            DrawSpan<R>(brush, columns, row, left, right);
+            row.frame += frameStep;
+            if constexpr (Needs<R>::depth) {
+                row.depth += depthStep;
+            }
+        });
+}
+
+} // namespace
+} // namespace ombrel

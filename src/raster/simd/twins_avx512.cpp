@@ -1,0 +1,105 @@
+// The twins in AVX-512 (F, BW, DQ, VL): sixteen pixels at a time. Here is only what the vector
+// extension of the language cannot say; the fillers themselves are in fillers.h beside this file.
+// Never run so far for want of a processor: taken only when asked for by name.
+namespace ombrel {
+namespace {
+constexpr int kLanes = 16;
+}
+} // namespace ombrel
+
+#include "raster/simd/lanes.h"
+#include "raster/simd/twins.h"
+
+namespace ombrel {
+namespace {
+
+[[gnu::always_inline]] inline Words Min(Words a, Words b) {
+    return (Words)_mm512_min_epu32((__m512i)a, (__m512i)b);
+}
+[[gnu::always_inline]] inline Words Max(Words a, Words b) {
+    return (Words)_mm512_max_epu32((__m512i)a, (__m512i)b);
+}
+[[gnu::always_inline]] inline bool Any(Ints mask) {
+    return _mm512_test_epi32_mask((__m512i)mask, (__m512i)mask) != 0;
+}
+
+// Pixels of the frame, widened to lanes and back.
+[[gnu::always_inline]] inline Words LoadPixels(const Pixel16* from) {
+    return (Words)_mm512_cvtepu16_epi32(Load<__m256i>(from));
+}
+[[gnu::always_inline]] inline void StorePixels(Pixel16* to, Words pixels) {
+    Store(to, _mm512_cvtepi32_epi16((__m512i)pixels));
+}
+
+// Two neighbours a lane, the left one in the low half.
+[[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
+    return (Words)_mm512_i32gather_epi32((__m512i)index, texels, 2);
+}
+// One texel a lane, and not a byte besides.
+[[gnu::always_inline]] inline Words FetchTexels(const Pixel16* texels, Ints index) {
+    alignas(64) std::int32_t i[kLanes];
+    Store(i, index);
+    Words v;
+    for (int k = 0; k < kLanes; ++k) {
+        v[k] = texels[i[k]];
+    }
+    return v;
+}
+// Low half times low half plus high half times high half, with sign.
+[[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {
+    return (Words)_mm512_madd_epi16((__m512i)a, (__m512i)b);
+}
+
+[[gnu::always_inline]] inline Quad ScaleChop(Quad a, double factor) {
+    return (Quad)_mm256_cvttpd_epi32(
+        _mm256_mul_pd(_mm256_cvtepi32_pd((__m128i)a), _mm256_set1_pd(factor)));
+}
+[[gnu::always_inline]] inline Octet ScaleChop(Octet a, double factor) {
+    return (Octet)_mm512_cvttpd_epi32(
+        _mm512_mul_pd(_mm512_cvtepi32_pd((__m256i)a), _mm512_set1_pd(factor)));
+}
+
+// Toward zero; by 0: 0.
+[[gnu::always_inline]] inline Quad DivChop(Quad a, Quad b) {
+    const __m256d reciprocals =
+        _mm256_div_pd(_mm256_set1_pd(kTraceAboveOne), _mm256_cvtepi32_pd((__m128i)b));
+    const __m128i quotients =
+        _mm256_cvttpd_epi32(_mm256_mul_pd(_mm256_cvtepi32_pd((__m128i)a), reciprocals));
+    return (Quad)quotients & (b != 0);
+}
+struct IntsPair {
+    Ints first, second;
+};
+struct Halved {
+    __m512d low, high;
+};
+[[gnu::always_inline]] inline Halved ToDoubles(Ints a) {
+    return {_mm512_cvtepi32_pd(_mm512_castsi512_si256((__m512i)a)),
+            _mm512_cvtepi32_pd(_mm512_extracti64x4_epi64((__m512i)a, 1))};
+}
+[[gnu::always_inline]] inline Ints ChopProduct(Halved a, Halved b) {
+    const __m256i low = _mm512_cvttpd_epi32(_mm512_mul_pd(a.low, b.low));
+    const __m256i high = _mm512_cvttpd_epi32(_mm512_mul_pd(a.high, b.high));
+    return (Ints)_mm512_inserti64x4(_mm512_castsi256_si512(low), high, 1);
+}
+[[gnu::always_inline]] inline IntsPair DivChop(Ints a, Ints b, Ints divisor) {
+    const __m512d trace = _mm512_set1_pd(kTraceAboveOne);
+    const Halved d = ToDoubles(divisor);
+    const Halved reciprocals = {_mm512_div_pd(trace, d.low), _mm512_div_pd(trace, d.high)};
+    const Ints defined = divisor != 0;
+    return {ChopProduct(ToDoubles(a), reciprocals) & defined,
+            ChopProduct(ToDoubles(b), reciprocals) & defined};
+}
+
+} // namespace
+} // namespace ombrel
+
+#include "raster/simd/fillers.h"
+
+namespace ombrel {
+
+#define OMBREL_TWIN(name, ...) FillTriangle<FillerId::name>,
+const Filler kAvx512Fillers[kFillerCount] = {OMBREL_FILLERS(OMBREL_TWIN)};
+#undef OMBREL_TWIN
+
+} // namespace ombrel

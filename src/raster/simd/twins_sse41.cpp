@@ -1,0 +1,102 @@
+// The twins in SSE4.1: four pixels at a time. Here is only what the vector extension of the
+// language cannot say; the fillers themselves are in fillers.h beside this file.
+namespace ombrel {
+namespace {
+constexpr int kLanes = 4;
+}
+} // namespace ombrel
+
+#include "raster/simd/lanes.h"
+#include "raster/simd/twins.h"
+
+namespace ombrel {
+namespace {
+
+[[gnu::always_inline]] inline Words Min(Words a, Words b) {
+    return (Words)_mm_min_epu32((__m128i)a, (__m128i)b);
+}
+[[gnu::always_inline]] inline Words Max(Words a, Words b) {
+    return (Words)_mm_max_epu32((__m128i)a, (__m128i)b);
+}
+[[gnu::always_inline]] inline bool Any(Ints mask) {
+    return _mm_testz_si128((__m128i)mask, (__m128i)mask) == 0;
+}
+
+// Pixels of the frame, widened to lanes and back; back only below 2^16.
+[[gnu::always_inline]] inline Words LoadPixels(const Pixel16* from) {
+    return (Words)_mm_cvtepu16_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(from)));
+}
+[[gnu::always_inline]] inline void StorePixels(Pixel16* to, Words pixels) {
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(to),
+                     _mm_packus_epi32((__m128i)pixels, (__m128i)pixels));
+}
+
+// One texel a lane, and not a byte besides.
+[[gnu::always_inline]] inline Words FetchTexels(const Pixel16* texels, Ints index) {
+    return Words{texels[index[0]], texels[index[1]], texels[index[2]], texels[index[3]]};
+}
+// Two neighbours a lane, the left one in the low half.
+[[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
+    return Words{Load<std::uint32_t>(texels + index[0]), Load<std::uint32_t>(texels + index[1]),
+                 Load<std::uint32_t>(texels + index[2]), Load<std::uint32_t>(texels + index[3])};
+}
+// Low half times low half plus high half times high half, with sign.
+[[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {
+    return (Words)_mm_madd_epi16((__m128i)a, (__m128i)b);
+}
+
+struct Halved {
+    __m128d low, high;
+};
+[[gnu::always_inline]] inline Halved ToDoubles(Quad a) {
+    return {_mm_cvtepi32_pd((__m128i)a), _mm_cvtepi32_pd(_mm_shuffle_epi32((__m128i)a, 0xEE))};
+}
+[[gnu::always_inline]] inline Quad ChopProduct(Halved a, Halved b) {
+    return (Quad)_mm_unpacklo_epi64(_mm_cvttpd_epi32(_mm_mul_pd(a.low, b.low)),
+                                    _mm_cvttpd_epi32(_mm_mul_pd(a.high, b.high)));
+}
+[[gnu::always_inline]] inline Halved ReciprocalsOf(Quad a) {
+    const __m128d trace = _mm_set1_pd(kTraceAboveOne);
+    const Halved d = ToDoubles(a);
+    return {_mm_div_pd(trace, d.low), _mm_div_pd(trace, d.high)};
+}
+
+[[gnu::always_inline]] inline Quad ScaleChop(Quad a, double factor) {
+    const __m128d both = _mm_set1_pd(factor);
+    return ChopProduct(ToDoubles(a), {both, both});
+}
+[[gnu::always_inline]] inline Octet ScaleChop(Octet a, double factor) {
+    Quad half[2];
+    std::memcpy(half, &a, sizeof a);
+    half[0] = ScaleChop(half[0], factor);
+    half[1] = ScaleChop(half[1], factor);
+    std::memcpy(&a, half, sizeof a);
+    return a;
+}
+
+// Toward zero; by 0: 0.
+[[gnu::always_inline]] inline Quad DivChop(Quad a, Quad b) {
+    return ChopProduct(ToDoubles(a), ReciprocalsOf(b)) & (b != 0);
+}
+struct IntsPair {
+    Ints first, second;
+};
+[[gnu::always_inline]] inline IntsPair DivChop(Ints a, Ints b, Ints divisor) {
+    const Halved reciprocals = ReciprocalsOf(divisor);
+    const Ints defined = divisor != 0;
+    return {ChopProduct(ToDoubles(a), reciprocals) & defined,
+            ChopProduct(ToDoubles(b), reciprocals) & defined};
+}
+
+} // namespace
+} // namespace ombrel
+
+#include "raster/simd/fillers.h"
+
+namespace ombrel {
+
+#define OMBREL_TWIN(name, ...) FillTriangle<FillerId::name>,
+const Filler kSse41Fillers[kFillerCount] = {OMBREL_FILLERS(OMBREL_TWIN)};
+#undef OMBREL_TWIN
+
+} // namespace ombrel
