@@ -4,12 +4,14 @@
 #include <cstdlib>
 
 #include "raster/simd/paths.h"
+#include "scene/front_end.h"
 
 namespace ombrel {
 
 VectorPath ChooseVectorPath(bool* understood) {
     const VectorPath path = PathFor(std::getenv(kPathVariable), understood);
     UseFillers(path);
+    UseFrontEnd(path);
     return path;
 }
 

@@ -15,6 +15,7 @@
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
 #include "scene/camera.h"
+#include "scene/front_end.h"
 
 namespace ombrel {
 
@@ -25,6 +26,7 @@ void ResetWorld() {
     ResetObjectLoader();
     ResetBlendTables();
     ResetFillers();
+    ResetFrontEnd();
     ResetTrigTables();
     ResetDisplayState();
     ResetDisplayFormat();

@@ -23,20 +23,13 @@ constexpr std::int32_t kLodDistance = 1000;
 
 constexpr MeshTransformOptions kInPlace{0, 0, 0};
 constexpr MeshTransformOptions kIntoTransformed{2, 0, 0};
-constexpr std::int32_t kTranslateCopy = 2;
-constexpr std::int32_t kLightsCopy = 3;
-constexpr std::int32_t kFromTransformed = 0;
+constexpr std::int32_t kSorted = 0; // by average depth
+constexpr std::int32_t kUnsorted = -1;
 
 void TurnInPlace(Mesh* object, float degrees) {
     Matrix4 rotation;
     Matrix4RotationXYZ(0.0F, degrees, 0.0F, &rotation);
     MeshTransform(object, &rotation, kInPlace);
-}
-
-// Adds the object where it stands, its stored vertices moved by its position.
-void AddAtPosition(FaceList* list, Mesh* object) {
-    MeshTranslate(object, kTranslateCopy, 0);
-    MeshAddFaces(list, object, kFromTransformed);
 }
 
 float TilePlace(std::int32_t index) {
@@ -70,18 +63,20 @@ void TurnObject(Mesh* object) {
     MeshRotate(object, 0.0F, kSkyStep, 0.0F, 0);
 }
 
-void AddObject(FaceList* list, Mesh* object) {
-    MeshTransform(object, &IdentityMatrix4, kIntoTransformed);
-    AddAtPosition(list, object);
+void AddObject(FrontEnd* front, Mesh* object) {
+    if (front->kernels == nullptr) {
+        MeshTransform(object, &IdentityMatrix4, kIntoTransformed);
+    }
+    AddMesh(front, object);
 }
 
-void AddObjectInSight(FaceList* list, Mesh* object, const Camera& camera) {
+void AddObjectInSight(FrontEnd* front, Mesh* object, const Camera& camera) {
     if (ObjectCullSphere(object, &camera, kTestAllSides) == 0) {
-        AddObject(list, object);
+        AddObject(front, object);
     }
 }
 
-void AddGroundTiles(FaceList* list, Mesh* tile, const Camera& camera, std::int32_t gridSize) {
+void AddGroundTiles(FrontEnd* front, Mesh* tile, const Camera& camera, std::int32_t gridSize) {
     const std::int32_t half = gridSize / 2;
     for (std::int32_t i = -half; i < half; ++i) {
         for (std::int32_t j = -half; j < half; ++j) {
@@ -93,45 +88,36 @@ void AddGroundTiles(FaceList* list, Mesh* tile, const Camera& camera, std::int32
             tile->position.x = TilePlace(i);
             tile->position.z = TilePlace(j);
             if (ObjectCullSphere(tile, &camera, kTestAllSides) == 0) {
-                MeshResetFrame(tile);
-                AddAtPosition(list, tile);
+                ResetAndAddMesh(front, tile);
             }
         }
     }
 }
 
-void AddListObjects(FaceList* list, World* scene) {
+void AddListObjects(FrontEnd* front, World* scene) {
     // REQUIRED R42: from the empty entry on, but without the last object.
     for (std::int32_t e = kFirstSceneObject; e < scene->objectCounter; ++e) {
         Mesh* const object = &scene->objects[e];
         if (ObjectCullSphere(object, &scene->camera, kTestAllSides) != 0) {
             continue;
         }
-        MeshResetFrame(object);
         if (e == scene->objectCounter - 2) {
             TurnInPlace(object, kPartStep);
             TurnInPlace(&scene->objects[e - 1], -kPartStep);
         }
-        AddAtPosition(list, object);
+        ResetAndAddMesh(front, object);
     }
 }
 
-void RunFacePipeline(FaceList* list, World* scene, const SceneSwitches& set) {
-    if (set.backFace == 1) {
-        CullBackFaces(list, &scene->camera);
-    }
-    if (set.lighting == 1) {
-        const std::int32_t lights = std::clamp(set.lightCount, 0, kMaxLights);
-        LightsTransform(scene->lights, lights, nullptr, kLightsCopy);
-        LightFaces(list, &scene->camera, scene->lights, lights);
-    }
-    TransformPolygonsToCamera(list, &scene->camera);
-    ClipPolygons(list, &scene->camera, kTestAllSides);
-    if (set.sort == 1) {
-        SortFaces(list, 0);
-    }
-    ProjectPolygons(list, &scene->camera);
-    MapPolygonsToScreen(list, &scene->camera);
+FaceSettings FaceSettingsOf(World* scene, const SceneSwitches& set) {
+    FaceSettings settings = {};
+    settings.camera = &scene->camera;
+    settings.lights = scene->lights;
+    settings.lightCount = std::clamp(set.lightCount, 0, kMaxLights);
+    settings.cullBack = set.backFace == 1;
+    settings.lit = set.lighting == 1;
+    settings.sortMode = set.sort == 1 ? kSorted : kUnsorted;
+    return settings;
 }
 
 void DrawView(FaceList* list, World* scene, View view) {

@@ -1,5 +1,5 @@
-// What both scenes do in a frame: gather the faces of their objects, bring them to the screen and
-// draw them. Each scene calls these in its own order.
+// What both scenes do in a frame: gather the faces of their objects, between StartFaces and
+// FinishFaces, and draw them. Each scene calls these in its own order.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +7,7 @@
 #include "demo/world.h"
 #include "platform/display.h"
 #include "raster/draw_job.h"
+#include "scene/front_end.h"
 
 namespace ombrel {
 
@@ -14,17 +15,18 @@ namespace ombrel {
 // adds up from frame to frame.
 void TurnObject(Mesh* object);
 // Puts an object into the world at its position and adds its faces.
-void AddObject(FaceList* list, Mesh* object);
+void AddObject(FrontEnd* front, Mesh* object);
 // The same, if its bounding sphere is in sight.
-void AddObjectInSight(FaceList* list, Mesh* object, const Camera& camera);
+void AddObjectInSight(FrontEnd* front, Mesh* object, const Camera& camera);
 // The field: gridSize x gridSize places 1000 apart around the origin, without the four corners, the
 // same object at each that is in sight. An odd size counts as the even one below it.
-void AddGroundTiles(FaceList* list, Mesh* tile, const Camera& camera, std::int32_t gridSize);
+void AddGroundTiles(FrontEnd* front, Mesh* tile, const Camera& camera, std::int32_t gridSize);
 // The scene-list objects in sight but the last; the third and second before the end turn.
-void AddListObjects(FaceList* list, World* scene);
+void AddListObjects(FrontEnd* front, World* scene);
 
-// Back faces, lights, camera space, clipping, order and projection, as the switches have it.
-void RunFacePipeline(FaceList* list, World* scene, const SceneSwitches& set);
+// Whether faces are culled, lit and sorted, and by how many lights, as the switches have it. Camera
+// and lights must have their places of the frame before StartFaces.
+FaceSettings FaceSettingsOf(World* scene, const SceneSwitches& set);
 
 // What both scenes ask of the dispatcher: inverse depth, affine texels, blending.
 inline constexpr std::uint32_t kSceneJobFlags =

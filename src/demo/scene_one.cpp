@@ -81,18 +81,18 @@ void MoveCamera() {
     CameraBuildView(&world.camera, kBuildOrder);
 }
 
-void GatherObjects() {
+void GatherObjects(FrontEnd* front) {
     if (sceneOne.insideBox) {
         TurnObject(&world.sky);
-        AddObjectInSight(&sceneFaces, &world.sky, world.camera);
+        AddObjectInSight(front, &world.sky, world.camera);
     }
-    AddGroundTiles(&sceneFaces, &world.ground, world.camera, sceneOne.gridSize);
-    AddListObjects(&sceneFaces, &world);
+    AddGroundTiles(front, &world.ground, world.camera, sceneOne.gridSize);
+    AddListObjects(front, &world);
     if (!sceneOne.insideBox) {
         TurnObject(&world.stay);
-        AddObject(&sceneFaces, &world.stay);
+        AddObject(front, &world.stay);
         TurnObject(&world.skyAlpha0);
-        AddObject(&sceneFaces, &world.skyAlpha0);
+        AddObject(front, &world.skyAlpha0);
     }
 }
 
@@ -120,10 +120,11 @@ void SceneOne() {
     }
     FadeLights();
     TestBox();
-    FaceListClear(&sceneFaces);
     MoveCamera();
-    GatherObjects();
-    RunFacePipeline(&sceneFaces, &world, switches);
+    FrontEnd front;
+    StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, switches));
+    GatherObjects(&front);
+    FinishFaces(&front);
     LockFrame();
     DrawView(&sceneFaces, &world, ChooseView());
     if (switches.blur == 1) {

@@ -132,13 +132,13 @@ void MoveLights() {
     sceneTwo.lightPhase = p + kLightStep;
 }
 
-void GatherObjects() {
-    AddGroundTiles(&sceneFaces, &world.groundAlpha, world.camera, sceneTwo.gridSize);
+void GatherObjects(FrontEnd* front) {
+    AddGroundTiles(front, &world.groundAlpha, world.camera, sceneTwo.gridSize);
     // The last entry is never drawn, and the empty first one is tested and adds nothing.
-    AddListObjects(&sceneFaces, &world);
+    AddListObjects(front, &world);
     for (Mesh* const object : {&world.stay, &world.skyAlphaS2}) {
         TurnObject(object);
-        AddObject(&sceneFaces, object);
+        AddObject(front, object);
     }
 }
 
@@ -275,11 +275,12 @@ void SceneTwo() {
     if (!KeepTime()) {
         return;
     }
-    FaceListClear(&sceneFaces);
     MoveCamera();
     MoveLights();
-    GatherObjects();
-    RunFacePipeline(&sceneFaces, &world, switches);
+    FrontEnd front;
+    StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, switches));
+    GatherObjects(&front);
+    FinishFaces(&front);
     LockFrame();
     DrawView(&sceneFaces, &world, ChooseView());
     if (switches.blur == 1) {

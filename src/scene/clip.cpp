@@ -9,23 +9,14 @@
 #include "base/convert.h"
 #include "base/pixel16.h"
 #include "scene/pipeline.h"
+#include "scene/scissors.h"
 #include "scene/view_volume.h"
 
 namespace ombrel {
 
 namespace {
 
-// Larger coordinates are no place to be: they come from broken data, and so does NaN.
-constexpr float kLargestCoordinate = 1.0e9F;
-
 // --- the view volume ---------------------------------------------------------------------------
-
-constexpr std::uint32_t OUTSIDE_RIGHT = 1;
-constexpr std::uint32_t OUTSIDE_LEFT = 2;
-constexpr std::uint32_t OUTSIDE_TOP = 4;
-constexpr std::uint32_t OUTSIDE_BOTTOM = 8;
-constexpr std::uint32_t OUTSIDE_FAR = 16;
-constexpr std::uint32_t OUTSIDE_NEAR = 32;
 
 // Behind the eye the limits change places and a corner can lie beyond both. REQUIRED R35: it then
 // counts as beyond the positive one.
@@ -50,41 +41,6 @@ std::uint32_t Classify(const Vertex& v, const Camera& camera, std::uint32_t test
 }
 
 // --- near plane and guard band -----------------------------------------------------------------
-
-// Kept is what has x * v.x + y * v.y + z * v.z >= limit.
-struct Plane {
-    float x, y, z, limit;
-    bool isNear; // a cut lies at z = limit exactly
-};
-
-// The band in units of depth: a corner is inside while -left * z <= x * scaleX <= right * z and
-// -bottom * z <= y * scaleY <= top * z.
-struct Scissors {
-    float zNear;
-    float scaleX, scaleY;
-    float left, right, top, bottom;
-    Plane planes[5]; // near first
-};
-
-Scissors MakeScissors(const Camera& camera) {
-    // Solve the mapping to pixels for the edges of the band.
-    const float acrossX = kGuardBand / (camera.screenWidth * 0.5F - 0.5F);
-    const float acrossY = kGuardBand / (camera.screenHeight * 0.5F - 0.5F);
-    Scissors s = {};
-    s.zNear = camera.zNear;
-    s.scaleX = camera.tanHalfFov;
-    s.scaleY = camera.aspect * camera.tanHalfFov;
-    s.left = acrossX + 1.0F;
-    s.right = acrossX - 1.0F;
-    s.top = acrossY + 1.0F;
-    s.bottom = acrossY - 1.0F;
-    s.planes[0] = {0.0F, 0.0F, 1.0F, s.zNear, true};
-    s.planes[1] = {s.scaleX, 0.0F, s.left, 0.0F, false};
-    s.planes[2] = {-s.scaleX, 0.0F, s.right, 0.0F, false};
-    s.planes[3] = {0.0F, s.scaleY, s.bottom, 0.0F, false};
-    s.planes[4] = {0.0F, -s.scaleY, s.top, 0.0F, false};
-    return s;
-}
 
 // NaN is not inside.
 bool IsInside(const Vertex& v, const Scissors& s) {
@@ -213,8 +169,29 @@ void WriteTriangle(RenderFace* face, const Corner* const corners[3]) {
     }
 }
 
-// Cuts one face. What is left over of it after its first triangle goes to the end of the list.
-void CutFace(FaceList* list, RenderFace* face, const Scissors& scissors) {
+} // namespace
+
+Scissors MakeScissors(const Camera& camera) {
+    // Solve the mapping to pixels for the edges of the band.
+    const float acrossX = kGuardBand / (camera.screenWidth * 0.5F - 0.5F);
+    const float acrossY = kGuardBand / (camera.screenHeight * 0.5F - 0.5F);
+    Scissors s = {};
+    s.zNear = camera.zNear;
+    s.scaleX = camera.tanHalfFov;
+    s.scaleY = camera.aspect * camera.tanHalfFov;
+    s.left = acrossX + 1.0F;
+    s.right = acrossX - 1.0F;
+    s.top = acrossY + 1.0F;
+    s.bottom = acrossY - 1.0F;
+    s.planes[0] = {0.0F, 0.0F, 1.0F, s.zNear, true};
+    s.planes[1] = {s.scaleX, 0.0F, s.left, 0.0F, false};
+    s.planes[2] = {-s.scaleX, 0.0F, s.right, 0.0F, false};
+    s.planes[3] = {0.0F, s.scaleY, s.bottom, 0.0F, false};
+    s.planes[4] = {0.0F, -s.scaleY, s.top, 0.0F, false};
+    return s;
+}
+
+void CutFace(FaceList* list, RenderFace* face, const Scissors& scissors, std::int32_t* room) {
     for (const Vertex& v : face->work) {
         if (!IsSane(v)) {
             face->state |= FACE_OUTSIDE;
@@ -246,20 +223,20 @@ void CutFace(FaceList* list, RenderFace* face, const Scissors& scissors) {
     const Corner* const first[3] = {&c[0], &c[1], &c[2]};
     WriteTriangle(face, first);
     for (std::int32_t i = 2; i + 1 < polygon->count; ++i) {
-        RenderFace* const added = FaceListAddCopy(list, face);
+        RenderFace* const added = *room > 0 ? FaceListAddCopy(list, face) : nullptr;
         if (added == nullptr) {
             return;
         }
+        --*room;
         const Corner* const more[3] = {&c[0], &c[i], &c[i + 1]};
         WriteTriangle(added, more);
     }
 }
 
-} // namespace
-
 void ClipPolygons(FaceList* list, const Camera* camera, std::uint32_t testMask) {
     const Scissors scissors = MakeScissors(*camera);
     const std::int32_t count = list->count; // added triangles are inside already
+    std::int32_t room = kMaxRenderFaces - count;
     for (std::int32_t i = 0; i < count; ++i) {
         RenderFace& face = *list->pointers[i];
         if (!IsDrawable(face.state)) {
@@ -271,7 +248,7 @@ void ClipPolygons(FaceList* list, const Camera* camera, std::uint32_t testMask) 
             face.state |= FACE_OUTSIDE;
         } else if (!IsInside(v[0], scissors) || !IsInside(v[1], scissors) ||
                    !IsInside(v[2], scissors)) {
-            CutFace(list, &face, scissors);
+            CutFace(list, &face, scissors, &room);
         }
     }
 }

@@ -1,7 +1,10 @@
 // Runs of the whole production.
 #include "production_run.h"
 
+#include <cstdlib>
+
 #include "app/shell.h"
+#include "app/vector_choice.h"
 #include "demo/reset.h"
 #include "hand_made_data.h"
 #include "platform/system.h"
@@ -26,6 +29,7 @@ void OnFrame(const PresentedFrame& shown, void* user) {
 } // namespace
 
 void ResetForRun() {
+    setenv(kPathVariable, NameOf(VectorPath::Scalar), 0);
     ResetWorld();
     ResetOffscreen();
     script.msPerRead = 0;

@@ -17,7 +17,8 @@ struct RunFrame {
 };
 using LookAtFrame = std::function<void(const RunFrame&)>;
 
-// Program and back end as when the process started; frames of exactly 25 ms.
+// Program and back end as when the process started; frames of exactly 25 ms. Runs take the plain
+// code, unless RASTER_USE names a path.
 void ResetForRun();
 
 // Resets, runs, leaves the state of the end in place. Returns the exit code.

@@ -25,7 +25,7 @@ protected:
         shell.noSound = true;
         shell.windowed = 1;
         StartUp();
-        FaceListClear(&sceneFaces);
+        StartOver();
         // High above the middle, looking straight down: the whole field is in sight.
         LookFrom({0, 12000, 0, 1}, {90, 0, 0, 1});
     }
@@ -33,6 +33,8 @@ protected:
         ResetWorld();
         ResetOffscreen();
     }
+    // The frame's start: an empty list.
+    void StartOver() { StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, switches)); }
     static void LookFrom(Vec3 position, Vec3 angles) {
         world.camera.position = position;
         world.camera.angles = angles;
@@ -55,10 +57,11 @@ protected:
         return tiles;
     }
     DataFolderForTest folder;
+    FrontEnd front = {};
 };
 
 TEST_F(SceneFrame, FieldOfEightHasSixtyTiles) {
-    AddGroundTiles(&sceneFaces, &world.ground, world.camera, 8);
+    AddGroundTiles(&front, &world.ground, world.camera, 8);
     const auto tiles = Tiles();
     EXPECT_EQ(sceneFaces.count, 120);
     EXPECT_EQ(tiles.size(), 60U);
@@ -73,14 +76,14 @@ TEST_F(SceneFrame, FieldOfEightHasSixtyTiles) {
 TEST_F(SceneFrame, OtherFieldSizes) {
     for (const auto& [size, count] :
          {std::pair{6, 32}, {4, 12}, {7, 32}, {3, 0}, {2, 0}, {1, 0}, {0, 0}, {-1, 0}}) {
-        FaceListClear(&sceneFaces);
-        AddGroundTiles(&sceneFaces, &world.ground, world.camera, size);
+        StartOver();
+        AddGroundTiles(&front, &world.ground, world.camera, size);
         EXPECT_EQ(sceneFaces.count, 2 * count) << size;
     }
 }
 
 TEST_F(SceneFrame, TilesAreAddedRowByRow) {
-    AddGroundTiles(&sceneFaces, &world.ground, world.camera, 8);
+    AddGroundTiles(&front, &world.ground, world.camera, 8);
     // The first is i -4, j -3; positions are the exact sums.
     EXPECT_EQ(world.ground.position.x, 3500.0F); // the last one tried: i 3, j 2
     EXPECT_EQ(world.ground.position.z, 2500.0F);
@@ -91,7 +94,7 @@ TEST_F(SceneFrame, TilesAreAddedRowByRow) {
 
 TEST_F(SceneFrame, TilesOutOfSightAreLeftOut) {
     LookFrom({0, 200, 0, 1}, {0, 0, 0, 1});
-    AddGroundTiles(&sceneFaces, &world.ground, world.camera, 8);
+    AddGroundTiles(&front, &world.ground, world.camera, 8);
     EXPECT_GT(sceneFaces.count, 10);
     EXPECT_LT(sceneFaces.count, 90);
     for (const auto& [place, faces] : Tiles()) {
@@ -109,7 +112,7 @@ TEST_F(SceneFrame, R42_LastObjectIsNeverDrawnAndTheTwoBeforeTurn) {
     const float before13 = AngleOf(world.objects[13].vertices[8]);
     const float before14 = AngleOf(world.objects[14].vertices[8]);
     LookFrom({0, 200, 0, 1}, {0, 0, 0, 1});
-    AddListObjects(&sceneFaces, &world);
+    AddListObjects(&front, &world);
     // Entries 12, 13 and 14 of twelve faces each; entry 15 is the last.
     EXPECT_EQ(sceneFaces.count, 36);
     const float turn13 = AngleOf(world.objects[13].vertices[8]) - before13;
@@ -124,22 +127,22 @@ TEST_F(SceneFrame, BothTurnOnlyWhileTheSecondBeforeTheLastIsInSight) {
     world.objects[13].position.z = -9000;
     const Vertex before12 = world.objects[12].vertices[0];
     const Vertex before13 = world.objects[13].vertices[0];
-    AddListObjects(&sceneFaces, &world);
+    AddListObjects(&front, &world);
     EXPECT_EQ(world.objects[12].vertices[0].x, before12.x);
     EXPECT_EQ(world.objects[13].vertices[0].x, before13.x);
     // The one before turns even where it is out of sight itself.
     world.objects[13].position.z = 1500;
     world.objects[12].position.z = -9000;
-    AddListObjects(&sceneFaces, &world);
+    AddListObjects(&front, &world);
     EXPECT_NE(world.objects[12].vertices[0].x, before12.x);
 }
 
 TEST_F(SceneFrame, R42_EmptyEntriesAreHarmlessAlsoWhereTheyTurn) {
     LookFrom({0, 200, 0, 1}, {0, 0, 0, 1});
     for (const std::int32_t counter : {11, 12, 13, 14}) {
-        FaceListClear(&sceneFaces);
+        StartOver();
         world.objectCounter = counter;
-        AddListObjects(&sceneFaces, &world);
+        AddListObjects(&front, &world);
         EXPECT_EQ(sceneFaces.count, 12 * std::max(counter - 12, 0)) << counter;
     }
     world.objectCounter = 15;
@@ -156,10 +159,10 @@ TEST_F(SceneFrame, TurningObjectsAddUp) {
 TEST_F(SceneFrame, ObjectWithoutSphereTestIsAddedBehindTheEyeToo) {
     LookFrom({0, 200, 0, 1}, {0, 0, 0, 1});
     world.stay.position.z = -9000;
-    AddObjectInSight(&sceneFaces, &world.stay, world.camera);
+    AddObjectInSight(&front, &world.stay, world.camera);
     EXPECT_EQ(sceneFaces.count, 0);
     TurnObject(&world.stay); // takes the mark of the test away again
-    AddObject(&sceneFaces, &world.stay);
+    AddObject(&front, &world.stay);
     EXPECT_EQ(sceneFaces.count, 12);
     EXPECT_NEAR(sceneFaces.pointers[0]->work[0].y, -560.0F - 1100.0F, 1.0F);
 }
@@ -168,9 +171,9 @@ TEST_F(SceneFrame, PipelineFollowsItsSwitches) {
     LookFrom({0, 200, 0, 1}, {0, 0, 0, 1});
     SceneSwitches set = switches;
     const auto run = [&] {
-        FaceListClear(&sceneFaces);
-        AddListObjects(&sceneFaces, &world);
-        RunFacePipeline(&sceneFaces, &world, set);
+        StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, set));
+        AddListObjects(&front, &world);
+        FinishFaces(&front);
         std::set<std::uint32_t> states;
         for (int i = 0; i < sceneFaces.count; ++i) {
             states.insert(sceneFaces.records[i].state & (FACE_BACK | FACE_LIT));

@@ -1,0 +1,12 @@
+# The vector kernels of the front end: one file an instruction set, each with its own flags. Integer
+# sums of light wrap, as those of the plain code do.
+if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64|AMD64|i[3-6]86)$")
+  return()
+endif()
+set(kernels ${CMAKE_SOURCE_DIR}/src/scene/simd)
+target_sources(ombrel_scene PRIVATE ${kernels}/kernels_sse41.cpp ${kernels}/kernels_avx2.cpp)
+target_compile_definitions(ombrel_scene PRIVATE OMBREL_X86_KERNELS)
+set_source_files_properties(${kernels}/kernels_sse41.cpp
+                            PROPERTIES COMPILE_OPTIONS "-Wno-psabi;-fwrapv;-msse4.1")
+set_source_files_properties(${kernels}/kernels_avx2.cpp
+                            PROPERTIES COMPILE_OPTIONS "-Wno-psabi;-fwrapv;-mavx2")
