@@ -22,6 +22,9 @@ constexpr std::int32_t kTiles = 60;
 constexpr std::int32_t kRoomForCuts = 500; // faces that near cuts may add
 constexpr std::int32_t kDummyFaces = 16;
 
+// Clearing the world touches all of its memory: only when something is in it.
+constinit bool worldLoaded = false;
+
 struct Entry {
     SceneLine line;
     std::int64_t place; // line of the file
@@ -139,17 +142,38 @@ std::vector<Entry> ReadEntries(ListText* t) {
     return entries;
 }
 
-// Whether the last pass of the loader went over the mesh.
-bool IsLoaded(const Mesh& mesh) {
-    return mesh.faces != nullptr &&
-           (mesh.faceCount == 0 || (mesh.faces[0].flags & FACE_LOADED) != 0);
+// Loads the fixed objects, each in its place, as start-up does.
+void LoadFixed() {
+    for (const FixedObject& object : kFixedObjects) {
+        Mesh* const mesh = &(world.*object.mesh);
+        loadObject(mesh, object.path,
+                   LoadRequest{object.scale, &object.position, nullptr, kFixedOptions, 0});
+        MeshRotate(mesh, 0.0F, 0.0F, 90.0F, 0);
+    }
 }
 
-void CheckObjects(const std::vector<Entry>& entries, Report* report) {
+// What the loader answers for each entry, one after the other. Leaves the world empty and the table
+// of materials as after the last.
+std::vector<bool> LoadOneByOne(const std::vector<Entry>& entries) {
+    ResetWorldOfTool();
+    worldLoaded = true;
+    LoadFixed();
+    std::vector<bool> loaded;
+    for (const Entry& entry : entries) {
+        Mesh mesh;
+        loaded.push_back(loadObject(&mesh, entry.line.path,
+                                    LoadRequest{nullptr, nullptr, nullptr, kListOptions, 0}) != 0);
+        releaseObject(&mesh);
+    }
+    return loaded;
+}
+
+void CheckObjects(const std::vector<Entry>& entries, const std::vector<bool>& loads,
+                  Report* report) {
     const auto count = static_cast<std::int32_t>(entries.size());
     for (std::int32_t i = 0; i < count; ++i) {
         const Entry& entry = entries[static_cast<std::size_t>(i)];
-        if (!IsLoaded(world.objects[kFirstSceneObject + 1 + i])) {
+        if (!loads[static_cast<std::size_t>(i)]) {
             Warn(report, entry.place, entry.line.path,
                  {PathOf(entry.line) + " fails to load", "nothing is drawn in its place",
                   Format("inspect it; %d of %d materials are used", materialBase, kMaxMaterials)});
@@ -205,19 +229,18 @@ void ListTable(const std::vector<Entry>& entries, Report* report) {
 } // namespace
 
 void ResetWorldOfTool() {
-    ResetDemo();
+    if (worldLoaded) {
+        ResetDemo();
+    }
+    worldLoaded = false;
     ResetMaterials();
     ResetObjectLoader();
 }
 
 void LoadWorld(const std::string& listPath) {
     ResetWorldOfTool();
-    for (const FixedObject& object : kFixedObjects) {
-        Mesh* const mesh = &(world.*object.mesh);
-        loadObject(mesh, object.path,
-                   LoadRequest{object.scale, &object.position, nullptr, kFixedOptions, 0});
-        MeshRotate(mesh, 0.0F, 0.0F, 90.0F, 0);
-    }
+    worldLoaded = true;
+    LoadFixed();
     LoadSceneList(&world, listPath.c_str());
 }
 
@@ -233,6 +256,7 @@ void InspectList(const std::string& path, Report* report) {
     }
     ListText t{text, report, 0};
     const std::vector<Entry> entries = ReadEntries(&t);
+    const std::vector<bool> loads = LoadOneByOne(entries);
     LoadWorld(path);
     const std::size_t loaded = static_cast<std::size_t>(world.objectCounter - kFirstSceneObject);
     if (loaded != entries.size()) {
@@ -241,7 +265,7 @@ void InspectList(const std::string& path, Report* report) {
             {Format("the production has %zu objects, this inspector %zu", loaded, entries.size()),
              "the production is right", "tell the makers of this program"});
     } else {
-        CheckObjects(entries, report);
+        CheckObjects(entries, loads, report);
         if (FacesOfAll(loaded) > kMaxRenderFaces - kRoomForCuts) {
             Warn(report, entries.empty() ? 1 : entries.back().place, nullptr,
                  {Format("%d faces with the ground and the sky", FacesOfAll(loaded)),
