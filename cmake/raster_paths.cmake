@@ -1,9 +1,9 @@
-# The vector twins of the fillers: one file an instruction set, each with its own flags.
+# The vector twins of the fillers and of the blur: one file an instruction set, each with its own flags.
 if(raster_type STREQUAL INTERFACE_LIBRARY)
   return()
 endif()
 set(simd ${CMAKE_SOURCE_DIR}/src/raster/simd)
-target_sources(ombrel_raster PRIVATE ${simd}/paths.cpp)
+target_sources(ombrel_raster PRIVATE ${simd}/paths.cpp ${simd}/blur.cpp)
 if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64|AMD64|i[3-6]86)$")
   return()
 endif()
@@ -26,3 +26,8 @@ ombrel_twins(avx2 -mavx2)
 # (g++ 12's own header makes its undefined vectors out of uninitialized ones.)
 ombrel_twins(avx512 -mavx512f -mavx512bw -mavx512dq -mavx512vl -Wno-uninitialized
              -Wno-maybe-uninitialized)
+
+# The blur's.
+target_sources(ombrel_raster PRIVATE ${simd}/blur_sse41.cpp ${simd}/blur_avx2.cpp)
+set_source_files_properties(${simd}/blur_sse41.cpp PROPERTIES COMPILE_OPTIONS "${twin_flags}")
+set_source_files_properties(${simd}/blur_avx2.cpp PROPERTIES COMPILE_OPTIONS "${twin_flags};-mavx2")

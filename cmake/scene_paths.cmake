@@ -6,7 +6,12 @@ endif()
 set(kernels ${CMAKE_SOURCE_DIR}/src/scene/simd)
 target_sources(ombrel_scene PRIVATE ${kernels}/kernels_sse41.cpp ${kernels}/kernels_avx2.cpp)
 target_compile_definitions(ombrel_scene PRIVATE OMBREL_X86_KERNELS)
+set(kernel_flags -Wno-psabi -fwrapv)
+if(WIN32)
+  # The stack is not aligned for wide vectors there (raster_paths.cmake says more).
+  list(APPEND kernel_flags -Wa,-muse-unaligned-vector-move)
+endif()
 set_source_files_properties(${kernels}/kernels_sse41.cpp
-                            PROPERTIES COMPILE_OPTIONS "-Wno-psabi;-fwrapv;-msse4.1")
+                            PROPERTIES COMPILE_OPTIONS "${kernel_flags};-msse4.1")
 set_source_files_properties(${kernels}/kernels_avx2.cpp
-                            PROPERTIES COMPILE_OPTIONS "-Wno-psabi;-fwrapv;-mavx2")
+                            PROPERTIES COMPILE_OPTIONS "${kernel_flags};-mavx2")

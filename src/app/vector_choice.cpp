@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 
+#include "demo/blur.h"
 #include "raster/simd/paths.h"
 #include "scene/front_end.h"
 
@@ -12,6 +13,7 @@ VectorPath ChooseVectorPath(bool* understood) {
     const VectorPath path = PathFor(std::getenv(kPathVariable), understood);
     UseFillers(path);
     UseFrontEnd(path);
+    UseBlur(path);
     return path;
 }
 

@@ -17,22 +17,37 @@ constexpr Pixel16 Gather(std::uint32_t spread) {
     return static_cast<Pixel16>((spread | spread >> 16) & 0xFFFF);
 }
 
+void BlurPlain(const BlurRow& work) {
+    for (std::int32_t x = 0; x < work.count; ++x) {
+        const std::uint32_t sum = Spread(work.below[x + 2]) + Spread(work.above[x - 2]) +
+                                  Spread(work.above[x + 2]) + Spread(work.below[x - 2]);
+        work.row[x] = Gather((sum >> 2) & kSpread);
+    }
+}
+
 } // namespace
+
+constinit BlurRowTwin activeBlur = nullptr;
+
+void UseBlur(VectorPath path) {
+    activeBlur = BlurRowOf(path);
+}
+
+void ResetBlur() {
+    activeBlur = nullptr;
+}
 
 void BlurFrame(Pixel16* pixels, std::ptrdiff_t step, std::int32_t width, std::int32_t height) {
     if (pixels == nullptr) {
         return;
     }
     // REQUIRED R45: in place, so the row above is the blurred one.
+    const std::int32_t count = width - 5;
+    const bool twin = activeBlur != nullptr && count >= kLeastBlurTwin;
+    const BlurRowTwin blur = twin ? activeBlur : BlurPlain;
     for (std::int32_t y = 1; y <= height - 3; ++y) {
-        Pixel16* const row = pixels + y * step;
-        const Pixel16* const above = row - step;
-        const Pixel16* const below = row + step;
-        for (std::int32_t x = 2; x <= width - 4; ++x) {
-            const std::uint32_t sum = Spread(below[x + 2]) + Spread(above[x - 2]) +
-                                      Spread(above[x + 2]) + Spread(below[x - 2]);
-            row[x] = Gather((sum >> 2) & kSpread);
-        }
+        Pixel16* const row = pixels + y * step + 2;
+        blur({row, row - step, row + step, count});
     }
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "base/pixel16.h"
+#include "raster/simd/blur.h"
 
 namespace ombrel {
 
@@ -13,5 +14,11 @@ namespace ombrel {
 // pixels rightwards, so the neighbours above are blurred already. step: from row to row, in pixels.
 // Nothing for null pixels.
 void BlurFrame(Pixel16* pixels, std::ptrdiff_t step, std::int32_t width, std::int32_t height);
+
+// What BlurFrame does its rows with; null, the initial value: plain code. Written at start-up by
+// UseBlur, and by tests and benches.
+extern BlurRowTwin activeBlur;
+void UseBlur(VectorPath path);
+void ResetBlur();
 
 } // namespace ombrel

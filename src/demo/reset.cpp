@@ -8,6 +8,7 @@
 #include "base/random15.h"
 #include "base/rect.h"
 #include "base/shell_state.h"
+#include "demo/blur.h"
 #include "demo/world.h"
 #include "math/vec3.h"
 #include "platform/display.h"
@@ -27,6 +28,7 @@ void ResetWorld() {
     ResetBlendTables();
     ResetFillers();
     ResetFrontEnd();
+    ResetBlur();
     ResetTrigTables();
     ResetDisplayState();
     ResetDisplayFormat();

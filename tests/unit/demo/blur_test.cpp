@@ -5,6 +5,7 @@
 
 #include <array>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace ombrel {
@@ -29,11 +30,13 @@ void Reference(std::vector<Pixel16>* pixels, int step, int width, int height) {
     }
 }
 
-TEST(Blur, R45_RandomPicturesInPlace) {
+void CompareWithReference() {
     std::mt19937 random(5);
     for (const auto& [width, height, step] :
          {std::array{64, 48, 64}, std::array{33, 21, 40}, std::array{6, 4, 6}, std::array{5, 3, 5},
-          std::array{8, 3, 8}, std::array{1, 1, 1}, std::array{640, 5, 641}}) {
+          std::array{8, 3, 8}, std::array{1, 1, 1}, std::array{640, 5, 641}, std::array{20, 9, 20},
+          std::array{21, 9, 24}, std::array{22, 9, 25}, std::array{37, 9, 37},
+          std::array{52, 9, 60}, std::array{53, 9, 53}}) {
         for (int round = 0; round < 20; ++round) {
             std::vector<Pixel16> pixels(static_cast<std::size_t>(step * height));
             for (Pixel16& p : pixels) {
@@ -46,6 +49,57 @@ TEST(Blur, R45_RandomPicturesInPlace) {
         }
     }
 }
+
+class BlurOfPath : public testing::TestWithParam<VectorPath> {
+protected:
+    void SetUp() override {
+        if (!ProcessorRuns(GetParam()) || BlurRowOf(GetParam()) == nullptr) {
+            GTEST_SKIP() << "this machine has no " << NameOf(GetParam());
+        }
+        UseBlur(GetParam());
+    }
+    void TearDown() override { ResetBlur(); }
+};
+
+TEST(Blur, R45_RandomPicturesInPlace) {
+    CompareWithReference();
+}
+TEST_P(BlurOfPath, R45_RandomPicturesInPlace) {
+    CompareWithReference();
+}
+
+// One row with every pair of levels above and random ones below.
+TEST_P(BlurOfPath, EverySumOfAChannel) {
+    constexpr int kWidth = 64 + 5;
+    std::mt19937 random(6);
+    for (int a = 0; a < 64; ++a) {
+        for (int b = 0; b < 64; ++b) {
+            std::vector<Pixel16> rows[3];
+            for (std::vector<Pixel16>& row : rows) {
+                row.resize(kWidth);
+            }
+            const auto gray = [](int level) {
+                return static_cast<Pixel16>((level >> 1) << 11 | level << 5 | level >> 1);
+            };
+            for (int x = 0; x < kWidth; ++x) {
+                rows[0][static_cast<std::size_t>(x)] = gray(x % 4 < 2 ? a : b);
+                rows[2][static_cast<std::size_t>(x)] = gray(static_cast<int>(random() % 64));
+            }
+            activeBlur({rows[1].data() + 2, rows[0].data() + 2, rows[2].data() + 2, kWidth - 5});
+            for (int x = 2; x <= kWidth - 4; ++x) {
+                const auto at = static_cast<std::size_t>(x);
+                ASSERT_EQ(rows[1][at], MeanOf(rows[0][at - 2], rows[0][at + 2], rows[2][at - 2],
+                                              rows[2][at + 2]));
+            }
+            // Nothing beside the pixels is written.
+            ASSERT_EQ(rows[1][0] | rows[1][1] | rows[1][kWidth - 3] | rows[1][kWidth - 1], 0);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Paths, BlurOfPath,
+                         testing::Values(VectorPath::Sse, VectorPath::Avx2, VectorPath::Avx512),
+                         [](const auto& info) { return std::string(NameOf(info.param)); });
 
 TEST(Blur, EdgesStayAsTheyAre) {
     std::vector<Pixel16> pixels(20 * 10, 0);
