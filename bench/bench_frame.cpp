@@ -1,11 +1,13 @@
 // Whole frames of the production on the shipped data, and the passes over the whole picture. Frames
 // are played one after another from the first on, so that an iteration is an average of the flight.
+// RASTER_USE names the path.
 #include <benchmark/benchmark.h>
 
 #include <vector>
 
 #include "app/frame_driver.h"
 #include "app/shell.h"
+#include "app/vector_choice.h"
 #include "base/data_file.h"
 #include "base/float_mode.h"
 #include "base/shell_state.h"
@@ -25,6 +27,7 @@ void StartOver() {
     SetDataFolder(DataFolderOf(ProgramFolder()));
     shell.windowed = 1;
     shell.noSound = true;
+    ChooseVectorPath(nullptr);
     StartUp();
     frame.frameCapSwitch = 0;
 }
