@@ -145,6 +145,8 @@ def main():
         side_by_side([(name, [program], {}) for name, program in
                       longest_first + test_programs(release)])
 
+        step("inspector", [ROOT / "tests/inspect/run.sh", release])
+
     if not quick:
         print("Sanitizer build (ASan, UBSan)")
         if build("sanitize", ["all"]):
