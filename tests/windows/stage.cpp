@@ -22,7 +22,7 @@ namespace {
 
 std::FILE* out;
 DWORD child;
-std::string lastMode, lastWindow, lastBox;
+std::string lastMode, lastWindow, lastBox, boxBefore;
 HWND mainWindow, boxWindow;
 
 void Say(const std::string& line) {
@@ -113,8 +113,15 @@ BOOL CALLBACK Look(HWND window, LPARAM) {
     } else if (std::string(kind) == "#32770" && IsWindowVisible(window)) {
         BoxParts parts{};
         EnumChildWindows(window, AddPart, reinterpret_cast<LPARAM>(&parts));
-        const std::string line = "seen box \"" + TextOf(window) + "\" \"" + parts.text + "\" [" +
+        const std::string title = TextOf(window);
+        const std::string line = "seen box \"" + title + "\" \"" + parts.text + "\" [" +
                                  parts.buttons + "] icon " + (parts.icon ? "1" : "0");
+        // A box that comes or goes has only some of its parts: two looks must find the same.
+        const bool whole = !title.empty() && !parts.text.empty() && !parts.buttons.empty();
+        if (!whole || boxBefore != line) {
+            boxBefore = line;
+            return TRUE;
+        }
         boxWindow = window;
         if (lastBox != line) {
             Say(lastBox = line);
