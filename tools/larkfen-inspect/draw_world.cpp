@@ -83,7 +83,8 @@ void RunPipeline(Stage* stage) {
 }
 
 void DrawFilled(Stage* stage, const Area& area) {
-    stage->depth.assign(static_cast<std::size_t>(area.width * area.height), 0);
+    stage->depth.assign(
+        static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height), 0);
     clipRect = {0, 0, area.width, area.height};
     DrawJob job{};
     job.flags = kSceneJobFlags;
@@ -186,8 +187,8 @@ void SetUpStage(Stage* stage, Sheet* sheet) {
 constexpr std::int32_t kMap = 960;
 constexpr float kLeastHalf = 4600.0F; // units from the middle to the side, on the ground
 constexpr float kMapHeight = 12000.0F;
-constexpr std::int32_t kSide = 200; // for the legend
-constexpr std::int32_t kTiles = 8;  // a side of the field
+constexpr std::int32_t kLegend = 200; // pixels beside the map
+constexpr std::int32_t kTiles = 8;    // a side of the field
 
 struct Pixel {
     float x, y;
@@ -344,7 +345,7 @@ bool DrawMap(const MapRequest& request, Sheet* sheet, std::string* why) {
     constexpr Pixel16 kFlights[2] = {Rgb(255, 208, 64), Rgb(96, 220, 255)};
     const ScopedFloatMode asPlayed(FloatMode::Chop);
     LoadWorld(request.listPath);
-    *sheet = MakeSheet(kMap + kSide, kMap);
+    *sheet = MakeSheet(kMap + kLegend, kMap);
     PaintChecks(sheet, {0, 0, kMap, kMap});
     std::vector<Camera> keys[2];
     for (int i = 0; i < 2; ++i) {

@@ -80,13 +80,12 @@ bool CheckHeaders(const Image& image, Report* report) {
     // Compared as the loader does, so that nothing overflows.
     const std::int64_t pixels = std::int64_t{info.width} * info.height;
     if (pixels > info.sizeImage / (info.bitCount / 8U)) {
-        return Fail(report, kSizeAt, image,
-                    info.sizeImage == 0
-                        ? std::string("the image size is not filled in")
-                        : Format("an image size of %u bytes for %d x %d pixels of %d bits",
-                                 info.sizeImage, info.width, info.height, info.bitCount),
-                    Format("write the number of its pixel bytes, %lld",
-                           static_cast<long long>(pixels * (info.bitCount / 8))));
+        return Fail(
+            report, kSizeAt, image,
+            info.sizeImage == 0 ? std::string("the image size is not filled in")
+                                : Format("an image size of %u bytes for %d x %d pixels of %d bits",
+                                         info.sizeImage, info.width, info.height, info.bitCount),
+            "write the number of its pixel bytes, " + std::to_string(pixels * (info.bitCount / 8)));
     }
     if (info.sizeImage > image.bytes.size()) {
         return Fail(report, kSizeAt, image,
