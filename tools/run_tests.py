@@ -92,7 +92,7 @@ def test_programs(folder):
 
 def whole_runs(folder):
     """The test programs that draw pictures or play the production, where they have sources."""
-    return [(name, folder / name) for name in ("scenario", "golden")
+    return [(name, folder / name) for name in ("scenario", "golden", "faults")
             if list((ROOT / "tests" / name).glob("*.cpp"))]
 
 
@@ -142,8 +142,12 @@ def main():
     if build("release", ["all"], "-DOMBREL_TESTS=ON", "-DOMBREL_BENCH=ON"):
         step("clang-tidy and cppcheck", [ROOT / "tools/check_static.py", release])
         longest_first = [] if quick else whole_runs(release)
-        side_by_side([(name, [program], {}) for name, program in
-                      longest_first + test_programs(release)])
+        programs = [(name, [program], {}) for name, program in
+                    longest_first + test_programs(release)]
+        if not quick:
+            programs.append(("20 productions in one process",
+                             [release / "soak", "--fast", "--size", "320x240", "20"], {}))
+        side_by_side(programs)
 
         step("inspector", [ROOT / "tests/inspect/run.sh", release])
 
@@ -161,6 +165,10 @@ def main():
                        LOGS / "frames-sanitize.txt"], {"env": options})
             side_by_side(programs + [frames])
 
+        print("Fuzz targets: their seeds, and 5 seconds each")
+        if build("fuzz", ["fuzz_targets"]):
+            step("fuzzing", [ROOT / "tools/fuzz.py"])
+
         print("The same pictures from every compiler")
         captures = []
         for preset, count in (("release", 100000), ("clang", 100000), ("o0", 400)):
@@ -176,7 +184,13 @@ def main():
         print("Windows builds, under Wine")
         built = [build(preset, ["all"]) for preset in ("win64", "win32")]
         if all(built) and (ROOT / "tests/windows/run.sh").exists():
-            step("Windows programs", [ROOT / "tests/windows/run.sh", ROOT / "build/win64", "--quick"])
+            # The whole production would take minutes more.
+            step("Windows programs", [ROOT / "tests/windows/run.sh", ROOT / "build/win64",
+                                      "--desks", "2", "--but", "whole production"], limit=1800)
+
+        print("The archives of the release")
+        if step("make the archives", ["cmake", "--build", "--preset", "package"], counts=False):
+            step("archives, unpacked", [ROOT / "tests/packages/run.sh", ROOT / "build"])
 
         if (ROOT / "tests/linux/run.sh").exists():
             print("Linux program, under Xvfb")

@@ -4,6 +4,8 @@ import gzip
 import pathlib
 import time
 
+import numpy
+
 from wine_desk import WIDTH, Failure, expect
 
 MASK = (1 << 64) - 1
@@ -12,15 +14,9 @@ STORED = pathlib.Path(__file__).resolve().parent.parent / "scenario/frames.txt.g
 
 def crop(screen, left, top, width, height, step=1):
     """Bytes of 5-6-5 pixels, little-endian; every step-th pixel and row."""
-    out = bytearray()
-    for y in range(top, top + height * step, step):
-        row = screen[(y * WIDTH + left) * 3:(y * WIDTH + left + width * step) * 3]
-        red, green, blue = row[0::3 * step], row[1::3 * step], row[2::3 * step]
-        for r, g, b in zip(red, green, blue):
-            pixel = (r >> 3) << 11 | (g >> 2) << 5 | b >> 3
-            out.append(pixel & 255)
-            out.append(pixel >> 8)
-    return bytes(out)
+    rows = numpy.frombuffer(screen, numpy.uint8).reshape(-1, WIDTH, 3)
+    part = rows[top:top + height * step:step, left:left + width * step:step].astype("<u2")
+    return (part[..., 0] >> 3 << 11 | part[..., 1] >> 2 << 5 | part[..., 2] >> 3).tobytes()
 
 
 def fnv(data):
@@ -57,8 +53,8 @@ def find_frame(desk, name, known, place, scale=1, tries=60):
     for _ in range(tries):
         screen = desk.screenshot(name)
         data = crop(screen, left, top, width, height, scale)
-        frame = known.get(fnv(data))
-        if frame is not None and any(data):
+        frame = known.get(fnv(data)) if any(data) else None
+        if frame is not None:
             if scale > 1:
                 expect_sharp(screen, place, scale)
             return frame

@@ -9,6 +9,8 @@ import shutil
 import subprocess
 import time
 
+from PIL import Image
+
 WIDTH, HEIGHT = 1280, 1024
 SLOW = 90  # seconds that anything may take on a busy machine
 
@@ -99,11 +101,11 @@ class Desk:
 
     def screenshot(self, name):
         """The whole screen as bytes of red, green, blue; kept as a picture too."""
-        path = self.screens / f"{name}.png"
-        subprocess.run(["import", "-window", "root", str(path)], env=self.env, check=True)
-        raw = subprocess.run(["convert", str(path), "-depth", "8", "rgb:-"], check=True,
-                             stdout=subprocess.PIPE).stdout
+        raw = subprocess.run(["import", "-silent", "-window", "root", "-depth", "8", "rgb:-"],
+                             env=self.env, check=True, stdout=subprocess.PIPE).stdout
         expect(len(raw) == WIDTH * HEIGHT * 3, "the screenshot has another size")
+        Image.frombytes("RGB", (WIDTH, HEIGHT), raw).save(self.screens / f"{name}.png",
+                                                          compress_level=1)
         return raw
 
     def key(self, *names):
