@@ -26,35 +26,39 @@ struct Row {
     std::uint32_t* depth;
 };
 
-// kLanes pixels from row on. live: the lanes to draw; the others are written back as they are.
-template <FillerRules R, bool masked>
-[[gnu::always_inline]] inline void DrawBlock(const Brush& brush, const Attributes& at, Row row,
-                                             Ints live) {
-    // Test the depths.
-    Words cell = {}, nearest = {};
-    Ints pass = masked ? live : Ints{} - 1;
+// The depths of a block against those that are there.
+struct DepthTest {
+    Words cell, nearest;
+    Ints pass; // lanes to draw
+};
+template <FillerRules R>
+[[gnu::always_inline]] inline DepthTest TestDepths(Ints depth, const std::uint32_t* cells,
+                                                   Ints live) {
+    DepthTest test = {Words{}, (Words)depth, live};
     if constexpr (Needs<R>::depth) {
-        cell = Load<Words>(row.depth);
-        nearest = (Words)at.depth;
-        if constexpr (R.depth == DepthRule::W) {
-            nearest = Max(nearest, cell);
-            pass &= nearest != cell;
-        } else if constexpr (R.depth == DepthRule::Z) {
-            nearest = Min(nearest, cell);
-            pass &= nearest != cell;
-        }
+        test.cell = Load<Words>(cells);
     }
-    if constexpr (Needs<R>::texels && Needs<R>::depthTest) {
-        if (!Any(pass)) {
-            return;
-        }
+    if constexpr (R.depth == DepthRule::W) {
+        test.nearest = Max(test.nearest, test.cell);
+    } else if constexpr (R.depth == DepthRule::Z) {
+        test.nearest = Min(test.nearest, test.cell);
     }
-    // Make the pixels.
+    if constexpr (Needs<R>::depthTest) {
+        test.pass &= test.nearest != test.cell;
+    }
+    return test;
+}
+
+// kLanes pixels from row on. whole: all lanes were to be drawn, but for what the test says.
+template <FillerRules R, bool whole>
+[[gnu::always_inline]] inline void DrawBlock(const Brush& brush, const Attributes& at, Row row,
+                                             DepthTest test) {
+    Ints pass = test.pass;
     const Words texels = Texels<R>(brush, at, pass);
     if constexpr (R.texel == TexelRule::Keyed) {
         pass &= texels != 0;
     }
-    constexpr bool always = !masked && !Needs<R>::depthTest && R.texel != TexelRule::Keyed;
+    constexpr bool always = whole && !Needs<R>::depthTest && R.texel != TexelRule::Keyed;
     Words pixels = Light<R>(brush, texels, at);
     if constexpr (!always || R.write == WriteRule::Blend) {
         const Words there = LoadPixels(row.frame);
@@ -65,8 +69,8 @@ template <FillerRules R, bool masked>
     }
     StorePixels(row.frame, pixels);
     if constexpr (Needs<R>::depth) {
-        constexpr bool tested = !masked && R.texel != TexelRule::Keyed;
-        Store(row.depth, tested ? nearest : Select(pass, nearest, cell));
+        constexpr bool tested = whole && R.texel != TexelRule::Keyed;
+        Store(row.depth, tested ? test.nearest : Select(pass, test.nearest, test.cell));
     }
 }
 
@@ -80,7 +84,8 @@ template <FillerRules R>
     if constexpr (Needs<R>::depth) {
         std::memcpy(depth, row.depth, static_cast<std::size_t>(count) * sizeof depth[0]);
     }
-    DrawBlock<R, true>(brush, at, {frame, depth}, LaneNumbers() < count);
+    DrawBlock<R, false>(brush, at, {frame, depth},
+                        TestDepths<R>(at.depth, depth, LaneNumbers() < count));
     std::memcpy(row.frame, frame, static_cast<std::size_t>(count) * sizeof frame[0]);
     if constexpr (Needs<R>::depth) {
         std::memcpy(row.depth, depth, static_cast<std::size_t>(count) * sizeof depth[0]);
@@ -111,7 +116,8 @@ template <FillerRules R>
         ProjectEnds(&left, &right);
     }
     // Divide for the steps. (A closed span of width 0 is one pixel and takes none.)
-    const SlotsOf<R> step = ScaleChop(right - left, ReciprocalOf(width));
+    const SlotsOf<R> step =
+        ScaleChop(right - left, width < kShortSpan ? kReciprocals.of[width] : ReciprocalOf(width));
     SlotsOf<R> start = left + SpanStart<R>();
     // Cut the span to the clip rectangle.
     xr += closed;
@@ -130,6 +136,8 @@ template <FillerRules R>
     std::int32_t starts[slotCount], steps[slotCount];
     Store(starts, start);
     Store(steps, step);
+    // They are read back one by one: taking them out of the vectors would be twice the work.
+    __asm__("" : "+m"(starts), "+m"(steps));
     Attributes at;
     ForEachAttribute<R>(
         &at, [&](Ints * a, int k)
@@ -137,18 +145,47 @@ template <FillerRules R>
     row.frame += xl;
     row.depth += xl;
     std::int32_t count = xr - xl;
-    while (count > kLanes) {
-        DrawBlock<R, false>(brush, at, row, Ints{});
+    constexpr bool skips = Needs<R>::texels && Needs<R>::depthTest;
+    std::int32_t skipped = 0; // pixels that the attributes but depth lag behind
+    const auto catchUp = [&]() __attribute__((always_inline)) {
+        if (skips && skipped != 0) {
+            ForEachAttribute<R>(
+                &at, [&](Ints * a, int k) __attribute__((always_inline)) {
+                    *a += k == kDepth ? 0 : steps[k] * skipped;
+                });
+            skipped = 0;
+        }
+    };
+    if (count > kLanes) {
+        Attributes advance;
         ForEachAttribute<R>(
-            &at, [&](Ints * a, int k) __attribute__((always_inline)) { *a += steps[k] * kLanes; });
-        row.frame += kLanes;
-        row.depth += kLanes;
-        count -= kLanes;
+            &advance, [&](Ints * a, int k)
+                          __attribute__((always_inline)) { *a = Ints{} + steps[k] * kLanes; });
+        do {
+            const DepthTest test = TestDepths<R>(at.depth, row.depth, Ints{} - 1);
+            if (skips && !Any(test.pass)) {
+                skipped += kLanes;
+                at.depth += advance.depth;
+            } else {
+                catchUp();
+                DrawBlock<R, true>(brush, at, row, test);
+                Advance<R>(&at, advance);
+            }
+            row.frame += kLanes;
+            row.depth += kLanes;
+            count -= kLanes;
+        } while (count > kLanes);
     }
     if (columns.right - xr + count >= kLanes) {
-        DrawBlock<R, true>(brush, at, row, LaneNumbers() < count);
+        const DepthTest test = TestDepths<R>(at.depth, row.depth, LaneNumbers() < count);
+        if (!skips || Any(test.pass)) {
+            catchUp();
+            DrawBlock<R, false>(brush, at, row, test);
+        }
     } else {
-        DrawBlockAside<R>(brush, at, row, count);
+        catchUp();
+        const Attributes copy = at;
+        DrawBlockAside<R>(brush, copy, row, count);
     }
 }
 
@@ -193,7 +230,7 @@ template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarge
         xyz[i] = ToIntChop(_mm_add_ps(_mm_loadu_ps(&vertices[i].x), half));
         if constexpr (Needs<R>::texels) {
             const __m128 exact =
-                _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double*>(&vertices[i].u)));
+                _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(&vertices[i].u)));
             uv[i] = ToIntChop(Needs<R>::perspective ? _mm_add_ps(exact, half) : exact);
         }
     }

@@ -12,6 +12,8 @@
 
 #include <immintrin.h>
 
+#include "raster/simd/reciprocal.h"
+
 namespace ombrel {
 namespace {
 
@@ -34,10 +36,7 @@ template <class Vector, class T> [[gnu::always_inline]] inline void Store(T* to,
 [[gnu::always_inline]] inline Words Select(Ints mask, Words yes, Words no) {
     return mask ? yes : no;
 }
-// Products below 2^16 a half, both halves of a lane.
-[[gnu::always_inline]] inline Words MultiplyHalves(Words a, Words b) {
-    return (Words)((Halves)a * (Halves)b);
-}
+// Both halves of each lane.
 [[gnu::always_inline]] inline Words ShiftHalves(Words a, int bits) {
     return (Words)((Halves)a >> bits);
 }
@@ -54,16 +53,6 @@ template <class Vector, class T> [[gnu::always_inline]] inline void Store(T* to,
 }
 [[gnu::always_inline]] inline Quad Max(Quad a, Quad b) {
     return (Quad)_mm_max_epi32((__m128i)a, (__m128i)b);
-}
-
-// A division toward zero is one multiplication by a reciprocal that is a trace too large: the
-// quotient of a number below 2^31 by n lies 1/n or more below the next whole number, or is whole.
-// The trace, 2^-40 of it, is less than that gap and more than what is lost to the rounding of
-// double precision, whichever way that is set.
-constexpr double kTraceAboveOne = 0x1.0000000001p0;
-
-[[gnu::always_inline]] inline double ReciprocalOf(std::int32_t n) {
-    return kTraceAboveOne / static_cast<double>(n);
 }
 
 } // namespace

@@ -54,6 +54,22 @@ template <FillerRules R, class Action>
     }
 }
 
+template <FillerRules R>
+[[gnu::always_inline]] inline void Advance(Attributes* at, const Attributes& by) {
+    if constexpr (Needs<R>::depth) {
+        at->depth += by.depth;
+    }
+    if constexpr (Needs<R>::texels) {
+        at->u += by.u;
+        at->v += by.v;
+    }
+    if constexpr (Needs<R>::gouraud) {
+        at->red += by.red;
+        at->green += by.green;
+        at->blue += by.blue;
+    }
+}
+
 // What stays the same over one triangle.
 struct Brush {
     const Pixel16* texels;
@@ -65,7 +81,9 @@ struct Brush {
     std::uint32_t over;      // blend factor of the source
 };
 
-// The blend tables as multiplications: channel * factor / 1024, to nearest, is the entry.
+// The blend tables as multiplications: channel * factor / 1024, to nearest, is the entry. (It is
+// never near a half: channel * k / 7 is 1/14 from one, what the factors are rounded by at most
+// 1/32.)
 constexpr std::uint32_t kBlendFactors[8] = {0, 146, 293, 439, 585, 731, 878, 1024};
 
 template <FillerRules R>
@@ -158,10 +176,12 @@ template <FillerRules R>
     } else if constexpr (R.light == LightRule::Flat) {
         const std::uint32_t k = brush.color;
         if constexpr (Needs<R>::texels) {
-            const Words red = MultiplyHalves(t >> 11, Words{} + (k >> 11));
-            const Words green = MultiplyHalves((t >> 5) & 63, Words{} + ((k >> 5) & 63));
-            const Words blue = MultiplyHalves(t & 31, Words{} + (k & 31));
-            return ((green >> 1) & 0x7FE0) + ((red & 0xFFE0) << 6) + (blue >> 5);
+            // Channels stay in their places: 2^11 red x 2^11 red is 64 times the product, and so
+            // on.
+            const Words red = HighHalves(t & 0xF800, Words{} + ((k & 0xF800)));
+            const Words green = HighHalves(t & 0x07E0, Words{} + ((k & 0x07E0) << 5));
+            const Words blue = HighHalves(t & 0x001F, Words{} + ((k & 0x001F) << 11));
+            return (green & 0x07E0) + (red & 0xF800) + blue;
         }
         return Words{} + k;
     } else {
@@ -169,20 +189,19 @@ template <FillerRules R>
     }
 }
 
-// Red and blue share one product, green of source and frame another. Sums are not clamped: what
+// Each channel is multiplied to nearest, red and blue with one product. Sums are not clamped: what
 // runs over the top of a channel goes into the next one, and out at the top.
 [[gnu::always_inline]] inline Words Blend(const Brush& brush, Words source, Words there) {
-    const std::uint32_t both = 0x10001;
-    const Words half = Words{} + 512 * both;
-    const Words redBlueOver = (source >> 11) | (source & 31) << 16;
-    const Words redBlueUnder = (there >> 11) | (there & 31) << 16;
-    const Words greens = ((source >> 5) & 63) | (there & 0x7E0) << 11;
+    const auto spread = [](Words p) __attribute__((always_inline)) {
+        return (p >> 8 | p << 19) & 0x00F800F8; // red in the low half, blue in the high one
+    };
+    const Words over = Words{} + (brush.over << 2) * 0x10001,
+                under = Words{} + (brush.under << 2) * 0x10001;
     const Words redBlue =
-        ShiftHalves(MultiplyHalves(redBlueOver, Words{} + brush.over * both) + half, 10) +
-        ShiftHalves(MultiplyHalves(redBlueUnder, Words{} + brush.under * both) + half, 10);
-    const Words green =
-        ShiftHalves(MultiplyHalves(greens, Words{} + (brush.over | brush.under << 16)) + half, 10);
-    return ((redBlue << 11) + ((green + (green >> 16)) << 5) + (redBlue >> 16)) & 0xFFFF;
+        RoundedProducts(spread(source), over) + RoundedProducts(spread(there), under);
+    const Words green = RoundedProducts(source & 0x07E0, Words{} + brush.over) +
+                        RoundedProducts(there & 0x07E0, Words{} + brush.under);
+    return ((redBlue << 11) + (green << 5) + (redBlue >> 16)) & 0xFFFF;
 }
 
 } // namespace

@@ -31,24 +31,32 @@ namespace {
     Store(to, _mm_packus_epi32(_mm256_castsi256_si128(v), _mm256_extracti128_si256(v, 1)));
 }
 
-// One texel a lane, and not a byte besides.
+using IndexPairs [[gnu::vector_size(32)]] = std::uint64_t;
+
+// One texel a lane, and not a byte besides. Indices of 0 or more, taken out two at a time.
 [[gnu::always_inline]] inline Words FetchTexels(const Pixel16* texels, Ints index) {
-    alignas(32) std::int32_t i[kLanes];
-    Store(i, index);
-    __m128i v = _mm_cvtsi32_si128(texels[i[0]]);
-    v = _mm_insert_epi16(v, texels[i[1]], 1);
-    v = _mm_insert_epi16(v, texels[i[2]], 2);
-    v = _mm_insert_epi16(v, texels[i[3]], 3);
-    v = _mm_insert_epi16(v, texels[i[4]], 4);
-    v = _mm_insert_epi16(v, texels[i[5]], 5);
-    v = _mm_insert_epi16(v, texels[i[6]], 6);
-    v = _mm_insert_epi16(v, texels[i[7]], 7);
+    const auto two = (IndexPairs)index;
+    __m128i v = _mm_cvtsi32_si128(texels[two[0] & 0xFFFFFFFF]);
+    v = _mm_insert_epi16(v, texels[two[0] >> 32], 1);
+    v = _mm_insert_epi16(v, texels[two[1] & 0xFFFFFFFF], 2);
+    v = _mm_insert_epi16(v, texels[two[1] >> 32], 3);
+    v = _mm_insert_epi16(v, texels[two[2] & 0xFFFFFFFF], 4);
+    v = _mm_insert_epi16(v, texels[two[2] >> 32], 5);
+    v = _mm_insert_epi16(v, texels[two[3] & 0xFFFFFFFF], 6);
+    v = _mm_insert_epi16(v, texels[two[3] >> 32], 7);
     return (Words)_mm256_cvtepu16_epi32(v);
 }
 
 // Two neighbours a lane, the left one in the low half.
 [[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
     return (Words)_mm256_i32gather_epi32(reinterpret_cast<const int*>(texels), (__m256i)index, 2);
+}
+// Products of halves: the high half of each, without sign; or 1/2^15 of each to nearest, with sign.
+[[gnu::always_inline]] inline Words HighHalves(Words a, Words b) {
+    return (Words)_mm256_mulhi_epu16((__m256i)a, (__m256i)b);
+}
+[[gnu::always_inline]] inline Words RoundedProducts(Words a, Words b) {
+    return (Words)_mm256_mulhrs_epi16((__m256i)a, (__m256i)b);
 }
 // Low half times low half plus high half times high half, with sign.
 [[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {

@@ -45,6 +45,13 @@ namespace {
     }
     return v;
 }
+// Products of halves: the high half of each, without sign; or 1/2^15 of each to nearest, with sign.
+[[gnu::always_inline]] inline Words HighHalves(Words a, Words b) {
+    return (Words)_mm512_mulhi_epu16((__m512i)a, (__m512i)b);
+}
+[[gnu::always_inline]] inline Words RoundedProducts(Words a, Words b) {
+    return (Words)_mm512_mulhrs_epi16((__m512i)a, (__m512i)b);
+}
 // Low half times low half plus high half times high half, with sign.
 [[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {
     return (Words)_mm512_madd_epi16((__m512i)a, (__m512i)b);

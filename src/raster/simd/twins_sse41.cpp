@@ -40,6 +40,13 @@ namespace {
     return Words{Load<std::uint32_t>(texels + index[0]), Load<std::uint32_t>(texels + index[1]),
                  Load<std::uint32_t>(texels + index[2]), Load<std::uint32_t>(texels + index[3])};
 }
+// Products of halves: the high half of each, without sign; or 1/2^15 of each to nearest, with sign.
+[[gnu::always_inline]] inline Words HighHalves(Words a, Words b) {
+    return (Words)_mm_mulhi_epu16((__m128i)a, (__m128i)b);
+}
+[[gnu::always_inline]] inline Words RoundedProducts(Words a, Words b) {
+    return (Words)_mm_mulhrs_epi16((__m128i)a, (__m128i)b);
+}
 // Low half times low half plus high half times high half, with sign.
 [[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {
     return (Words)_mm_madd_epi16((__m128i)a, (__m128i)b);

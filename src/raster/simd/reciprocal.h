@@ -1,0 +1,33 @@
+// Division toward zero as one multiplication by a reciprocal that is a trace too large.
+//
+// The quotient of a 32-bit number by n is whole, or lies 1/n or more below the next whole number
+// away from zero. The trace adds 2^-40 of the quotient, at most 2^-9 / n: too little to reach that
+// number, and more than the two roundings of double precision take away, whichever way they go. The
+// product, cut, is the quotient. Part of lanes.h; own to each file that includes it.
+#pragma once
+
+#include <cstdint>
+
+namespace ombrel {
+namespace {
+
+constexpr double kTraceAboveOne = 0x1.0000000001p0;
+
+[[gnu::always_inline]] inline double ReciprocalOf(std::int32_t n) {
+    return kTraceAboveOne / static_cast<double>(n);
+}
+// The same for the widths of most spans, without the wait for a division.
+constexpr std::int32_t kShortSpan = 128;
+struct ReciprocalTable {
+    double of[kShortSpan];
+};
+constexpr ReciprocalTable kReciprocals = [] {
+    ReciprocalTable table = {};
+    for (std::int32_t n = 1; n < kShortSpan; ++n) {
+        table.of[n] = kTraceAboveOne / n;
+    }
+    return table;
+}();
+
+} // namespace
+} // namespace ombrel
