@@ -92,7 +92,7 @@ def test_programs(folder):
 
 def whole_runs(folder):
     """The test programs that draw pictures or play the production, where they have sources."""
-    return [(name, folder / name) for name in ("scenario", "golden", "faults")
+    return [(name, folder / name) for name in ("scenario", "golden")
             if list((ROOT / "tests" / name).glob("*.cpp"))]
 
 
@@ -142,12 +142,8 @@ def main():
     if build("release", ["all"], "-DOMBREL_TESTS=ON", "-DOMBREL_BENCH=ON"):
         step("clang-tidy and cppcheck", [ROOT / "tools/check_static.py", release])
         longest_first = [] if quick else whole_runs(release)
-        programs = [(name, [program], {}) for name, program in
-                    longest_first + test_programs(release)]
-        if not quick:
-            programs.append(("20 productions in one process",
-                             [release / "soak", "--fast", "--size", "320x240", "20"], {}))
-        side_by_side(programs)
+        side_by_side([(name, [program], {}) for name, program in
+                      longest_first + test_programs(release)])
 
         step("inspector", [ROOT / "tests/inspect/run.sh", release])
 
@@ -164,10 +160,6 @@ def main():
                       [sanitize / CAPTURE, "-w", "-ns", "--frames", "0:200", "--hashes",
                        LOGS / "frames-sanitize.txt"], {"env": options})
             side_by_side(programs + [frames])
-
-        print("Fuzz targets: their seeds, and 5 seconds each")
-        if build("fuzz", ["fuzz_targets"]):
-            step("fuzzing", [ROOT / "tools/fuzz.py"])
 
         print("The same pictures from every compiler")
         captures = []
