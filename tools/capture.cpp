@@ -41,6 +41,7 @@ struct Recorder {
     Progress progress{};
     Video video;
     std::FILE* hashes = nullptr;
+    std::string hashPart; // name of the hash file while it grows; empty: written in place
     std::vector<std::uint8_t> rgb;
     std::int64_t played = 0;
     std::int64_t recorded = 0;
@@ -184,7 +185,15 @@ std::string OpenOutputs(Recorder* recorder) {
     if (options.hashFile == "-") {
         recorder->hashes = stdout;
     } else if (!options.hashFile.empty()) {
-        recorder->hashes = std::fopen(options.hashFile.c_str(), "wb");
+        // A device or a pipe cannot change its name.
+        std::error_code error;
+        const auto status = std::filesystem::status(options.hashFile, error);
+        if (!std::filesystem::exists(status) || std::filesystem::is_regular_file(status)) {
+            recorder->hashPart = options.hashFile + ".part";
+        }
+        const std::string& name =
+            recorder->hashPart.empty() ? options.hashFile : recorder->hashPart;
+        recorder->hashes = std::fopen(name.c_str(), "wb");
         if (recorder->hashes == nullptr) {
             return options.hashFile + ": " + std::strerror(errno);
         }
@@ -203,14 +212,30 @@ std::string OpenOutputs(Recorder* recorder) {
                      &recorder->video);
 }
 
+// The hash file gets its name only when it is whole.
+void CloseHashes(Recorder* recorder) {
+    const std::string& file = recorder->options.hashFile;
+    errno = 0;
+    const bool written = std::fflush(recorder->hashes) == 0;
+    const int reason = errno;
+    const bool closed = recorder->hashes == stdout || std::fclose(recorder->hashes) == 0;
+    if (!written || !closed) {
+        Note(recorder, file + ": " + std::strerror(reason != 0 ? reason : errno));
+    }
+    if (recorder->hashPart.empty()) {
+        return;
+    }
+    if (!recorder->problem.empty()) {
+        std::remove(recorder->hashPart.c_str());
+    } else if (std::rename(recorder->hashPart.c_str(), file.c_str()) != 0) {
+        Note(recorder, file + ": " + std::strerror(errno));
+        std::remove(recorder->hashPart.c_str());
+    }
+}
+
 void CloseOutputs(Recorder* recorder) {
     if (recorder->hashes != nullptr) {
-        const bool written = std::fflush(recorder->hashes) == 0;
-        const int reason = errno;
-        const bool closed = recorder->hashes == stdout || std::fclose(recorder->hashes) == 0;
-        if (!written || !closed) {
-            Note(recorder, recorder->options.hashFile + ": " + std::strerror(reason));
-        }
+        CloseHashes(recorder);
     }
     if (recorder->video.pipe == nullptr) {
         return;
@@ -262,6 +287,9 @@ int main(int argc, char** argv) {
     const std::string unopened = OpenOutputs(&recorder);
     if (!unopened.empty()) {
         DropVideo(&recorder.video);
+        if (!recorder.hashPart.empty()) {
+            std::remove(recorder.hashPart.c_str());
+        }
         std::fprintf(stderr, "larkfen-capture: %s\n", unopened.c_str());
         return 1;
     }

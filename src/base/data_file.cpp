@@ -7,6 +7,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/memory_reserve.h"
+
 namespace ombrel {
 
 namespace fs = std::filesystem;
@@ -109,6 +111,7 @@ std::string FindDataFile(const char* path) {
 }
 
 std::FILE* OpenDataFile(const char* path, const char* mode) {
+    KeepMemoryReserve(); // again, where the names of the file before took of it
     const std::string found = FindDataFile(path);
     std::error_code error;
     // Folders cannot be read, and a device or a pipe may never end.

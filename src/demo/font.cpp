@@ -15,6 +15,11 @@ namespace {
 constexpr std::int32_t kColumns = 16;
 constexpr std::uint32_t kKeyColor = 0;
 
+// A text may stand anywhere, also where whole numbers end; a glyph there is not drawn.
+std::int32_t WrappingSum(std::int32_t a, std::int32_t b) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+}
+
 // The part of a sheet that belongs to a character, cut to the sheet.
 Rect CellOf(std::int32_t code, std::int32_t sheetWidth, std::int32_t sheetHeight) {
     Rect cell;
@@ -55,8 +60,8 @@ void DrawFrame(const GlyphSet& set, Surface* surface) {
     Rect target;
     target.left = ToIntChop(set.x);
     target.top = ToIntChop(set.y);
-    target.right = target.left + set.width;
-    target.bottom = target.top + set.height;
+    target.right = WrappingSum(target.left, set.width);
+    target.bottom = WrappingSum(target.top, set.height);
     BlitKeyed(surface, &target, set.frames[set.currentFrame]);
 }
 
@@ -100,7 +105,7 @@ std::int32_t DrawGlyphText(GlyphSet* set, const TextPlace& place, const char* te
         set->currentFrame = static_cast<unsigned char>(*p);
         DrawFrame(*set, surface);
         x += static_cast<float>(place.advance);
-        width += place.advance;
+        width = WrappingSum(width, place.advance);
     }
     return width;
 }

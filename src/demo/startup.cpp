@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "assets/object_loader.h"
+#include "base/memory_reserve.h"
 #include "base/random15.h"
 #include "base/shell_state.h"
 #include "demo/fixed_objects.h"
@@ -131,6 +132,8 @@ void* AllocateDepthBuffer(std::int32_t width, std::int32_t height, std::uint32_t
 }
 
 int StartUp() {
+    KeepMemoryReserve();
+
     // Take the screen. What cannot be had is done without.
     EnableScreenSaver(false);
     OpenDisplay(shell.screenWidth, shell.screenHeight, kBitsPerPixel, shell.windowed, 0);

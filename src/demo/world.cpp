@@ -7,6 +7,7 @@
 
 #include "assets/bmp.h"
 #include "assets/object_loader.h"
+#include "base/memory_reserve.h"
 #include "demo/font.h"
 #include "demo/scene_one.h"
 #include "demo/scene_two.h"
@@ -74,6 +75,7 @@ void ReleaseWorld() {
 
 void ResetDemo() {
     ReleaseWorld();
+    ResetMemoryReserve();
     // Far too large for a copy of a start value on the stack.
     std::memset(&sceneFaces, 0, sizeof sceneFaces);
     switches = kInitialSwitches;

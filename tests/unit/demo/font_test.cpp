@@ -168,6 +168,16 @@ TEST_F(Font, SheetOf8BitsIsRefused) {
     EXPECT_EQ(LoadGlyphSet("./data/2d/eight.bmp", &fonts.small), 0);
 }
 
+// Where whole numbers end, a width wraps and a glyph that would reach further is not drawn.
+TEST_F(Font, PlacesAndAdvancesThatReachPastWholeNumbers) {
+    GlyphSet* const set = Load();
+    EXPECT_EQ(DrawGlyphText(set, {0, 0, 0x60000000}, "aaa", target), 0x20000000);
+    EXPECT_EQ(DrawGlyphText(set, {2147483520.0F, 0, 1}, "a", target), 1);
+    EXPECT_EQ(DrawGlyphText(set, {3e38F, -3e38F, 1}, "a", target), 1);
+    EXPECT_EQ(DrawGlyphText(set, {__builtin_inff(), __builtin_nanf(""), -1}, "a", target), -1);
+    EXPECT_EQ(CountDrawn(), 1); // the first a, at 0, 0
+}
+
 TEST_F(Font, LoadingAgainReleasesTheSurfacesBefore) {
     Load();
     for (int i = 0; i < 10; ++i) {

@@ -1,0 +1,6 @@
+#!/bin/sh
+# Twenty whole productions in one process, every frame drawn: about half an hour. Nothing may grow.
+# tests/soak.sh [COUNT]; needs build/release with the tests.
+set -eu
+cd "$(dirname -- "$0")/.."
+exec build/release/soak "${1:-20}"
