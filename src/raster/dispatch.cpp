@@ -165,6 +165,15 @@ void DrawFace(const DrawJob& job, Kind kind, const RenderFace& face, ScreenPolyg
         polygon, {job.frame, job.framePitch, job.depth, job.depthPitch, level});
 }
 
+// Asks for the memory of a face that is drawn soon.
+constexpr std::int32_t kFacesAhead = 3;
+void Fetch(const RenderFace* face) {
+    __builtin_prefetch(&face->state);
+    __builtin_prefetch(&face->work[0]);
+    __builtin_prefetch(&face->work[1]);
+    __builtin_prefetch(&face->work[2].v);
+}
+
 } // namespace
 
 void DrawFaces(const DrawJob* job) {
@@ -174,6 +183,7 @@ void DrawFaces(const DrawJob* job) {
     }
     ScreenPolygon polygon{};
     for (std::int32_t i = 0; i < job->faces->count; ++i) {
+        Fetch(job->faces->pointers[std::min(i + kFacesAhead, job->faces->count - 1)]);
         const RenderFace& face = *job->faces->pointers[i];
         if (IsDrawable(face.state)) {
             DrawFace(*job, kind, face, &polygon);

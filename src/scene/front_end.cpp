@@ -6,6 +6,8 @@
 // and keeps everything between in the scratch memory below, small enough for the caches.
 #include "scene/front_end.h"
 
+#include <algorithm>
+
 #include "base/pixel16.h"
 #include "scene/mesh_transform.h"
 #include "scene/pipeline.h"
@@ -220,6 +222,15 @@ void WriteForScissors(FrontEnd* front, const Mesh& mesh, const Face& face, Rende
     scratch.cuts[front->cuts++] = static_cast<std::int32_t>(record - front->list->records);
 }
 
+// Asks for the memory of a record that is written soon.
+constexpr std::int32_t kRecordsAhead = 3;
+void FetchForWriting(const RenderFace* record) {
+    __builtin_prefetch(&record->state, 1);
+    __builtin_prefetch(&record->work[0], 1);
+    __builtin_prefetch(&record->work[1], 1);
+    __builtin_prefetch(&record->work[2].v, 1);
+}
+
 void WriteRecords(const MeshWork& work) {
     FrontEnd* const front = work.front;
     FaceList* const list = front->list;
@@ -229,6 +240,7 @@ void WriteRecords(const MeshWork& work) {
         RenderFace* const record = &list->records[list->count];
         list->pointers[list->count] = record;
         ++list->count;
+        FetchForWriting(&list->records[std::min(list->count + kRecordsAhead, kMaxRenderFaces - 1)]);
         record->flags = face.flags;
         record->color = face.color;
         record->texture = face.texture;
