@@ -8,8 +8,8 @@ import layout
 
 # name: x y z, ax (down +), ay (bearing).  Steps are powers of two, so that frame counts are exact.
 SCENE_ONE = [
-    ("shapes the first tangent", -760, 215, -3560, 60, 15),
-    ("black water, lamps below", -735, 215, -3500, 54, 15),
+    ("shapes the first tangent", -758, 215, -3548, 60, 15),
+    ("black water, lamps below", -733, 215, -3491, 54, 15),
     ("the way lifts the eyes", -715, 215, -3440, 32, 15),
     ("three gates stand against the sky", -692, 216, -3370, 10, 15),
     ("slow approach", -664, 218, -3280, 0, 16),
@@ -29,10 +29,10 @@ SCENE_ONE = [
     ("between the hour stones", 920, 365, 10, -9, 37),
     ("the stair in view", 880, 410, 330, -12, 39),
     ("circling begins, westward", 680, 500, 690, -10, 54),
-    ("level with the windows", 520, 640, 1180, -6, 83),
-    ("behind, the viaduct walks to sea", 590, 820, 1780, 0, 116),
-    ("level with the lamp room", 1010, 1010, 2260, 5, 151),
-    ("tower before parasol", 1760, 1230, 2420, 9, 200),
+    ("level with the windows", 515, 640, 1230, -6, 86),
+    ("behind, the viaduct walks to sea", 625, 820, 1830, 0, 121),
+    ("level with the lamp room", 1090, 1010, 2300, 5, 159),
+    ("tower before parasol", 1760, 1230, 2430, 9, 198),
     ("the climb begins", 2440, 1540, 1760, 15, 232),
     ("the whole island turns", 2720, 1960, 640, 23, 257),
     ("over the eastern rocks", 2440, 2420, -480, 32, 281),
@@ -61,24 +61,25 @@ def scene_two():
     plan = [(203, 3210, 440, 3, 0), (196, 3330, 480, 4, 0), (189, 3380, 520, 5, 0),
             (181, 3320, 570, 7, 2), (172, 3150, 640, 10, 3), (162, 2930, 720, 12, 2),
             (151, 2740, 800, 14, 0), (140, 2600, 870, 15, -1), (128, 2520, 930, 16, -2),
-            (115, 2500, 990, 17, -2), (102, 2540, 1050, 18, -1), (89, 2620, 1120, 18, 1),
-            (76, 2730, 1200, 19, 2)]
+            (115, 2500, 980, 17, -2), (102, 2460, 1010, 17, -1), (89, 2380, 1000, 15, 1),
+            (77, 2250, 950, 13, 3)]
     names = ["towards the way", "beside the way", "three gates in line, lamps below",
              "past the way", "the boat passes", "towards the shore", "pools of light cross",
              "over the pines",
              "east shore", "the basin in colour", "the tower to the right",
-             "the tower before the dial", "above it"]
+             "the tower before the dial", "down towards the shore"]
     for n, (b, r, h, d, off) in zip(names, plan):
         x, y, z, ax, ay = ring(b, r, h, d, off)
         keys.append((n, x, y, z, ax, ay))
-    # the points: past the lamp room, then from near above, where they stand apart; and rest
-    dots = [(64, 2800, 1290, 20, 2), (57, 2600, 1400, 22, 1), (50, 2380, 1530, 25, 0),
-            (43, 2160, 1680, 28, 0), (36, 1950, 1830, 31, 0), (28, 1780, 1960, 34, 0),
-            (19, 1660, 2060, 36.5, 0), (9, 1580, 2120, 38, 0), (-1, 1550, 2150, 38.5, 0),
-            (-12, 1550, 2150, 38.5, 0), (-23, 1580, 2110, 38, 0), (-33, 1650, 2030, 37, 0),
-            (-42, 1750, 1910, 35, 0), (-50, 1870, 1760, 32, 0), (-57, 1990, 1600, 28.5, 0),
-            (-62, 2090, 1430, 24.5, 0), (-66, 2170, 1260, 20.5, 0), (-69, 2230, 1110, 17, 0),
-            (-71, 2270, 990, 14.5, 0), (-72, 2290, 920, 13, 0)]
+    # The points: from low, looking up, so that all far ground folds into one bright line and what
+    # stands above it is drawn on black; in under the canopy, out again with the gates, to rest.
+    dots = [(69, 2010, 850, 9, 3), (62, 1740, 700, 4, 1), (54, 1560, 570, -1, 0),
+            (45, 1500, 490, -6, 0), (37, 1440, 430, -10, 0), (30, 1330, 390, -14, 0),
+            (23, 1230, 360, -18, 0), (15, 1180, 345, -21, 0), (6, 1170, 340, -22, 0),
+            (-3, 1165, 345, -21, 3), (-12, 1170, 355, -19, 7), (-20, 1220, 372, -16.5, 11),
+            (-26, 1330, 395, -14, 14), (-31, 1430, 414, -12.3, 16), (-37.5, 1510, 430, -11, 17.5),
+            (-44, 1580, 445, -10, 18.5), (-47.5, 1650, 462, -9, 19), (-49.5, 1710, 478, -8.2, 19),
+            (-50, 1740, 486, -7.8, 19), (-50.2, 1750, 488, -7.7, 19)]
     for k, (b, r, h, d, off) in enumerate(dots):
         x, y, z, ax, ay = ring(b, r, h, d, off)
         keys.append(("points %d" % (k + 1), x, y, z, ax, ay))

@@ -82,11 +82,13 @@ def sky_day():
 
     # the sea below the horizon, hazy far off, with a glitter below the sun
     sea = ramp(-e, [(0, (180, 166, 172)), (2.0, (144, 150, 161)), (5, (123, 142, 155)),
-                    (12, (116, 139, 153))])
+                    (12, (116, 139, 153)), (24, (116, 138, 152))])
+    # from high above, where only the deep part shows, it carries the grain of the near water
+    sea += (3.6 * smooth(-14, -26, e) * fft_noise((h, w), 14, 0.7, low=40))[..., None]
     sea = lerp(sea, np.full(sky.shape, (236, 196, 158)), 0.75 * warm * np.exp(-np.maximum(
         -e, 0) / 3.5))
     spark = fft_noise((h, w), 13, 0.5, stretch=(0.25, 1.0))
-    path = np.exp(-(side / (5.0 + 1.2 * np.maximum(-e, 0))) ** 2) * np.exp(np.minimum(e, 0) / 14)
+    path = np.exp(-(side / (5.0 + 1.2 * np.maximum(-e, 0))) ** 2) * np.exp(np.minimum(e, 0) / 8)
     sea = lerp(sea, np.full(sky.shape, (255, 232, 186)), np.clip(path * (0.75 + 0.25 * spark), 0,
                                                                  0.95))
     out = np.where((e < 0)[..., None], sea, sky)
