@@ -74,21 +74,12 @@ template <FillerRules R, bool whole>
     }
 }
 
-// The last pixels of a row, where a whole block would reach past the clip rectangle.
-template <FillerRules R>
-[[gnu::noinline]] void DrawBlockAside(const Brush& brush, const Attributes& at, Row row,
-                                      std::int32_t count) {
-    Pixel16 frame[kLanes] = {};
-    std::uint32_t depth[kLanes] = {};
-    std::memcpy(frame, row.frame, static_cast<std::size_t>(count) * sizeof frame[0]);
-    if constexpr (Needs<R>::depth) {
-        std::memcpy(depth, row.depth, static_cast<std::size_t>(count) * sizeof depth[0]);
-    }
-    DrawBlock<R, false>(brush, at, {frame, depth},
-                        TestDepths<R>(at.depth, depth, LaneNumbers() < count));
-    std::memcpy(row.frame, frame, static_cast<std::size_t>(count) * sizeof frame[0]);
-    if constexpr (Needs<R>::depth) {
-        std::memcpy(row.depth, depth, static_cast<std::size_t>(count) * sizeof depth[0]);
+[[gnu::noinline]] void CopyPixels(Row from, Row to, std::int32_t count) {
+    for (std::int32_t i = 0; i < count; ++i) {
+        to.frame[i] = from.frame[i];
+        if (from.depth != nullptr) {
+            to.depth[i] = from.depth[i];
+        }
     }
 }
 
@@ -143,7 +134,7 @@ template <FillerRules R>
         &at, [&](Ints * a, int k)
                  __attribute__((always_inline)) { *a = starts[k] + steps[k] * LaneNumbers(); });
     row.frame += xl;
-    row.depth += xl;
+    row.depth += Needs<R>::depth ? xl : 0;
     std::int32_t count = xr - xl;
     constexpr bool skips = Needs<R>::texels && Needs<R>::depthTest;
     std::int32_t skipped = 0; // pixels that the attributes but depth lag behind
@@ -172,20 +163,26 @@ template <FillerRules R>
                 Advance<R>(&at, advance);
             }
             row.frame += kLanes;
-            row.depth += kLanes;
+            row.depth += Needs<R>::depth ? kLanes : 0;
             count -= kLanes;
         } while (count > kLanes);
     }
-    if (columns.right - xr + count >= kLanes) {
-        const DepthTest test = TestDepths<R>(at.depth, row.depth, LaneNumbers() < count);
-        if (!skips || Any(test.pass)) {
-            catchUp();
-            DrawBlock<R, false>(brush, at, row, test);
-        }
-    } else {
+    // The last block is drawn aside where it would reach past the clip rectangle.
+    Pixel16 frameAside[kLanes];
+    std::uint32_t depthAside[kLanes];
+    const bool aside = columns.right - xr + count < kLanes;
+    const Row room = row;
+    if (aside) [[unlikely]] {
+        row = {frameAside, Needs<R>::depth ? depthAside : nullptr};
+        CopyPixels(room, row, count);
+    }
+    const DepthTest test = TestDepths<R>(at.depth, row.depth, LaneNumbers() < count);
+    if (!skips || Any(test.pass)) {
         catchUp();
-        const Attributes copy = at;
-        DrawBlockAside<R>(brush, copy, row, count);
+        DrawBlock<R, false>(brush, at, row, test);
+        if (aside) [[unlikely]] {
+            CopyPixels(row, room, count);
+        }
     }
 }
 
