@@ -15,6 +15,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOGS = ROOT / "build" / "test-logs"
 UNITS = ["base", "math", "assets", "scene", "raster", "platform", "demo", "app"]
 CAPTURE = "larkfen-capture"
+VECTOR_PATHS = ["scalar", "sse"]
 
 passed = 0
 failed = 0
@@ -92,15 +93,15 @@ def test_programs(folder):
 
 def whole_runs(folder):
     """The test programs that draw pictures or play the production, where they have sources."""
-    return [(name, folder / name) for name in ("scenario", "golden")
+    return [(name, folder / name) for name in ("scenario", "golden", "faults")
             if list((ROOT / "tests" / name).glob("*.cpp"))]
 
 
-def capture_hashes(name, program, out, frames, extra=()):
+def capture_hashes(name, program, out, frames, extra=(), env=None):
     """The step that writes the hash lines of the first frames with one build of the tool."""
     return (f"hashes {name}", [*program, "-w", "-ns", "--data", ROOT / "data", "--frames",
                                    f"0:{frames}", "--hashes", out, *extra],
-            {"counts": False})
+            {"counts": False, "env": env})
 
 
 def compare_hashes(name, one, other, whole):
@@ -140,10 +141,15 @@ def main():
 
     print("Release build")
     if build("release", ["all"], "-DOMBREL_TESTS=ON", "-DOMBREL_BENCH=ON"):
+        step("objects of the twins", [ROOT / "tools/check_twins.py", release])
         step("clang-tidy and cppcheck", [ROOT / "tools/check_static.py", release])
         longest_first = [] if quick else whole_runs(release)
-        side_by_side([(name, [program], {}) for name, program in
-                      longest_first + test_programs(release)])
+        programs = [(name, [program], {}) for name, program in
+                    longest_first + test_programs(release)]
+        if not quick:
+            programs.append(("20 productions in one process",
+                             [release / "soak", "--fast", "--size", "320x240", "20"], {}))
+        side_by_side(programs)
 
         step("inspector", [ROOT / "tests/inspect/run.sh", release])
 
@@ -161,6 +167,10 @@ def main():
                        LOGS / "frames-sanitize.txt"], {"env": options})
             side_by_side(programs + [frames])
 
+        print("Fuzz targets: their seeds, and 5 seconds each")
+        if build("fuzz", ["fuzz_targets"]):
+            step("fuzzing", [ROOT / "tools/fuzz.py"])
+
         print("The same pictures from every compiler")
         captures = []
         for preset, count in (("release", 100000), ("clang", 100000), ("o0", 400)):
@@ -168,7 +178,17 @@ def main():
             if preset == "release" or build(preset, [CAPTURE]):
                 captures.append(capture_hashes(preset, [ROOT / "build" / preset / CAPTURE],
                                                LOGS / f"frames-{preset}.txt", count))
+        # The release build takes the best path of this processor; the plain one and that of older
+        # processors must show the same.
+        for path in VECTOR_PATHS:
+            (LOGS / f"frames-{path}.txt").unlink(missing_ok=True)
+            captures.append(capture_hashes(f"{path} path", [release / CAPTURE],
+                                           LOGS / f"frames-{path}.txt", 300,
+                                           env={"RASTER_USE": path}))
         side_by_side(captures)
+        for path in VECTOR_PATHS:
+            compare_hashes(f"best and {path} path", LOGS / "frames-release.txt",
+                           LOGS / f"frames-{path}.txt", whole=False)
         for preset in ("clang", "o0"):
             compare_hashes(f"g++ -O2 and {preset}", LOGS / "frames-release.txt",
                            LOGS / f"frames-{preset}.txt", whole=preset == "clang")
