@@ -13,6 +13,7 @@
 #include "base/shell_state.h"
 #include "demo/reset.h"
 #include "demo/world.h"
+#include "scenario/world_checks.h"
 #include "support/hand_made_data.h"
 #include "support/production_run.h"
 
@@ -22,12 +23,13 @@ namespace {
 constexpr char kStoredRecord[] = OMBREL_SOURCE_DIR "/tests/scenario/frames.txt.gz";
 constexpr char kPlayedRecord[] = OMBREL_BINARY_DIR "/frames-played.txt.gz";
 
-std::vector<FrameLine> PlayAndRecord(const std::string& commandLine) {
+std::vector<FrameLine> PlayAndRecord(const std::string& commandLine, WorldFindings* findings) {
     std::vector<FrameLine> lines;
-    RunProductionForTest(commandLine, [&lines](const RunFrame& f) {
+    RunProductionForTest(commandLine, [&](const RunFrame& f) {
         lines.push_back(
             {f.number, frame.sceneIndex, sceneFaces.count, DigestState(),
              HashPicture(f.shown.pixels, f.shown.pitch, f.shown.width, f.shown.height)});
+        LookAtWorld(findings, f);
     });
     ResetWorld();
     ResetOffscreen();
@@ -123,8 +125,12 @@ TEST(Frames, ShippedDataPlaysAsStored) {
     }
     const std::string before = DataFolder();
     SetDataFolder(OMBREL_SOURCE_DIR "/data");
-    const std::vector<FrameLine> played = PlayAndRecord("-w -ns");
+    WorldFindings findings{};
+    const std::vector<FrameLine> played = PlayAndRecord("-w -ns", &findings);
     SetDataFolder(before);
+    EXPECT_EQ(findings.frames, static_cast<std::int64_t>(played.size()));
+    EXPECT_GT(findings.coveredFrames, 3500); // all but the globe in white, and the dots
+    EXPECT_EQ(WorldFaults(findings), "");
     if (update) {
         ASSERT_TRUE(WriteFrameRecord(kStoredRecord, played));
         return;
