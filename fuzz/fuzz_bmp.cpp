@@ -6,6 +6,7 @@
 #include "base/float_mode.h"
 #include "base/log2_table.h"
 
+#include "limits.h"
 #include "memory_file.h"
 
 namespace {
@@ -51,6 +52,7 @@ void UseImage(const BmpImage& image, const TextureShape& shape) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const ScopedFloatMode chop(FloatMode::Chop);
+    const InputLimits limits;
     const MemoryFile file(data, size);
     BmpImage image = {};
     if (loadBmp(&image, file.Path().c_str()) != 0) {

@@ -4,6 +4,7 @@
 #include "base/data_file.h"
 #include "base/float_mode.h"
 
+#include "limits.h"
 #include "memory_file.h"
 
 namespace {
@@ -56,6 +57,7 @@ void LoadOnce(const std::string& path, std::uint32_t options, std::int32_t mipMo
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const ScopedFloatMode chop(FloatMode::Chop);
+    const InputLimits limits;
     SetDataFolder(OMBREL_SOURCE_DIR "/fuzz/data");
     ResetMaterials();
     ResetObjectLoader();

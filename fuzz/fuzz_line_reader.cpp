@@ -7,6 +7,7 @@
 #include "assets/line_reader.h"
 #include "base/float_mode.h"
 
+#include "limits.h"
 #include "memory_file.h"
 
 namespace {
@@ -67,6 +68,7 @@ void ReadAll(const std::string& text, std::uint32_t options, const std::string& 
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const ScopedFloatMode chop(FloatMode::Chop);
+    const InputLimits limits;
     std::string text(reinterpret_cast<const char*>(data), size);
     const std::string pattern = TakeLine(&text);
     const std::string set = TakeLine(&text);

@@ -1,0 +1,2 @@
+Name nothing
+center 0 0 0
