@@ -24,8 +24,11 @@ endfunction()
 ombrel_twins(sse41 -msse4.1)
 ombrel_twins(avx2 -mavx2)
 # (g++ 12's own header makes its undefined vectors out of uninitialized ones.)
-ombrel_twins(avx512 -mavx512f -mavx512bw -mavx512dq -mavx512vl -Wno-uninitialized
-             $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+set(wide_flags -mavx512f -mavx512bw -mavx512dq -mavx512vl)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  list(APPEND wide_flags -Wno-uninitialized -Wno-maybe-uninitialized)
+endif()
+ombrel_twins(avx512 ${wide_flags})
 
 # The blur's.
 target_sources(ombrel_raster PRIVATE ${simd}/blur_sse41.cpp ${simd}/blur_avx2.cpp)
