@@ -169,6 +169,17 @@ TEST_F(Bmp, AbsurdHeadersAreRejected) {
     }
 }
 
+TEST_F(Bmp, MoreThan32MiBCountAsNoMemory) {
+    // A file that holds what it says, mostly a hole.
+    for (const std::uint32_t more : {0U, 1U}) {
+        BmpRecipe recipe;
+        recipe.sizeImage = kMaxImageBytes + more;
+        const std::string path = Write("texture/huge.bmp", BmpBytes(recipe));
+        std::filesystem::resize_file(Root() / "texture/huge.bmp", 54 + kMaxImageBytes + more);
+        EXPECT_EQ(loadBmp(&image, path.c_str()), more == 0 ? 1 : 0);
+    }
+}
+
 TEST_F(Bmp, ShortFilesNeverCrash) {
     const std::string whole = PlainBmp(8, 8, 0x102030);
     std::int32_t loaded = 0;

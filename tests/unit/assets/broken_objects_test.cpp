@@ -336,6 +336,20 @@ TEST_F(BrokenObject, RandomDamage) {
     ResetRandom15();
 }
 
+TEST_F(BrokenObject, TheLargestObjectIsQuick) {
+    CobFile file;
+    file.vertices.assign(kMaxMeshVertices, "1.2345678 2.3456789 3.4567891");
+    file.texCoords.assign(9 * kMaxMeshVertices, "0.12345678 0.23456789");
+    file.faces.assign(kMaxMeshFaces, {"<0,0> <1,1> <8191,73727>", 0, 3});
+    const std::string path = Write("3d/largest.cob", file.Text());
+    OwnedMesh mesh;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(loadObject(&mesh, path.c_str(), PlainRequest()), 1);
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    EXPECT_LT(taken.count(), 10.0); // about 0.07 s without sanitizers
+    RecordProperty("seconds", std::to_string(taken.count()));
+}
+
 TEST_F(BrokenObject, LoadingIsLinear) {
     // Two megabytes of lines that look like what is searched for, and do not fit.
     std::string text = "Name cube\n";

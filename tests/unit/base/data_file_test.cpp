@@ -2,6 +2,7 @@
 #include "base/data_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -90,6 +91,16 @@ TEST_F(DataFile, FoldersDoNotOpen) {
     EXPECT_EQ(OpenDataFile("./data/3d", "r"), nullptr);
     EXPECT_EQ(OpenDataFile("./data", "r"), nullptr);
     EXPECT_EQ(OpenDataFile("./data/", "rb"), nullptr);
+}
+
+TEST_F(DataFile, DevicesAndPipesDoNotOpen) {
+    // Reading the one would never end, opening the other would wait for a writer.
+    EXPECT_EQ(Read("/dev/zero"), "(none)");
+    const std::string pipe = (root_ / "Data" / "pipe.cob").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(Read("./data/pipe.cob"), "(none)");
+    fs::create_symlink(root_ / "Data" / "font.bmp", root_ / "Data" / "link.bmp");
+    EXPECT_EQ(Read("./data/link.bmp"), "font");
 }
 
 TEST_F(DataFile, OtherPathsStayAsTheyAre) {
