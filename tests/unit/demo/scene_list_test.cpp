@@ -168,6 +168,28 @@ TEST_F(SceneListFile, OnlyCommentsLoadNothingAndTheFlagGoesToEntry11) {
     world.objects[11] = Mesh{};
 }
 
+TEST_F(SceneListFile, OnlyTheFirstMebibyteCounts) {
+    const std::string entry = "./data/3d/box.cob 1, 1, 1; 0, 0, 0; 0, 0, 0;\n";
+    const std::string blanks(kMaxListFile - 2 * entry.size(), ' ');
+    Load(entry + blanks + entry + entry);
+    EXPECT_EQ(world.objectCounter, 13);
+}
+
+TEST_F(SceneListFile, WhatIsNoFileIsSkipped) {
+    Load("/dev/zero 1, 1, 1; 0, 0, 0; 0, 0, 0;\n"
+         "./data/3d 1, 1, 1; 0, 0, 0; 0, 0, 0;\n"
+         "./data/3d/box.cob 1, 1, 1; 0, 0, 0; 0, 0, 0;\n");
+    EXPECT_EQ(world.objectCounter, 12);
+}
+
+TEST_F(SceneListFile, ABlankBehindTheCommentSignLosesTheEntry) {
+    // The point of "./data" begins a number that comes to nothing, and is gone.
+    Load("# ./data/3d/box.cob 1, 1, 1; 0, 0, 0; 0, 0, 0;\n"
+         "./data/3d/box.cob 2, 2, 2; 0, 0, 0; 0, 0, 0;\n");
+    EXPECT_EQ(world.objectCounter, 12);
+    EXPECT_NEAR(world.objects[12].vertices[0].x, -0.2F, 1e-6F);
+}
+
 TEST_F(SceneListFile, SizesAndPlacesAreTenths) {
     Load("./data/3d/box.cob \t10, 20, 30; \t100, 200, 300; \t0, 0, 0;\n");
     ASSERT_EQ(world.objectCounter, 12);
