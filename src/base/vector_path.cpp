@@ -7,8 +7,15 @@
 namespace ombrel {
 
 namespace {
+
 constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse", "avx2", "avx512"};
+
+// Compilers answer in different types.
+template <class Answer> bool Yes(Answer answer) {
+    return static_cast<bool>(answer);
 }
+
+} // namespace
 
 const char* NameOf(VectorPath path) {
     return kNames[static_cast<int>(path)];
@@ -21,12 +28,12 @@ bool ProcessorRuns(VectorPath path) {
     case VectorPath::Scalar:
         return true;
     case VectorPath::Sse:
-        return __builtin_cpu_supports("sse4.1") != 0;
+        return Yes(__builtin_cpu_supports("sse4.1"));
     case VectorPath::Avx2:
-        return __builtin_cpu_supports("avx2") != 0;
+        return Yes(__builtin_cpu_supports("avx2"));
     case VectorPath::Avx512:
-        return __builtin_cpu_supports("avx512f") != 0 && __builtin_cpu_supports("avx512bw") != 0 &&
-               __builtin_cpu_supports("avx512dq") != 0 && __builtin_cpu_supports("avx512vl") != 0;
+        return Yes(__builtin_cpu_supports("avx512f")) && Yes(__builtin_cpu_supports("avx512bw")) &&
+               Yes(__builtin_cpu_supports("avx512dq")) && Yes(__builtin_cpu_supports("avx512vl"));
     }
     return false;
 #else
