@@ -1,11 +1,12 @@
 #!/bin/sh
 # Renders the soundtrack from its text sources: score, synthesis, mastering, MP3.
-# Usage: build.sh [WORK_DIR]   (needs python3, csound, ffmpeg, lame; see art/install.sh)
+# Usage: build.sh [WORK_DIR [OUT.mp3]]   (needs python3, csound, ffmpeg, lame; see art/install.sh)
 set -eu
 here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd)
 root=$(CDPATH='' cd -- "$here/../.." && pwd)
 work=${1:-$root/build/music}
-mkdir -p "$work" "$root/data/sfx"
+out=${2:-$root/data/sfx/soundtrack.mp3}
+mkdir -p "$work" "$(dirname -- "$out")"
 /usr/bin/python3 "$here/compose.py" "$work/soundtrack.sco"
 csound -d -m0 -W --format=float -o "$work/mix.wav" "$here/soundtrack.orc" "$work/soundtrack.sco" \
     >"$work/csound.log" 2>&1 || { cat "$work/csound.log"; exit 1; }
@@ -19,4 +20,4 @@ volume=11.0dB,aresample=176400,\
 alimiter=limit=0.82:attack=4:release=90:level=false,aresample=44100,\
 afade=t=out:st=188:d=6" -t 194.5 -c:a pcm_s24le "$work/master.wav"
 lame --quiet -b 192 --cbr -q 0 -m j --add-id3v2 --tt "Ombrel" --ta "dru3 of Quellant" \
-    --tl "Ombrel" --ty 2026 "$work/master.wav" "$root/data/sfx/soundtrack.mp3"
+    --tl "Ombrel" --ty 2026 "$work/master.wav" "$out"
