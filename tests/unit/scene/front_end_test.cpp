@@ -8,6 +8,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/float_mode.h"
@@ -305,6 +306,35 @@ TEST_P(FrontEndOfPath, R32_LightsAtTheCorner) {
         settings.cullBack = false;
         EXPECT_GT(Run({own.get()}, settings).drawn, 0U);
     }
+}
+
+// A sum that no 32-bit integer holds counts as white, also when the next light adds 2^31 to it.
+TEST_P(FrontEndOfPath, SumsBeyondAllBoundsStayWhite) {
+    const ScopedFloatMode chop(FloatMode::Chop);
+    OwnMesh own;
+    for (const auto& [x, y] : {std::pair{-10.0F, -10.0F}, {10.0F, -10.0F}, {0.0F, 10.0F}}) {
+        own.vertices.push_back(test::VertexAt(x, y, 100.0F));
+        own.vertices.back().nx = 0x1p25F;
+    }
+    own.transformed = own.vertices;
+    own.faces.resize(1);
+    own.faces[0].active = FACE_LIVE;
+    own.faces[0].flags = FACE_PLASTIC | FACE_TWO_SIDED;
+    own.faces[0].color = 16 << 11; // a red of 128
+    own.faces[0].v1 = 1;
+    own.faces[0].v2 = 2;
+    own.mesh.position = {0.0F, 0.0F, 0.0F, 1.0F};
+    own.Connect();
+    // The first light is without bounds, the second gives 2^14 * 2^32 / 2^15.
+    ClearLights(lights_, kMaxLights);
+    for (int i = 0; i < 2; ++i) {
+        lights_[i].enabled = 1;
+        lights_[i].kind = LIGHT_DIRECTIONAL;
+        lights_[i].lightColor = PackLightColor(128, 0, 0);
+        lights_[i].sourceDirection = {i == 0 ? 0x1p40F : 1.0F, 0.0F, 0.0F, 1.0F};
+    }
+    EXPECT_EQ(Run({&own}, Settings()).drawn, 1U);
+    EXPECT_EQ(fusedList.records[0].litColors[0], 31U << 11);
 }
 
 // 65,536 faces fill the list; what comes later, left-overs of cuts too, finds no place.
