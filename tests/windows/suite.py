@@ -575,6 +575,24 @@ def no_data(suite):
 
 
 @case()
+def vector_paths(suite):
+    """the first frames are the stored ones on every vector path, and on a path that is not there"""
+    stored = sorted((number, picture) for picture, number in suite.frames().items())
+    env = suite.desk.env
+    try:
+        for path in ("scalar", "sse", "avx2", "none"):
+            out = suite.desk.work / f"frames-{path}.txt"
+            suite.desk.env = dict(env, RASTER_USE=path)
+            code, output = suite.desk.wine([suite.desk.build / "larkfen-hashes.exe", "-w", "-ns",
+                                            "--frames", "0:60", "--hashes", windows_path(out)])
+            expect(code == 0, output)
+            seen = read_frames(out.read_text().splitlines())
+            expect(len(seen) == 60 and all(frame in stored for frame in seen), f"path {path}")
+    finally:
+        suite.desk.env = env
+
+
+@case()
 def whole_production(suite):
     """the whole production on the real back end ends by itself, frame for frame the stored one"""
     compare_frames(suite, "whole-real", 1000000)
