@@ -2,7 +2,7 @@
 # Installs what art/build.sh needs, from Debian packages.  Needs root or sudo.
 set -e
 PACKAGES="blender python3 python3-numpy python3-pil fonts-dejavu-core fonts-paratype
-          csound lame sox"
+          csound lame ffmpeg"
 SUDO=
 [ "$(id -u)" = 0 ] || SUDO=sudo
 missing=
