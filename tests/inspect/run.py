@@ -217,6 +217,9 @@ def object_cases():
     yield ("a filter that draws nothing", changed(48, "colour: color (18, 9, 0)"),
            ["48: filter level 0, the brightest of the colour is 18; its faces cannot be seen and still "
             "hide what is drawn behind them later; write 19 or more, 128 for half"], WARNINGS)
+    yield ("a filter that is opaque", changed(48, "colour: color (9, 237, 0)"),
+           ["48: filter level 7, the brightest of the colour is 237; a bright filter is opaque; write 128 "
+            "for half, or \"none\" as transparency"], WARNINGS)
     yield ("a filter colour outside", changed(48, "colour: color (300, 0, 0)"),
            ["48: filter colour (300, 0, 0) lies outside 0..255; it counts as level 7 of 7; write numbers "
             "from 0 to 255"], WARNINGS)
@@ -604,7 +607,7 @@ def test_pictures(folder):
         out.unlink(missing_ok=True)
         code, text = folder.run(str(data / name), "--picture", str(out))
         check("picture of " + name, code == CLEAN and out.exists() and png_size(out) == size, text)
-    out.unlink()
+    out.unlink(missing_ok=True)
     code, text = folder.run("sfx/bad.mp3", "--picture=" + str(out))
     check("no picture of sound", code == WARNINGS and not out.exists() and
           "there is no picture of such a file" in text, text)

@@ -300,7 +300,8 @@ void InspectTexture(const std::string& path, Report* report) {
                   &image, &loaded)) {
         CheckTextureShape(image, report);
         SizeRows(image, loaded, report);
-        const std::int32_t width = std::min(image.info.width, kLog2TableSize - 1);
+        const std::int32_t width =
+            std::min(+image.info.width, kLog2TableSize - 1); // a copy: packed
         Row(report, "mip levels",
             Format("%d, none asked for", Log2Table[static_cast<std::size_t>(width)] + 1));
         report->summary =

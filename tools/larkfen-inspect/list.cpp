@@ -32,6 +32,7 @@ struct Entry {
 
 struct ListText {
     const std::string& text;
+    LineEnds ends;
     Report* report;
     std::int64_t commentLine; // a comment whose rest is read as entries
 };
@@ -59,7 +60,7 @@ void CheckComment(ListText* t, std::int64_t line, std::size_t end, std::int32_t 
         return;
     }
     t->commentLine = line;
-    if (LineOf(t->text, end) == line && t->text.find_first_not_of(" \t\r", end) <
+    if (LineOf(t->ends, end) == line && t->text.find_first_not_of(" \t\r", end) <
                                             std::min(t->text.find('\n', end), t->text.size())) {
         Warn(t->report, line, nullptr,
              {"a comment that is no entry",
@@ -71,7 +72,7 @@ void CheckComment(ListText* t, std::int64_t line, std::size_t end, std::int32_t 
 
 void CheckNumbers(const ListText& t, const Entry& entry, std::size_t end, std::int32_t read) {
     if (read < 10) {
-        Warn(t.report, LineOf(t.text, end), nullptr,
+        Warn(t.report, LineOf(t.ends, end), nullptr,
              {Format("%d of 9 numbers of ", read - 1) + PathOf(entry.line) + " fit: here stands " +
                   RestAt(t.text, end),
               "the others are those of the entry before, and the next read goes on here",
@@ -107,7 +108,7 @@ std::vector<Entry> ReadEntries(ListText* t) {
         const std::size_t start = std::min(
             t->text.find_first_not_of(" \t\n\v\f\r", static_cast<std::size_t>(reading.at - first)),
             t->text.size());
-        entry.place = LineOf(t->text, start);
+        entry.place = LineOf(t->ends, start);
         if (start < t->text.size() && entries.size() >= kRoom) {
             Warn(t->report, entry.place, nullptr,
                  {Format("more than %zu objects", kRoom), "the rest is not read", "remove them"});
@@ -254,7 +255,7 @@ void InspectList(const std::string& path, Report* report) {
         report->summary = "broken";
         return;
     }
-    ListText t{text, report, 0};
+    ListText t{text, LineEndsOf(text), report, 0};
     const std::vector<Entry> entries = ReadEntries(&t);
     const std::vector<bool> loads = LoadOneByOne(entries);
     LoadWorld(path);

@@ -24,7 +24,7 @@ struct Walk {
     LineReader reader;
     LineReader scratch; // for trials, so that the reader keeps what the loader would have
     const std::string* bytes;
-    std::vector<std::size_t> lineEnds;
+    LineEnds lineEnds;
     Report* report;
     ObjectFacts* facts;
     std::int64_t line;     // of the text read last
@@ -45,8 +45,7 @@ bool NextLine(Walk* walk) {
         return false;
     }
     const auto last = static_cast<std::size_t>(std::ftell(walk->reader.file)) - 1;
-    const auto& ends = walk->lineEnds;
-    walk->line = std::lower_bound(ends.begin(), ends.end(), last) - ends.begin() + 1;
+    walk->line = LineOf(walk->lineEnds, last);
     return true;
 }
 
@@ -270,8 +269,9 @@ void EndList(Walk* walk, const List& list) {
 }
 
 // --- sections ----------------------------------------------------------------------------------
+constexpr const char* kAxisLabels[3] = {"x axis X Y Z", "y axis X Y Z", "z axis X Y Z"};
+
 bool WalkFrame(Walk* walk) {
-    static constexpr const char* kAxisLabels[3] = {"x axis X Y Z", "y axis X Y Z", "z axis X Y Z"};
     if (!Search(walk, kName, "Name NAME") || !Search(walk, kCenter, "center X Y Z")) {
         return false;
     }
@@ -527,6 +527,10 @@ bool WalkFilter(Walk* walk, MaterialFacts* material) {
              {Format("filter level 0, the brightest of the colour is %d", brightest),
               "its faces cannot be seen and still hide what is drawn behind them later",
               "write 19 or more, 128 for half"});
+    } else if (material->level == 7) {
+        Warn(walk->report, walk->line, nullptr,
+             {Format("filter level 7, the brightest of the colour is %d", brightest),
+              "a bright filter is opaque", "write 128 for half, or \"none\" as transparency"});
     }
     return true;
 }
@@ -694,9 +698,7 @@ bool WalkObject(const std::string& path, const std::string& bytes, Report* repor
     walk.bytes = &bytes;
     walk.report = report;
     walk.facts = facts;
-    for (std::size_t i = bytes.find('\n'); i != std::string::npos; i = bytes.find('\n', i + 1)) {
-        walk.lineEnds.push_back(i);
-    }
+    walk.lineEnds = LineEndsOf(bytes);
     if (!open(&walk.reader, path.c_str())) {
         Fail(&walk, 1, nullptr, "the loader cannot open it", "make it readable");
         return false;

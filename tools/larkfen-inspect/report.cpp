@@ -13,10 +13,12 @@ namespace inspect {
 namespace {
 
 void Add(Report* report, Finding finding) {
-    for (Finding& known : report->findings) {
-        if (!finding.kind.empty() && known.kind == finding.kind) {
-            ++known.more;
-            return;
+    if (!finding.kind.empty()) {
+        for (Finding& known : report->findings) {
+            if (known.kind == finding.kind) {
+                ++known.more;
+                return;
+            }
         }
     }
     report->findings.push_back(std::move(finding));
@@ -105,9 +107,16 @@ bool ReadFile(const std::string& path, std::size_t limit, std::string* bytes,
     return true;
 }
 
-std::int64_t LineOf(const std::string& text, std::size_t offset) {
-    const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min(offset, text.size()));
-    return 1 + std::count(text.begin(), end, '\n');
+LineEnds LineEndsOf(const std::string& text) {
+    LineEnds ends;
+    for (std::size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i + 1)) {
+        ends.push_back(i);
+    }
+    return ends;
+}
+
+std::int64_t LineOf(const LineEnds& ends, std::size_t offset) {
+    return 1 + (std::lower_bound(ends.begin(), ends.end(), offset) - ends.begin());
 }
 
 } // namespace inspect

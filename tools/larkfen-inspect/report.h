@@ -48,7 +48,9 @@ std::string FindingLines(const Report& report);
 // The file's bytes; false when it cannot be read or is larger than limit (the text then says so).
 bool ReadFile(const std::string& path, std::size_t limit, std::string* bytes, std::string* problem);
 
-// The number of the line that holds a byte of the text, from 1.
-std::int64_t LineOf(const std::string& text, std::size_t offset);
+// Where the lines of a text end, and the number of the line that holds a byte of it, from 1.
+using LineEnds = std::vector<std::size_t>;
+LineEnds LineEndsOf(const std::string& text);
+std::int64_t LineOf(const LineEnds& ends, std::size_t offset);
 
 } // namespace inspect

@@ -25,15 +25,16 @@ struct KeyText {
     std::int64_t line;
 };
 
-const char* NumberOf(std::int32_t column) {
-    static constexpr const char* kNames[kTrackColumns] = {
-        "bias",    "continuity", "tension",       "x",   "y", "z", "angle x",
-        "angle y", "angle z",    "field of view", "step"};
-    return kNames[column];
-}
+// clang-format off
+constexpr const char* kNumberNames[kTrackColumns] = {
+    "bias", "continuity", "tension", "x", "y", "z", "angle x", "angle y", "angle z",
+    "field of view", "step",
+};
+// clang-format on
 
 struct TrackText {
     const std::string& text;
+    const LineEnds ends;
     Report* report;
     std::vector<KeyText>* keys;
 };
@@ -41,9 +42,9 @@ struct TrackText {
 void CheckKeyText(const TrackText& t, std::size_t start, std::size_t end, std::int32_t read) {
     const auto number = static_cast<int>(t.keys->size()) - 1;
     if (read < kTrackColumns) {
-        Warn(t.report, LineOf(t.text, end), "short key",
+        Warn(t.report, LineOf(t.ends, end), "short key",
              {Format("key %d has %d of %d numbers: here %s must follow, not ", number, read,
-                     kTrackColumns, NumberOf(read)) +
+                     kTrackColumns, kNumberNames[read]) +
                   Quote(t.text.substr(end, t.text.find('\n', end) - end)),
               "the others are those of the key before, and the next key begins here",
               "write 'b, c, t;<tab>x, y, z;<tab>ax, ay, az;<tab>fov;<tab>step;'"});
@@ -52,7 +53,7 @@ void CheckKeyText(const TrackText& t, std::size_t start, std::size_t end, std::i
     const std::string body = t.text.substr(start, end - start);
     const std::size_t last = body.find_last_not_of(kBlanks);
     if (body.find('\n') < last) {
-        Warn(t.report, LineOf(t.text, start), "key over lines",
+        Warn(t.report, LineOf(t.ends, start), "key over lines",
              {Format("key %d takes numbers from the next line", number),
               "the keys are shifted from here on", "write eleven numbers on each line"});
     }
@@ -69,26 +70,26 @@ void ReadKeys(const TrackText& t) {
             break;
         }
         if (t.keys->size() >= static_cast<std::size_t>(kMaxTrackKeys)) {
-            Warn(t.report, LineOf(t.text, start), nullptr,
+            Warn(t.report, LineOf(t.ends, start), nullptr,
                  {Format("more than %d keys", kMaxTrackKeys), "the rest is not read",
                   "remove them"});
             return;
         }
         const std::int32_t read = ReadTrackColumns(&p, columns);
         if (read == 0) {
-            Warn(t.report, LineOf(t.text, start), nullptr,
+            Warn(t.report, LineOf(t.ends, start), nullptr,
                  {"here a key must begin, not " +
                       Quote(t.text.substr(start, t.text.find('\n', start) - start)),
                   Format("reading ends after %zu keys", t.keys->size()),
                   "leave nothing but keys in the file"});
             return;
         }
-        t.keys->push_back({LineOf(t.text, start)});
+        t.keys->push_back({LineOf(t.ends, start)});
         CheckKeyText(t, start, static_cast<std::size_t>(p - first), read);
     }
     const std::size_t zero = t.text.find('\0');
     if (zero != std::string::npos) {
-        Warn(t.report, LineOf(t.text, zero), nullptr,
+        Warn(t.report, LineOf(t.ends, zero), nullptr,
              {"a zero byte in a text", "reading ends there", "save it as plain text"});
     }
 }
@@ -195,8 +196,8 @@ std::string SegmentText(const std::vector<Camera>& keys) {
             ++run;
         }
         text += text.empty() ? "" : ", ";
-        text += Format(run > 1 ? "%zu x %lld" : "%.0zu%lld", run > 1 ? run : 0,
-                       static_cast<long long>(frames));
+        text += run > 1 ? Format("%zu x ", run) : "";
+        text += std::to_string(frames);
         i += run;
     }
     return text;
@@ -306,7 +307,7 @@ void InspectTrack(const std::string& path, Report* report) {
         return;
     }
     std::vector<KeyText> texts;
-    const TrackText t{text, report, &texts};
+    const TrackText t{text, LineEndsOf(text), report, &texts};
     ReadKeys(t);
     const std::vector<Camera> keys = KeysOf(path);
     if (keys.size() != texts.size()) {
