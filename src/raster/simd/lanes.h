@@ -36,6 +36,11 @@ template <class Vector, class T> [[gnu::always_inline]] inline void Store(T* to,
 [[gnu::always_inline]] inline Words Select(Ints mask, Words yes, Words no) {
     return mask ? yes : no;
 }
+// The same for slots. (Without a question mark: compilers take those apart, where a vector is wider
+// than the processor's.)
+template <class Slots> [[gnu::always_inline]] inline Slots Either(Slots mask, Slots yes, Slots no) {
+    return (mask & yes) | (~mask & no);
+}
 // Both halves of each lane.
 [[gnu::always_inline]] inline Words ShiftHalves(Words a, int bits) {
     return (Words)((Halves)a >> bits);

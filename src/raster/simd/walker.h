@@ -56,11 +56,11 @@ template <class Slots, class DrawSpan>
     Slots shortStep = onlyLower ? lowerStep : upperStep;
     Slots shortSlots = onlyLower ? middle + lowerStep * (rows.first - middleY)
                                  : top + upperStep * (rows.first - topY);
-    Slots left = side ? longSlots : shortSlots, right = side ? shortSlots : longSlots;
+    Slots left = Either(side, longSlots, shortSlots), right = Either(side, shortSlots, longSlots);
     std::int32_t row = rows.first;
     for (std::int32_t end = onlyLower ? rows.last : turn;; end = rows.last) {
-        const Slots leftStep = side ? longStep : shortStep;
-        const Slots rightStep = side ? shortStep : longStep;
+        const Slots leftStep = Either(side, longStep, shortStep);
+        const Slots rightStep = Either(side, shortStep, longStep);
         for (; row < end; ++row) {
             drawSpan(left, right);
             left += leftStep;
@@ -72,8 +72,8 @@ template <class Slots, class DrawSpan>
         // Turn at the middle corner: one step has been taken there already. (b)
         shortStep = lowerStep;
         shortSlots = middle + lowerStep;
-        left = side ? left : shortSlots;
-        right = side ? shortSlots : right;
+        left = Either(side, left, shortSlots);
+        right = Either(side, shortSlots, right);
     }
 }
 
