@@ -1,10 +1,11 @@
 // Fill/<FillerName>/large and Fill/<FillerName>/25: every filler in use, on triangles of 60,000 and
-// of 25 pixels, in pixels and triangles a second.
+// of 25 pixels, in pixels and triangles a second. RASTER_USE names the path.
 #include <benchmark/benchmark.h>
 
 #include <chrono>
 #include <string>
 
+#include "app/vector_choice.h"
 #include "base/float_mode.h"
 #include "fill_scene.h"
 
@@ -15,6 +16,7 @@ void FillTriangles(benchmark::State& state, std::int32_t id, std::int32_t triang
     FillScene* scene = MakeFillScene(trianglePixels);
     const ScopedFloatMode mode(FloatMode::Chop);
     const FillTarget target = scene->Target();
+    ChooseVectorPath(nullptr);
     for (auto _ : state) {
         scene->Clear(kFillerTable[id].rules.depth);
         const auto start = std::chrono::steady_clock::now();
