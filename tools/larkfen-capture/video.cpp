@@ -65,9 +65,10 @@ std::string OpenVideo(const VideoRequest& request, Video* video) {
     }
     std::fclose(place);
 
-    std::string command = "exec ffmpeg -nostdin -v error -xerror -y -f rawvideo -pix_fmt rgb24 -s " +
-                          std::to_string(request.width) + "x" + std::to_string(request.height) +
-                          " -r " + std::to_string(kFramesPerSecond) + " -i pipe:0";
+    std::string command =
+        "exec ffmpeg -nostdin -v error -xerror -y -f rawvideo -pix_fmt rgb24 -s " +
+        std::to_string(request.width) + "x" + std::to_string(request.height) + " -r " +
+        std::to_string(kFramesPerSecond) + " -i pipe:0";
     if (!request.soundtrack.empty()) {
         // Silence follows a soundtrack that is shorter than the picture.
         command += " -ss " + SecondsOf(request.firstFrame) + " -i " + FileName(request.soundtrack) +
