@@ -171,8 +171,8 @@ RenderFace* AddFace(Scenery* scenery, std::uint32_t flags, float z0) {
     face->state = 0x1;
     face->flags = flags;
     // Own levels of 0..7, and now and then one above.
-    const std::uint32_t own = number % 11 == 0 ? 255 : (number % 13 == 0 ? 8 : number % 8);
-    face->color = (own << 24) | 0x00ABCDEFU;
+    const std::int32_t own = number % 11 == 0 ? 255 : (number % 13 == 0 ? 8 : number % 8);
+    face->color = (static_cast<std::uint32_t>(own) << 24) | 0x00ABCDEFU;
     for (std::uint32_t i = 0; i < 3; ++i) {
         face->litColors[i] = 0x1000 * (i + 1) + static_cast<std::uint32_t>(number);
         Vertex& vertex = face->work[i];
