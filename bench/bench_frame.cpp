@@ -70,12 +70,14 @@ void BM_Blur(benchmark::State& state) {
     for (std::size_t i = 0; i < picture.size(); ++i) {
         picture[i] = static_cast<Pixel16>(i * 40503U >> 3);
     }
+    ChooseVectorPath(nullptr);
     for (auto _ : state) {
         BlurFrame(picture.data(), width, width, height);
         benchmark::ClobberMemory();
     }
     state.counters["pixels"] = benchmark::Counter(
         static_cast<double>(state.iterations()) * width * height, benchmark::Counter::kIsRate);
+    ResetWorld();
 }
 BENCHMARK(BM_Blur)->Name("Frame/Blur")->Unit(benchmark::kMicrosecond);
 
