@@ -9,7 +9,11 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include "base/float_mode.h"
 #include "guard_memory.h"
+#include "raster/blend_tables.h"
 #include "raster/fillers.h"
 #include "reference_fillers.h"
 
@@ -60,6 +64,18 @@ struct RandomComparison {
 // difference. The float mode in force is used.
 RandomComparison CompareRandomTriangles(RandomStage* stage, const reference::Filler& row,
                                         Filler fast, std::int32_t scenes);
+
+// A parameterised test on one stage; both families have their blend tables as at start-up.
+template <class Parameter> class RandomStageTest : public testing::TestWithParam<Parameter> {
+protected:
+    static void SetUpTestSuite() {
+        const ScopedFloatMode nearest(FloatMode::Nearest);
+        BuildBlendTables(8, BlendTables[0]);
+        stage = MakeRandomStage();
+    }
+    static void TearDownTestSuite() { FreeRandomStage(&stage); }
+    inline static RandomStage stage;
+};
 
 // The share of the random tests to run: OMBREL_RANDOM_SHARE, above 0 and up to 1; else 1.
 float RandomShare();

@@ -15,7 +15,6 @@
 
 #include "base/convert.h"
 #include "base/float_mode.h"
-#include "raster/blend_tables.h"
 #include "raster/fillers.h"
 #include "support/filler_recorder.h"
 #include "support/random_triangles.h"
@@ -80,17 +79,7 @@ int FastNumber(const char* name) {
     return -1;
 }
 
-class RandomTriangles : public testing::TestWithParam<int> {
-protected:
-    static void SetUpTestSuite() {
-        const ScopedFloatMode nearest(FloatMode::Nearest);
-        BuildBlendTables(8, BlendTables[0]);
-        stage = MakeRandomStage();
-    }
-    static void TearDownTestSuite() { FreeRandomStage(&stage); }
-    static RandomStage stage;
-};
-RandomStage RandomTriangles::stage;
+class RandomTriangles : public RandomStageTest<int> {};
 
 TEST_P(RandomTriangles, AreDrawnAsByTheReference) {
     const reference::Filler& row = reference::kFillers[GetParam()];

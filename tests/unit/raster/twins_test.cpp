@@ -50,17 +50,7 @@ int NumberOf(const char* name) {
 
 // --- random triangles ----------------------------------------------------------------------------
 
-class Twins : public testing::TestWithParam<std::tuple<int, int>> {
-protected:
-    static void SetUpTestSuite() {
-        const ScopedFloatMode nearest(FloatMode::Nearest);
-        BuildBlendTables(8, BlendTables[0]);
-        stage = MakeRandomStage();
-    }
-    static void TearDownTestSuite() { FreeRandomStage(&stage); }
-    static RandomStage stage;
-};
-RandomStage Twins::stage;
+class Twins : public RandomStageTest<std::tuple<int, int>> {};
 
 // 512 scenes of 16 triangles in the production's mode, a quarter as many in the other one.
 TEST_P(Twins, DrawRandomTrianglesAsTheReference) {
