@@ -6,9 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/shell_state.h"
 #include "demo/reset.h"
-#include "demo/scene_two.h"
 #include "support/hand_made_data.h"
 #include "support/production_run.h"
 
@@ -53,8 +51,7 @@ struct Outcome {
     bool lit; // some picture had something to show
 };
 
-// Plays with Escape held from frame escapeFrom on. The long middle of scene two is left out: behind
-// its 60th frame the clock of the dot view and the scroller are set close to their ends.
+// Plays with Escape held from frame escapeFrom on, without the long middle of scene two.
 Outcome Play(std::int64_t escapeFrom) {
     ResetForRun();
     script.escapeFrom = escapeFrom;
@@ -67,16 +64,7 @@ Outcome Play(std::int64_t escapeFrom) {
                 outcome.lit = outcome.lit || PixelOf(f.shown, x, y) != 0;
             }
         }
-        if (sceneTwo.started && frame.frameCounter == sceneTwo.startFrame + 60) {
-            sceneTwo.startFrame -= 1780;
-            ScrollerState& s = sceneTwo.scroller;
-            s.frameCount = 1000;
-            s.page = 36;
-            s.line = 12;
-            for (float& angle : s.angles) {
-                angle = 1.9F;
-            }
-        }
+        LeaveOutTheMiddle();
     });
     return outcome;
 }

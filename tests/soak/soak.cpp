@@ -19,7 +19,6 @@
 #include "base/data_file.h"
 #include "base/shell_state.h"
 #include "demo/reset.h"
-#include "demo/scene_two.h"
 #include "platform/system.h"
 #include "scene/camera.h"
 #include "support/production_run.h"
@@ -43,17 +42,6 @@ struct Pace {
     std::int64_t frames, begun; // shown; of scene two
 };
 
-void LeaveOutTheMiddle() {
-    sceneTwo.startFrame -= 1780;
-    ScrollerState& s = sceneTwo.scroller;
-    s.frameCount = 1000;
-    s.page = 36;
-    s.line = 12;
-    for (float& angle : s.angles) {
-        angle = 1.9F;
-    }
-}
-
 void OnFrame(const PresentedFrame&, void* user) {
     auto* const pace = static_cast<Pace*>(user);
     const Options& options = *pace->options;
@@ -61,9 +49,7 @@ void OnFrame(const PresentedFrame&, void* user) {
     pace->begun += frame.sceneIndex == 1 ? 1 : 0;
     if (options.fast) {
         trackT = 1.0F;
-        if (sceneTwo.started && frame.frameCounter == sceneTwo.startFrame + 60) {
-            LeaveOutTheMiddle();
-        }
+        LeaveOutTheMiddle();
     }
     if (options.scenes > 0) {
         if (pace->frames == options.scenes) {

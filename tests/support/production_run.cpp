@@ -5,7 +5,9 @@
 
 #include "app/shell.h"
 #include "app/vector_choice.h"
+#include "base/shell_state.h"
 #include "demo/reset.h"
+#include "demo/scene_two.h"
 #include "hand_made_data.h"
 #include "platform/system.h"
 
@@ -52,6 +54,20 @@ int RunProductionForTest(const std::string& commandLine, const LookAtFrame& look
 
 void EndRunAfterThisFrame() {
     PostQuit(0);
+}
+
+void LeaveOutTheMiddle() {
+    if (!sceneTwo.started || frame.frameCounter != sceneTwo.startFrame + 60) {
+        return;
+    }
+    sceneTwo.startFrame -= 1780;
+    ScrollerState& s = sceneTwo.scroller;
+    s.frameCount = 1000;
+    s.page = 36;
+    s.line = 12;
+    for (float& angle : s.angles) {
+        angle = 1.9F;
+    }
 }
 
 bool TextStandsAt(const PresentedFrame& shown, const TextSpot& spot, const char* text) {

@@ -34,6 +34,10 @@ inline Pixel16 PixelOf(const PresentedFrame& shown, std::int32_t x, std::int32_t
     return reinterpret_cast<const Pixel16*>(row)[x];
 }
 
+// To be called with every frame shown: behind the 60th of scene two, the clock of its dot view and
+// its scroller are set close to their ends, so that the long middle is left out.
+void LeaveOutTheMiddle();
+
 // Whether a text stands with its first cell at (x, y), drawn with a font of marks: every mark that
 // falls inside the frame (8 pixels of border excluded when border is set) has its value. A text
 // without any such mark is not there.
