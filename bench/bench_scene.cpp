@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include "base/float_mode.h"
+#include "face_scene.h"
 #include "scene/light.h"
 #include "scene/mesh_transform.h"
 #include "scene/pipeline.h"
@@ -15,15 +16,6 @@ using namespace ombrel;
 namespace {
 
 constexpr std::int32_t kFaces = 20000;
-
-// The same numbers in every run.
-struct Numbers {
-    std::uint64_t state;
-    float Signed() {
-        state = state * 6364136223846793005ULL + 1442695040888963407ULL;
-        return static_cast<float>(state >> 39) * 0x1p-24F - 1.0F;
-    }
-};
 
 FaceList list;   // the one worked on
 FaceList before; // what an iteration starts from
@@ -80,35 +72,10 @@ void MakeMesh() {
     mesh.faceCount = kFaces;
 }
 
-void MakeLights() {
-    const std::uint32_t kinds[5] = {LIGHT_AMBIENT, LIGHT_DIRECTIONAL, LIGHT_POINT, LIGHT_POINT,
-                                    LIGHT_POINT};
-    ClearLights(scene.lights, kMaxLights);
-    for (int i = 0; i < 5; ++i) {
-        Light values = {};
-        values.enabled = 1;
-        values.kind = kinds[i];
-        values.ambientColor = values.lightColor = PackLightColor(60, 50, 40);
-        values.sourcePosition = {200.0F * static_cast<float>(i), 500.0F, 0.0F, 1.0F};
-        values.sourceDirection = {1.0F, 0.8F, 1.0F, 1.0F};
-        values.c1 = 0.001F;
-        SetLight(&scene.lights[i], values);
-    }
-}
-
 void MakeScene() {
-    InitTrigTables();
-    CameraSetup setup = {};
-    setup.position = setup.angles = {0.0F, 0.0F, 0.0F, 1.0F};
-    setup.zNear = 1.0F;
-    setup.zFar = 15000.0F;
-    setup.fov = 90.0F;
-    setup.screenWidth = 640.0F;
-    setup.screenHeight = 480.0F;
-    CameraInit(&scene.camera, setup);
-    CameraBuildView(&scene.camera, 4);
+    MakeFaceCamera(&scene.camera);
     MakeMesh();
-    MakeLights();
+    MakeFaceLights(scene.lights);
 }
 
 // The pipeline in its order; a benchmark starts behind the steps named by its stage.
@@ -121,7 +88,7 @@ void RunUpTo(Stage stage) {
         CullBackFaces(&list, &scene.camera);
     }
     if (stage >= Lit) {
-        LightFaces(&list, &scene.camera, scene.lights, 5);
+        LightFaces(&list, &scene.camera, scene.lights, kFaceLights);
     }
     if (stage >= Seen) {
         TransformPolygonsToCamera(&list, &scene.camera);
@@ -165,7 +132,7 @@ void Cull(benchmark::State& state) {
     RunStep(state, Added, [] { CullBackFaces(&list, &scene.camera); });
 }
 void Lighting(benchmark::State& state) {
-    RunStep(state, Culled, [] { LightFaces(&list, &scene.camera, scene.lights, 5); });
+    RunStep(state, Culled, [] { LightFaces(&list, &scene.camera, scene.lights, kFaceLights); });
 }
 void ToCamera(benchmark::State& state) {
     RunStep(state, Lit, [] { TransformPolygonsToCamera(&list, &scene.camera); });

@@ -16,6 +16,7 @@
 #include "demo/scene_one.h"
 #include "demo/scene_two.h"
 #include "demo/startup.h"
+#include "face_scene.h"
 #include "platform/system.h"
 #include "raster/simd/paths.h"
 #include "scene/front_end.h"
@@ -87,17 +88,15 @@ void MakeRing(FaceWorld::Part* part) {
 
 // Small faces anywhere, no corner shared: the worst case.
 void MakeCloud(FaceWorld::Part* part, std::uint64_t seed) {
-    const auto number = [&seed] {
-        seed = seed * 6364136223846793005ULL + 1442695040888963407ULL;
-        return static_cast<float>(seed >> 39) * 0x1p-24F - 1.0F;
-    };
+    Numbers n{seed};
     for (int i = 0; i < kFacesOfAMesh; ++i) {
-        const float x = number() * 160.0F, y = number() * 120.0F, z = number() * 160.0F;
+        const float x = n.Signed() * 160.0F, y = n.Signed() * 120.0F, z = n.Signed() * 160.0F;
         for (int c = 0; c < 3; ++c) {
-            Vertex v = CornerAt(x + number() * 20.0F, y + number() * 20.0F, z + number() * 20.0F);
-            v.nx = number();
-            v.ny = number();
-            v.nz = number();
+            Vertex v =
+                CornerAt(x + n.Signed() * 20.0F, y + n.Signed() * 20.0F, z + n.Signed() * 20.0F);
+            v.nx = n.Signed();
+            v.ny = n.Signed();
+            v.nz = n.Signed();
             part->vertices.push_back(v);
         }
         Face face = {};
@@ -141,29 +140,8 @@ std::shared_ptr<FaceWorld> MakeFaceWorld(bool shared) {
         }
         FinishPart(&made->parts[i], i);
     }
-    InitTrigTables();
-    CameraSetup setup = {};
-    setup.position = setup.angles = {0.0F, 0.0F, 0.0F, 1.0F};
-    setup.zNear = 1.0F;
-    setup.zFar = 15000.0F;
-    setup.fov = 90.0F;
-    setup.screenWidth = 640.0F;
-    setup.screenHeight = 480.0F;
-    CameraInit(&made->camera, setup);
-    CameraBuildView(&made->camera, 4);
-    const std::uint32_t kinds[5] = {LIGHT_AMBIENT, LIGHT_DIRECTIONAL, LIGHT_POINT, LIGHT_POINT,
-                                    LIGHT_POINT};
-    ClearLights(made->lights, kMaxLights);
-    for (int i = 0; i < 5; ++i) {
-        Light values = {};
-        values.enabled = 1;
-        values.kind = kinds[i];
-        values.ambientColor = values.lightColor = PackLightColor(60, 50, 40);
-        values.sourcePosition = {200.0F * static_cast<float>(i), 500.0F, 0.0F, 1.0F};
-        values.sourceDirection = {1.0F, 0.8F, 1.0F, 1.0F};
-        values.c1 = 0.001F;
-        SetLight(&made->lights[i], values);
-    }
+    MakeFaceCamera(&made->camera);
+    MakeFaceLights(made->lights);
     return made;
 }
 
@@ -173,7 +151,8 @@ CompareRow FrontEndRow(const char* name, bool shared) {
                 UseFrontEnd(path);
                 const double start = ProcessorSeconds();
                 FrontEnd front;
-                StartFaces(&front, &made->list, {&made->camera, made->lights, 5, true, true, -1});
+                StartFaces(&front, &made->list,
+                           {&made->camera, made->lights, kFaceLights, true, true, -1});
                 for (FaceWorld::Part& part : made->parts) {
                     ResetAndAddMesh(&front, &part.mesh);
                 }

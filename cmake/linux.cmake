@@ -41,8 +41,8 @@ if(OMBREL_BENCH)
     pkg_check_modules(OSMESA QUIET IMPORTED_TARGET osmesa)
     if(ALLEGRO4_FOUND AND OSMESA_FOUND)
       file(GLOB compare_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/bench/compare*.cpp)
-      add_executable(larkfen-peers EXCLUDE_FROM_ALL bench/peers/peers.cpp bench/fill_scene.cpp
-                                                    ${compare_sources})
+      add_executable(larkfen-peers EXCLUDE_FROM_ALL bench/peers/peers.cpp bench/face_scene.cpp
+                                                    bench/fill_scene.cpp ${compare_sources})
       target_include_directories(larkfen-peers PRIVATE bench)
       target_link_libraries(larkfen-peers PRIVATE ombrel_flags ombrel_app ombrel_demo
                                                   ombrel_platform_offscreen PkgConfig::ALLEGRO4
