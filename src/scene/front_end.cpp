@@ -271,13 +271,9 @@ void WriteRecords(const MeshWork& work) {
 
 // --- one mesh, one frame -------------------------------------------------------------------------
 
-bool IsDrawableMesh(const Mesh& mesh) {
-    return (mesh.state & (MESH_LIVE | MESH_DRAWABLE | MESH_CULLED)) == (MESH_LIVE | MESH_DRAWABLE);
-}
-
 int AddFused(FrontEnd* front, Mesh* mesh, bool reset) {
     const bool known = mesh->vertexCount <= kMaxMeshVertices && mesh->faceCount <= kMaxMeshFaces;
-    if (!IsDrawableMesh(*mesh) || !known) {
+    if (!IsMeshDrawable(*mesh) || !known) {
         if (reset) {
             MeshResetFrame(mesh);
         }

@@ -88,9 +88,13 @@ void MeshTranslate(Mesh* mesh, std::int32_t mode, std::int32_t useCurrent) {
     }
 }
 
-int MeshAddFaces(FaceList* list, Mesh* mesh, std::int32_t fromVertices) {
+bool IsMeshDrawable(const Mesh& mesh) {
     constexpr std::uint32_t kMask = MESH_LIVE | MESH_DRAWABLE | MESH_CULLED;
-    if ((mesh->state & kMask) != (MESH_LIVE | MESH_DRAWABLE)) {
+    return (mesh.state & kMask) == (MESH_LIVE | MESH_DRAWABLE);
+}
+
+int MeshAddFaces(FaceList* list, Mesh* mesh, std::int32_t fromVertices) {
+    if (!IsMeshDrawable(*mesh)) {
         return 0;
     }
     Vertex* const vertices = fromVertices != 0 ? mesh->vertices : mesh->transformed;

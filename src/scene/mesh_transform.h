@@ -19,6 +19,8 @@ void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions
 void MeshRotate(Mesh* mesh, float ax, float ay, float az, std::int32_t useCurrent);
 // mode 2: vertices + position into transformed; other: transformed += position.
 void MeshTranslate(Mesh* mesh, std::int32_t mode, std::int32_t useCurrent);
+// Whether a frame draws the mesh at all: there, to be drawn, and not left out as out of sight.
+bool IsMeshDrawable(const Mesh& mesh);
 // fromVertices: read positions from vertices, else from transformed. 0: not drawable, or list full.
 int MeshAddFaces(FaceList* list, Mesh* mesh, std::int32_t fromVertices);
 void MeshResetFrame(Mesh* mesh);
