@@ -7,6 +7,7 @@ The last line counts: two tests a target, its seeds and its search. Examples:
 """
 import argparse
 import concurrent.futures
+import math
 import os
 import pathlib
 import re
@@ -47,6 +48,7 @@ def fuzz(name, build, seconds):
     files = sorted(path for path in seeds.iterdir() if path.is_file())
     common = [program, f"-artifact_prefix={found}/", *LIMITS]
     replay, code, _ = run([*common, *files])
+    output = replay
     lines = []
     good = bad = 0
     if code == 0 and files:
@@ -54,10 +56,16 @@ def fuzz(name, build, seconds):
     else:
         bad += 1
         lines.append(f"{name}: a seed breaks it, or there is none\n{replay[-4000:]}")
-    output, code, cpu = run([*common, "-print_final_stats=1", f"-max_total_time={seconds}",
-                             f"-dict={ROOT}/fuzz/{name}.dict", learnt, seeds])
-    executed = re.search(r"number_of_executed_units:\s*(\d+)", output)
-    runs = int(executed.group(1)) if executed else 0
+    runs = 0
+    cpu = 0.0
+    # The library counts time on the wall; on a busy machine that is not all spent here.
+    while code == 0 and cpu < 0.99 * seconds:
+        output, code, used = run([*common, "-print_final_stats=1",
+                                  f"-max_total_time={min(300, math.ceil(seconds - cpu))}",
+                                  f"-dict={ROOT}/fuzz/{name}.dict", learnt, seeds])
+        executed = re.search(r"number_of_executed_units:\s*(\d+)", output)
+        runs += int(executed.group(1)) if executed else 0
+        cpu += used
     if code == 0 and runs > len(files):
         good += 1
     else:
@@ -71,7 +79,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--build", type=pathlib.Path, default=ROOT / "build" / "fuzz")
-    parser.add_argument("--seconds", type=int, default=5, help="for each target")
+    parser.add_argument("--seconds", type=int, default=5, help="of processor time, for each target")
     parser.add_argument("--jobs", type=int, default=os.cpu_count() or 1)
     parser.add_argument("--only", action="append", help="a target's name; may be repeated")
     options = parser.parse_args()
