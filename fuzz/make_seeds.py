@@ -8,6 +8,16 @@ import struct
 CORPUS = pathlib.Path(__file__).resolve().parent / "corpus"
 
 
+def text(x, y, advance, words):
+    """What fuzz_font.cpp reads in the last 24 bytes of a sheet: a place, and words to draw there."""
+    def number(value):
+        if -128 <= value < 128:
+            return struct.pack(">Bb", 0, int(value))
+        return struct.pack(">Bf", 255, value)
+    place = number(x) + number(y) + struct.pack(">IH", advance, 0)
+    return place + words.encode("cp1251").ljust(24 - len(place), b".")[:24 - len(place)]
+
+
 def sheet(width, height, bits, tail=b""):
     """An uncompressed bottom-up image with a pattern; what comes behind belongs to its pixels."""
     size = width * height * bits // 8
@@ -57,10 +67,13 @@ def job(kind, path, seed):
 def main():
     for name in ("font", "draw"):
         (CORPUS / name).mkdir(parents=True, exist_ok=True)
-    text = struct.pack("5b", 0, 5, 0, 7, 0) + b"\0\0\0\x14\0\0Ombrel\xe9"
-    for name, data in (("one-cell.bmp", sheet(50, 44, 16, text)), ("24-bit.bmp", sheet(52, 50, 24)),
-                       ("8-bit.bmp", sheet(60, 45, 8)), ("row.bmp", sheet(785, 3, 16)),
-                       ("tiny.bmp", sheet(1, 1, 16))):
+    # A width beyond 2^31 overflowed once.
+    last = 2147483520.0  # the greatest float below 2^31
+    for name, data in (("one-cell.bmp", sheet(50, 44, 16, text(5, 7, 20, "Ombrel \u0439"))),
+                       ("far-away.bmp", sheet(50, 44, 16, text(last, last, 20, "Ombrel"))),
+                       ("too-wide.bmp", sheet(50, 44, 16, text(5, 7, 0x60000000, "Ombrel"))),
+                       ("24-bit.bmp", sheet(52, 50, 24)), ("8-bit.bmp", sheet(60, 45, 8)),
+                       ("row.bmp", sheet(785, 3, 16)), ("tiny.bmp", sheet(1, 1, 16))):
         (CORPUS / "font" / name).write_bytes(data)
     number = 0
     for kind in (1, 2, 4, 8):
