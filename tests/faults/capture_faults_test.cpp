@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -83,6 +84,9 @@ protected:
         int status = 0;
         waitpid(child, &status, 0);
         result.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        // A sanitized recorder ends with 1 as well when it has something to report.
+        EXPECT_EQ(result.said.find("Sanitizer: "), std::string::npos) << result.said;
+        EXPECT_EQ(result.said.find("runtime error"), std::string::npos) << result.said;
         return result;
     }
     Result Record(const std::vector<std::string>& arguments, rlim_t limit = kNoLimit) const {
@@ -105,6 +109,31 @@ protected:
 };
 
 using Names = std::vector<std::string>;
+
+#if defined(__has_feature)
+#define OMBREL_HAS_FEATURE(name) __has_feature(name)
+#else
+#define OMBREL_HAS_FEATURE(name) 0
+#endif
+
+// Where these tests are sanitized, so is the recorder that they start.
+TEST_F(CaptureFaults, RecorderIsSanitizedAsTheTestsAre) {
+#if defined(__SANITIZE_ADDRESS__) || OMBREL_HAS_FEATURE(address_sanitizer)
+    constexpr bool wanted = true;
+#else
+    constexpr bool wanted = false;
+#endif
+    const char* const before = std::getenv("ASAN_OPTIONS");
+    const std::string saved = before != nullptr ? before : "";
+    setenv("ASAN_OPTIONS", (saved + ":help=1").c_str(), 1);
+    const Result r = Record({"--frames", "0:1", "--hashes", "-"}, kNoLimit, place_);
+    if (before != nullptr) {
+        setenv("ASAN_OPTIONS", saved.c_str(), 1);
+    } else {
+        unsetenv("ASAN_OPTIONS");
+    }
+    EXPECT_EQ(r.said.find("flags for AddressSanitizer") != std::string::npos, wanted) << r.said;
+}
 
 TEST_F(CaptureFaults, DiskFullWhileHashing) {
     const Result r = Record({"--frames", "0:120", "--hashes", Place("h.txt")}, 2000);

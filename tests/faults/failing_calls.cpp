@@ -36,6 +36,19 @@ bool Fails(const FailureRule& rule, std::int64_t* calls) {
     return fails;
 }
 
+// The file that breaks off, while it is open, and its reads so far.
+constinit std::FILE* brokenFile = nullptr;
+constinit std::int64_t brokenCalls = 0;
+
+bool ReadFails(const std::FILE* file) {
+    const bool ofBroken = file == brokenFile && Fails(failing.brokenReads, &brokenCalls);
+    const bool fails = Fails(failing.reads, &failing.readCalls) || ofBroken;
+    if (fails) {
+        errno = EIO;
+    }
+    return fails;
+}
+
 bool EndsIn(const char* path, const char* end) {
     const std::size_t length = std::strlen(path);
     const std::size_t endLength = std::strlen(end);
@@ -53,6 +66,7 @@ void* __real_calloc(std::size_t count, std::size_t size);
 void* __real_realloc(void* memory, std::size_t size);
 std::FILE* __real_fopen(const char* path, const char* mode);
 std::size_t __real_fread(void* to, std::size_t size, std::size_t count, std::FILE* file);
+char* __real_fgets(char* to, int size, std::FILE* file);
 
 void* __wrap_malloc(std::size_t size) {
     using ombrel::failing;
@@ -80,15 +94,21 @@ std::FILE* __wrap_fopen(const char* path, const char* mode) {
         errno = EACCES;
         return nullptr;
     }
-    return __real_fopen(path, mode);
+    std::FILE* const file = __real_fopen(path, mode);
+    // (A record of the library may have been that of the broken file before.)
+    if (file != nullptr && failing.broken != nullptr && ombrel::EndsIn(path, failing.broken)) {
+        ombrel::brokenFile = file;
+        ombrel::brokenCalls = 0;
+    } else if (file == ombrel::brokenFile) {
+        ombrel::brokenFile = nullptr;
+    }
+    return file;
 }
 std::size_t __wrap_fread(void* to, std::size_t size, std::size_t count, std::FILE* file) {
-    using ombrel::failing;
-    if (ombrel::Fails(failing.reads, &failing.readCalls)) {
-        errno = EIO;
-        return 0;
-    }
-    return __real_fread(to, size, count, file);
+    return ombrel::ReadFails(file) ? 0 : __real_fread(to, size, count, file);
+}
+char* __wrap_fgets(char* to, int size, std::FILE* file) {
+    return ombrel::ReadFails(file) ? nullptr : __real_fgets(to, size, file);
 }
 
 } // extern "C"

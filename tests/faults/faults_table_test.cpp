@@ -23,8 +23,9 @@ namespace ombrel {
 namespace {
 
 constexpr std::int64_t kFrames = 40; // 33 of scene one, then scene two
-constexpr const char* kNoDevice = "Couldn't initialize sound device...";
-constexpr const char* kWrongLibrary = "An incorrect version of BASS.DLL was loaded";
+// What the boxes say, as noted here.
+constexpr const char* kNoDevice = "Couldn't initialize sound device...\n";
+constexpr const char* kWrongLibrary = "An incorrect version of BASS.DLL was loaded\n";
 
 // What a run came to.
 struct Outcome {
@@ -188,12 +189,12 @@ std::vector<Fault> Faults() {
         {"no sound device", kPlain, [] { script.soundDevices = 0; }, nullptr,
          [](const Outcome& o) {
              PlaysWhole(o);
-             EXPECT_EQ(o.said, std::string(kNoDevice) + "\n");
+             EXPECT_EQ(o.said, kNoDevice);
          }},
         {"wrong sound library", kPlain, [] { script.soundVersion = 0x02040000; }, nullptr,
          [](const Outcome& o) {
              PlaysWhole(o);
-             EXPECT_EQ(o.said, std::string(kWrongLibrary) + "\n");
+             EXPECT_EQ(o.said, kWrongLibrary);
          }},
         {"wrong library and no device", kPlain,
          [] {
@@ -203,7 +204,9 @@ std::vector<Fault> Faults() {
          nullptr,
          [](const Outcome& o) {
              PlaysWhole(o);
-             EXPECT_EQ(o.said, std::string(kWrongLibrary) + "\n" + kNoDevice + "\n");
+             std::string both = kWrongLibrary;
+             both += kNoDevice;
+             EXPECT_EQ(o.said, both);
          }},
         {"sound device lost while playing", kPlain, nullptr,
          [](std::int64_t turn) {
@@ -309,34 +312,70 @@ TEST_F(FaultTable, EachFileUnreadable) {
     }
 }
 
-// The close box before every file of start-up: the message waits for the loop, which ends at once.
-constinit std::int64_t closeAt = 0;
+// A file that opens and then breaks off: at its first read, early, or far into it.
+TEST_F(FaultTable, EachFileBreaksOff) {
+    for (const std::string& name : WholeFolderNames()) {
+        if (name == "sfx/soundtrack.mp3") {
+            continue; // the sound's library reads it
+        }
+        const std::string end = "/" + name;
+        std::int64_t reads = 0;
+        for (const std::int64_t first : {0, 1, 2, 7, 30}) {
+            SCOPED_TRACE(name + " from read " + std::to_string(first));
+            Fault fault{"breaks off", kPlain, nullptr, nullptr, nullptr};
+            fault.arrange = [&end, first] {
+                failing.broken = end.c_str();
+                failing.brokenReads = {first, kNever, 1};
+            };
+            const Outcome o = Play(fault);
+            EXPECT_EQ(o.result, 0);
+            EXPECT_EQ(o.drawn, kAll);
+            EXPECT_GT(o.lit, 0);
+            EXPECT_EQ(o.said, "");
+            EXPECT_EQ(frame.sceneIndex, name == "cam/scene1.trk" && first == 0 ? 0 : 1);
+            reads += failing.failed;
+            ExpectPutBack(name.c_str());
+        }
+        EXPECT_GT(reads, 0) << name;
+    }
+}
+
+// The close box at every step of start-up: before each file and in each call of the system, from
+// the moment there is a window. The message waits for the loop, which ends at once.
+struct Steps {
+    std::int64_t done, closeAt;
+};
+constinit Steps steps{};
+
+void Step() {
+    if (offscreen.windowMade != 0 && offscreen.turns == 0 && steps.done++ == steps.closeAt) {
+        PostWindowDestroy();
+    }
+}
 
 TEST_F(FaultTable, WindowClosedAtEveryStepOfStartUp) {
-    Fault fault{"closed", kPlain, nullptr, nullptr, nullptr};
-    fault.arrange = [] {
-        failing.onOpen = [](std::int64_t call) {
-            if (call == closeAt) {
-                PostWindowDestroy();
-            }
+    for (const bool fullScreen : {false, true}) {
+        SCOPED_TRACE(fullScreen ? "full screen" : "in a window");
+        Fault fault{"closed", fullScreen ? kFull : kPlain, nullptr, nullptr, nullptr};
+        fault.arrange = [fullScreen] {
+            script.yesNoAnswer = fullScreen ? MessageAnswer::Yes : MessageAnswer::No;
+            script.soundDevices = 0; // so that a box is one of the steps
+            script.onCall = [](void*) { Step(); };
+            failing.onOpen = [](std::int64_t) { Step(); };
+            steps.done = 0;
         };
-    };
-    closeAt = INT64_MAX;
-    Fault counting = fault;
-    counting.onTurn = [](std::int64_t turn) {
-        if (turn == 0) {
-            closeAt = failing.openCalls; // all of start-up
-            PostWindowDestroy();
+        steps.closeAt = kNever;
+        EXPECT_EQ(Play(fault).drawn, kAll);
+        const std::int64_t count = steps.done;
+        std::printf("%lld steps\n", static_cast<long long>(count));
+        ASSERT_GT(count, 30); // 16 files, and more than a dozen calls
+        for (steps.closeAt = 0; steps.closeAt < count; ++steps.closeAt) {
+            const Outcome o = Play(fault);
+            EXPECT_EQ(o.result, 0) << steps.closeAt;
+            EXPECT_EQ(o.drawn, 1) << steps.closeAt; // the turn that takes the message has a frame
+            EXPECT_EQ(o.said, kNoDevice) << steps.closeAt;
+            ExpectPutBack("closed");
         }
-    };
-    (void)Play(counting);
-    const std::int64_t steps = closeAt;
-    ASSERT_GT(steps, 12);
-    for (closeAt = 0; closeAt < steps; ++closeAt) {
-        const Outcome o = Play(fault);
-        EXPECT_EQ(o.result, 0) << closeAt;
-        EXPECT_EQ(o.drawn, 1) << closeAt; // the turn that takes the message has a frame
-        ExpectPutBack("closed");
     }
 }
 

@@ -67,6 +67,7 @@ struct OffscreenScript {
     FrameHook onFrame; // null: none
     TurnHook onTurn;
     void (*onMessage)(const char* text, MessageKind kind, void* user); // a box was shown
+    void (*onCall)(void* user); // at the beginning of every call that the log would hold
     void* user;
 };
 // Written by tools and tests before and during a run; read by the back end.

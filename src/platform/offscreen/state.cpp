@@ -69,6 +69,9 @@ std::string SeamLog() {
 }
 
 void LogSeamCall(const char* format, ...) {
+    if (script.onCall != nullptr) {
+        script.onCall(script.user);
+    }
     if (!logging) {
         return;
     }
