@@ -11,6 +11,7 @@ import sys
 import tempfile
 import time
 import traceback
+import types
 
 import numpy
 from PIL import Image
@@ -278,6 +279,29 @@ def no_display_test(folder):
           code == 0 and len(lines) == 1 and not out, (code, lines))
 
 
+def lost_display_test(folder):
+    """Here the server is killed, so no connection to it may be ours."""
+    read, write = os.pipe()
+    server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24",
+                               "-nolisten", "tcp"], pass_fds=[write], stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL)
+    os.close(write)
+    with os.fdopen(read) as numbers:
+        name = ":" + numbers.readline().strip()
+    larkfen = Program(folder, types.SimpleNamespace(name=name), "-w", "-ns")
+    shown = subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", TITLE],
+                           env={**os.environ, "DISPLAY": name}, stdout=subprocess.DEVNULL,
+                           timeout=60, check=False).returncode == 0
+    time.sleep(0.5)
+    plays = larkfen.process.poll() is None
+    server.kill()
+    server.wait()
+    code, out, err = larkfen.end()
+    check("a display that goes away ends it with 1 and one line",
+          shown and plays and code == 1 and not out and len(err.splitlines()) == 1,
+          (shown, plays, code, err))
+
+
 # --- the recorder
 
 def record(capture, data, *arguments, **more):
@@ -474,6 +498,7 @@ def main():
                 screen.close()
             picture_tests(full, capture, work, (1920, 1080), keep)
             no_display_test(bare)
+            lost_display_test(bare)
             argument_tests(capture, full / "data", work)
             recording_tests(capture, full / "data", work)
             video_tests(capture, full / "data", work)
