@@ -139,6 +139,17 @@ TEST_F(Primitives, LineOutsideIsRejectedAndStillReturns1) {
     }
 }
 
+TEST_F(Primitives, NothingIsInsideAClipRectangleWithoutPixels) {
+    for (const Rect& clip : {Rect{5, 5, 5, 20}, Rect{5, 5, 20, 5}, Rect{20, 5, 5, 20},
+                             Rect{5, 20, 20, 5}, Rect{0, 0, 0, 0}}) {
+        display.clip2d = clip;
+        EXPECT_EQ(DrawClippedLine({0, 0, kWidth - 1, kHeight - 1}, 1, pixels.data(), kPitch), 1);
+        EXPECT_EQ(DrawClippedLine({5, 5, 5, 5}, 1, pixels.data(), kPitch), 1);
+        EXPECT_EQ(PlotPixel(5, 5, 1, pixels.data(), kPitch), 1);
+        EXPECT_EQ(Drawn(), Points{});
+    }
+}
+
 TEST_F(Primitives, CutLinesReachTheEdgesExactly) {
     DrawClippedLine({-100, 7, 100, 7}, 1, pixels.data(), kPitch);
     Points row;

@@ -37,6 +37,20 @@ TEST(Switches, AllNamesWithTheirShippedValues) {
     EXPECT_EQ(SwitchName(-1), nullptr);
 }
 
+// The recorder's help lists both.
+TEST(Switches, EachNameHasAMeaningOfItsOwn) {
+    std::set<std::string> meanings;
+    std::int32_t count = 0;
+    for (; SwitchName(count) != nullptr; ++count) {
+        ASSERT_NE(SwitchMeaning(count), nullptr) << SwitchName(count);
+        EXPECT_FALSE(std::string(SwitchMeaning(count)).empty()) << SwitchName(count);
+        meanings.insert(SwitchMeaning(count));
+    }
+    EXPECT_EQ(meanings.size(), static_cast<std::size_t>(count));
+    EXPECT_EQ(SwitchMeaning(-1), nullptr);
+    EXPECT_EQ(SwitchMeaning(count), nullptr);
+}
+
 TEST(Switches, SetReachesTheVariable) {
     ResetWorld();
     EXPECT_TRUE(SetSwitch("renderMode1", 0));
