@@ -9,9 +9,11 @@ if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang)
   message(FATAL_ERROR "The fuzz targets need clang: -DCMAKE_CXX_COMPILER=clang++")
 endif()
 
-add_compile_options(-gline-tables-only -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow -fno-sanitize-recover=all
-                    -fno-omit-frame-pointer)
-add_link_options(-fsanitize=address,undefined)
+if(NOT OMBREL_SANITIZE)
+  message(FATAL_ERROR "The fuzz targets find little without sanitizers: -DOMBREL_SANITIZE=address,undefined")
+endif()
+
+add_compile_options(-fsanitize=fuzzer-no-link,float-cast-overflow -fno-sanitize-recover=all)
 
 # Runs when all targets are known.
 function(ombrel_fuzz_targets)
