@@ -20,27 +20,55 @@ inline Words Min(Words a, Words b) {
 inline Words Max(Words a, Words b) {
     return a > b ? a : b;
 }
-inline bool Any(Ints mask) {
-    std::int32_t any = 0;
+inline bool All(Ints mask) {
+    std::int32_t all = -1;
     for (int i = 0; i < kLanes; ++i) {
-        any |= mask[i];
+        all &= mask[i];
     }
-    return any != 0;
+    return all == -1;
 }
-inline Words LoadPixels(const Pixel16* from) {
-    Words v = {};
-    for (int i = 0; i < kLanes; ++i) {
+inline Pixels Select(Pixels mask, Pixels yes, Pixels no) {
+    return (mask & yes) | (~mask & no);
+}
+template <int parts> inline Pixels LoadPixels(const Pixel16* from) {
+    Pixels v = {};
+    for (int i = 0; i < kLanes * parts; ++i) {
         v[i] = from[i];
     }
     return v;
 }
-inline void StorePixels(Pixel16* to, Words pixels) {
-    for (int i = 0; i < kLanes; ++i) {
-        to[i] = static_cast<Pixel16>(pixels[i]);
+template <int parts> inline void StorePixels(Pixel16* to, Pixels pixels) {
+    for (int i = 0; i < kLanes * parts; ++i) {
+        to[i] = pixels[i];
     }
 }
-inline Words FetchTexels(const Pixel16* texels, Ints index) {
+template <class Lanes> inline Pixels Narrow(Lanes low, Lanes high) {
+    Pixels v = {};
+    for (int i = 0; i < kLanes; ++i) {
+        v[i] = static_cast<Pixel16>(low[i]);
+        v[kLanes + i] = static_cast<Pixel16>(high[i]);
+    }
+    return v;
+}
+inline Words WidenLow(Pixels pixels) {
     Words v = {};
+    for (int i = 0; i < kLanes; ++i) {
+        v[i] = pixels[i];
+    }
+    return v;
+}
+inline Words WidenHigh(Pixels pixels) {
+    Words v = {};
+    for (int i = 0; i < kLanes; ++i) {
+        v[i] = pixels[kLanes + i];
+    }
+    return v;
+}
+inline Pixels Join(Pixels low, Pixels high) {
+    return Narrow(WidenLow(low), WidenLow(high));
+}
+inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
+    Pixels v = {};
     for (int i = 0; i < kLanes; ++i) {
         v[i] = texels[index[i]];
     }
@@ -53,27 +81,25 @@ inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
     }
     return v;
 }
+inline Pixels HighHalves(Pixels a, Pixels b) {
+    Pixels v = {};
+    for (int i = 0; i < 2 * kLanes; ++i) {
+        v[i] = static_cast<Pixel16>((std::uint32_t{a[i]} * b[i]) >> 16);
+    }
+    return v;
+}
+inline Pixels RoundedProducts(Pixels a, Pixels b) {
+    Pixels v = {};
+    for (int i = 0; i < 2 * kLanes; ++i) {
+        const std::int32_t product =
+            static_cast<std::int16_t>(a[i]) * static_cast<std::int16_t>(b[i]);
+        v[i] = static_cast<Pixel16>((product + 0x4000) >> 15);
+    }
+    return v;
+}
 // One half of a lane, with sign.
 inline std::int32_t HalfOf(std::uint32_t lane, int high) {
     return static_cast<std::int16_t>(lane >> (16 * high));
-}
-inline Words HighHalves(Words a, Words b) {
-    Words v = {};
-    for (int i = 0; i < kLanes; ++i) {
-        v[i] = ((a[i] & 0xFFFF) * (b[i] & 0xFFFF)) >> 16 |
-               (((a[i] >> 16) * (b[i] >> 16)) & 0xFFFF0000);
-    }
-    return v;
-}
-inline Words RoundedProducts(Words a, Words b) {
-    Words v = {};
-    for (int i = 0; i < kLanes; ++i) {
-        for (int high = 0; high < 2; ++high) {
-            const std::int32_t product = HalfOf(a[i], high) * HalfOf(b[i], high);
-            v[i] |= static_cast<std::uint32_t>(((product + 0x4000) >> 15) & 0xFFFF) << (16 * high);
-        }
-    }
-    return v;
 }
 inline Words SumOfProducts(Words a, Words b) {
     Words v = {};
@@ -82,6 +108,10 @@ inline Words SumOfProducts(Words a, Words b) {
                                           HalfOf(a[i], 1) * HalfOf(b[i], 1));
     }
     return v;
+}
+
+template <int k, class Slots> inline Ints Spread(Slots slots) {
+    return Ints{} + slots[k];
 }
 
 // Toward zero as the processor's conversion: what no 32-bit number can hold gives INT32_MIN.

@@ -27,50 +27,70 @@ struct Row {
 };
 
 // The depths of a block against those that are there.
-struct DepthTest {
-    Words cell, nearest;
-    Ints pass; // lanes to draw
+template <int parts> struct DepthTest {
+    Ints depth[parts];
+    Words cell[parts], nearest[parts];
+    Ints keep[parts]; // lanes that stay as they are
 };
-template <FillerRules R>
-[[gnu::always_inline]] inline DepthTest TestDepths(Ints depth, const std::uint32_t* cells,
-                                                   Ints live) {
-    DepthTest test = {Words{}, (Words)depth, live};
-    if constexpr (Needs<R>::depth) {
-        test.cell = Load<Words>(cells);
-    }
-    if constexpr (R.depth == DepthRule::W) {
-        test.nearest = Max(test.nearest, test.cell);
-    } else if constexpr (R.depth == DepthRule::Z) {
-        test.nearest = Min(test.nearest, test.cell);
-    }
-    if constexpr (Needs<R>::depthTest) {
-        test.pass &= test.nearest != test.cell;
-    }
+template <FillerRules R, int parts>
+[[gnu::always_inline]] inline DepthTest<parts> TestDepths(Attributes* at, const Attributes& by,
+                                                          const std::uint32_t* cells, Ints dead) {
+    DepthTest<parts> test;
+    ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
+        test.keep[i] = dead;
+        if constexpr (Needs<R>::depth) {
+            test.depth[i] = Take(&at->depth, by.depth);
+            test.cell[i] = Load<Words>(cells + i * kLanes);
+            test.nearest[i] = (Words)test.depth[i];
+        }
+        if constexpr (R.depth == DepthRule::W) {
+            test.nearest[i] = Max(test.nearest[i], test.cell[i]);
+        } else if constexpr (R.depth == DepthRule::Z) {
+            test.nearest[i] = Min(test.nearest[i], test.cell[i]);
+        }
+        if constexpr (Needs<R>::depthTest) {
+            test.keep[i] |= test.nearest[i] == test.cell[i];
+        }
+    });
     return test;
 }
+template <int parts> [[gnu::always_inline]] inline bool KeepsAll(const DepthTest<parts>& test) {
+    return All(parts == 2 ? test.keep[0] & test.keep[parts - 1] : test.keep[0]);
+}
 
-// kLanes pixels from row on. whole: all lanes were to be drawn, but for what the test says.
-template <FillerRules R, bool whole>
-[[gnu::always_inline]] inline void DrawBlock(const Brush& brush, const Attributes& at, Row row,
-                                             DepthTest test) {
-    Ints pass = test.pass;
-    const Words texels = Texels<R>(brush, at, pass);
-    if constexpr (R.texel == TexelRule::Keyed) {
-        pass &= texels != 0;
+// A block of pixels from row on: two parts, all to be drawn but for what the test says; or one,
+// without its dead lanes.
+template <FillerRules R, int parts>
+[[gnu::always_inline]] inline void DrawBlock(const Brush& brush, Attributes* at,
+                                             const Attributes& by, Row row,
+                                             const DepthTest<parts>& test, Ints dead) {
+    constexpr bool whole = parts == 2, keyed = R.texel == TexelRule::Keyed;
+    constexpr bool always = whole && !Needs<R>::depthTest && !keyed;
+    const Pixels texels = Texels<R, parts>(brush, at, by, test.depth, dead);
+    Pixels keep = always ? Pixels{} : Narrow(test.keep[0], test.keep[parts - 1]);
+    if constexpr (keyed) {
+        keep |= (Pixels)(texels == 0);
     }
-    constexpr bool always = whole && !Needs<R>::depthTest && R.texel != TexelRule::Keyed;
-    Words pixels = Light<R>(brush, texels, at);
+    Pixels pixels = Light<R, parts>(brush, texels, at, by);
     if constexpr (!always || R.write == WriteRule::Blend) {
-        const Words there = LoadPixels(row.frame);
+        const Pixels there = LoadPixels<parts>(row.frame);
         if constexpr (R.write == WriteRule::Blend) {
             pixels = Blend(brush, pixels, there);
         }
-        pixels = always ? pixels : Select(pass, pixels, there);
+        pixels = always ? pixels : Select(keep, there, pixels);
     }
-    StorePixels(row.frame, pixels);
+    StorePixels<parts>(row.frame, pixels);
     if constexpr (Needs<R>::depth) {
-        constexpr bool tested = whole && R.texel != TexelRule::Keyed;
-        Store(row.depth, tested ? test.nearest : Select(pass, test.nearest, test.cell));
+        ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
+            Words nearest = test.nearest[i];
+            if constexpr (keyed) {
+                const Words kept = i == 0 ? WidenLow(keep) : WidenHigh(keep);
+                nearest = kept != 0 ? test.cell[i] : nearest;
+            } else if constexpr (!whole) {
+                nearest = (Words)Select((Pixels)dead, (Pixels)test.cell[i], (Pixels)nearest);
+            }
+            Store(row.depth + i * kLanes, nearest);
+        });
     }
 }
 
@@ -123,65 +143,74 @@ template <FillerRules R>
         }
     }
     // Spread the slots over the lanes.
-    constexpr int slotCount = sizeof(SlotsOf<R>) / 4;
-    std::int32_t starts[slotCount], steps[slotCount];
-    Store(starts, start);
-    Store(steps, step);
-    // They are read back one by one: taking them out of the vectors would be twice the work.
-    __asm__("" : "+m"(starts), "+m"(steps));
-    Attributes at;
-    ForEachAttribute<R>(
-        &at, [&](Ints * a, int k)
-                 __attribute__((always_inline)) { *a = starts[k] + steps[k] * LaneNumbers(); });
+    Attributes at, steps;
+    const auto spread = [&](auto k, Ints* a, Ints* by) __attribute__((always_inline)) {
+        *by = Spread<k>(step);
+        *a = Spread<k>(start) + *by * LaneNumbers();
+    };
+    ForEachAttribute<R>(spread, &at, &steps);
     row.frame += xl;
     row.depth += Needs<R>::depth ? xl : 0;
     std::int32_t count = xr - xl;
     constexpr bool skips = Needs<R>::texels && Needs<R>::depthTest;
     std::int32_t skipped = 0; // pixels that the attributes but depth lag behind
     const auto catchUp = [&]() __attribute__((always_inline)) {
+        const auto move = [&](auto k, Ints* a, const Ints* by) __attribute__((always_inline)) {
+            *a += k == kDepth ? Ints{} : *by * skipped;
+        };
         if (skips && skipped != 0) {
-            ForEachAttribute<R>(
-                &at, [&](Ints * a, int k) __attribute__((always_inline)) {
-                    *a += k == kDepth ? 0 : steps[k] * skipped;
-                });
+            ForEachAttribute<R>(move, &at, &steps);
             skipped = 0;
         }
     };
-    if (count > kLanes) {
-        Attributes advance;
-        ForEachAttribute<R>(
-            &advance, [&](Ints * a, int k)
-                          __attribute__((always_inline)) { *a = Ints{} + steps[k] * kLanes; });
+    if (count >= 2 * kLanes) {
+        Attributes by;
+        const auto scale = [](auto, Ints* a, const Ints* by) __attribute__((always_inline)) {
+            *a = *by * kLanes;
+        };
+        ForEachAttribute<R>(scale, &by, &steps);
         do {
-            const DepthTest test = TestDepths<R>(at.depth, row.depth, Ints{} - 1);
-            if (skips && !Any(test.pass)) {
-                skipped += kLanes;
-                at.depth += advance.depth;
+            const DepthTest<2> test = TestDepths<R, 2>(&at, by, row.depth, Ints{});
+            if (skips && KeepsAll(test)) {
+                skipped += 2 * kLanes;
             } else {
                 catchUp();
-                DrawBlock<R, true>(brush, at, row, test);
-                Advance<R>(&at, advance);
+                DrawBlock<R, 2>(brush, &at, by, row, test, Ints{});
             }
+            row.frame += 2 * kLanes;
+            row.depth += Needs<R>::depth ? 2 * kLanes : 0;
+            count -= 2 * kLanes;
+        } while (count >= 2 * kLanes);
+    }
+    // What is left is one masked part or two.
+    while (count > 0) {
+        // The last one is drawn aside where it would reach past the clip rectangle.
+        Pixel16 frameAside[kLanes];
+        std::uint32_t depthAside[kLanes];
+        const bool aside = columns.right - xr + count < kLanes;
+        const Row room = row;
+        if (aside) [[unlikely]] {
+            row = {frameAside, Needs<R>::depth ? depthAside : nullptr};
+            CopyPixels(room, row, count);
+        }
+        const Ints dead = LaneNumbers() >= count;
+        const Attributes none = {};
+        const DepthTest<1> test = TestDepths<R, 1>(&at, none, row.depth, dead);
+        if (!skips || !KeepsAll(test)) {
+            catchUp();
+            DrawBlock<R, 1>(brush, &at, none, row, test, dead);
+            if (aside) [[unlikely]] {
+                CopyPixels(row, room, count);
+            }
+        }
+        count -= kLanes;
+        if (count > 0) {
+            const auto move = [](auto, Ints* a, const Ints* by) __attribute__((always_inline)) {
+                *a += *by * kLanes;
+            };
+            ForEachAttribute<R>(move, &at, &steps);
             row.frame += kLanes;
             row.depth += Needs<R>::depth ? kLanes : 0;
-            count -= kLanes;
-        } while (count > kLanes);
-    }
-    // The last block is drawn aside where it would reach past the clip rectangle.
-    Pixel16 frameAside[kLanes];
-    std::uint32_t depthAside[kLanes];
-    const bool aside = columns.right - xr + count < kLanes;
-    const Row room = row;
-    if (aside) [[unlikely]] {
-        row = {frameAside, Needs<R>::depth ? depthAside : nullptr};
-        CopyPixels(room, row, count);
-    }
-    const DepthTest test = TestDepths<R>(at.depth, row.depth, LaneNumbers() < count);
-    if (!skips || Any(test.pass)) {
-        catchUp();
-        DrawBlock<R, false>(brush, at, row, test);
-        if (aside) [[unlikely]] {
-            CopyPixels(row, room, count);
         }
     }
 }

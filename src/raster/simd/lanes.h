@@ -1,7 +1,9 @@
 // Vector types of the twins, and what the language's vector extension says for all instruction
-// sets. A lane is one pixel of a span: kLanes 32-bit numbers. A slot vector holds the attributes of
-// one point: four slots, or eight with colours. Included once by each twins_*.cpp, which defines
-// kLanes before; everything here is its own, so that nothing is shared between instruction sets.
+// sets. A lane is one pixel of a span: kLanes 32-bit numbers. Colours take half a lane: a vector of
+// them holds the pixels of two parts of a block, or in its lower half those of one. A slot vector
+// holds the attributes of one point: four slots, or eight with colours. Included once by each
+// twins_*.cpp, which defines kLanes before; everything here is its own, so that nothing is shared
+// between instruction sets.
 //
 //     slot     0    1       2    3    4     5       6      7
 //              x    depth   u    v    red   green   blue   -
@@ -12,16 +14,18 @@
 
 #include <immintrin.h>
 
+#include "base/pixel16.h"
 #include "raster/simd/reciprocal.h"
 
 namespace ombrel {
 namespace {
 
-using Ints [[gnu::vector_size(4 * kLanes)]] = std::int32_t;    // a lane each
-using Words [[gnu::vector_size(4 * kLanes)]] = std::uint32_t;  // the same, without sign
-using Halves [[gnu::vector_size(4 * kLanes)]] = std::uint16_t; // two to a lane
-using Quad [[gnu::vector_size(16)]] = std::int32_t;            // slots 0..3
-using Octet [[gnu::vector_size(32)]] = std::int32_t;           // slots 0..7
+using Ints [[gnu::vector_size(4 * kLanes)]] = std::int32_t;        // a lane each
+using Words [[gnu::vector_size(4 * kLanes)]] = std::uint32_t;      // the same, without sign
+using Pixels [[gnu::vector_size(4 * kLanes)]] = std::uint16_t;     // two to a lane
+using Quad [[gnu::vector_size(16)]] = std::int32_t;                // slots 0..3
+using Octet [[gnu::vector_size(32)]] = std::int32_t;               // slots 0..7
+using IndexPairs [[gnu::vector_size(4 * kLanes)]] = std::uint64_t; // two lanes in one
 
 constexpr int kX = 0, kDepth = 1, kU = 2, kV = 3, kRed = 4, kGreen = 5, kBlue = 6;
 
@@ -33,9 +37,6 @@ template <class Vector, class T> [[gnu::always_inline]] inline Vector Load(const
 template <class Vector, class T> [[gnu::always_inline]] inline void Store(T* to, Vector v) {
     std::memcpy(to, &v, sizeof v);
 }
-[[gnu::always_inline]] inline Words Select(Ints mask, Words yes, Words no) {
-    return mask ? yes : no;
-}
 // The same for slots. (Without a question mark: compilers take those apart, where a vector is wider
 // than the processor's.)
 template <class Slots> [[gnu::always_inline]] inline Slots Either(Slots mask, Slots yes, Slots no) {
@@ -43,7 +44,18 @@ template <class Slots> [[gnu::always_inline]] inline Slots Either(Slots mask, Sl
 }
 // Both halves of each lane.
 [[gnu::always_inline]] inline Words ShiftHalves(Words a, int bits) {
-    return (Words)((Halves)a >> bits);
+    return (Words)((Pixels)a >> bits);
+}
+// One colour everywhere.
+[[gnu::always_inline]] inline Pixels AllPixels(std::uint32_t color) {
+    return Pixels{} + static_cast<std::uint16_t>(color);
+}
+// Calls action(i) for each part of a block, unrolled.
+template <int parts, class Action> [[gnu::always_inline]] inline void ForEachPart(Action action) {
+    action(0);
+    if constexpr (parts == 2) {
+        action(1);
+    }
 }
 [[gnu::always_inline]] inline Ints LaneNumbers() {
     Ints v;
@@ -51,6 +63,15 @@ template <class Slots> [[gnu::always_inline]] inline Slots Either(Slots mask, Sl
         v[i] = i;
     }
     return v;
+}
+
+// Two texels more, by their indices (of 0 or more) in the halves of two. What the texture has
+// behind a texel is not touched. (Going through memory or gathering is slower.)
+template <int place>
+[[gnu::always_inline]] inline __m128i AddTexels(__m128i v, const Pixel16* texels,
+                                                std::uint64_t two) {
+    v = _mm_insert_epi16(v, texels[two & 0xFFFFFFFF], place);
+    return _mm_insert_epi16(v, texels[two >> 32], place + 1);
 }
 
 [[gnu::always_inline]] inline Quad Min(Quad a, Quad b) {

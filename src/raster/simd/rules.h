@@ -37,37 +37,32 @@ struct Attributes {
     Ints depth, u, v, red, green, blue;
 };
 
-// Calls action(vector, slot) for each attribute that R needs.
-template <FillerRules R, class Action>
-[[gnu::always_inline]] inline void ForEachAttribute(Attributes* at, Action action) {
+// Calls action(vectors..., slot) for each attribute that R needs, with its vector in each of the
+// records.
+template <int k> struct SlotNumber {
+    constexpr operator int() const { return k; }
+};
+template <FillerRules R, class Action, class... Records>
+[[gnu::always_inline]] inline void ForEachAttribute(Action action, Records*... records) {
     if constexpr (Needs<R>::depth) {
-        action(&at->depth, kDepth);
+        action(SlotNumber<kDepth>{}, &records->depth...);
     }
     if constexpr (Needs<R>::texels) {
-        action(&at->u, kU);
-        action(&at->v, kV);
+        action(SlotNumber<kU>{}, &records->u...);
+        action(SlotNumber<kV>{}, &records->v...);
     }
     if constexpr (Needs<R>::gouraud) {
-        action(&at->red, kRed);
-        action(&at->green, kGreen);
-        action(&at->blue, kBlue);
+        action(SlotNumber<kRed>{}, &records->red...);
+        action(SlotNumber<kGreen>{}, &records->green...);
+        action(SlotNumber<kBlue>{}, &records->blue...);
     }
 }
 
-template <FillerRules R>
-[[gnu::always_inline]] inline void Advance(Attributes* at, const Attributes& by) {
-    if constexpr (Needs<R>::depth) {
-        at->depth += by.depth;
-    }
-    if constexpr (Needs<R>::texels) {
-        at->u += by.u;
-        at->v += by.v;
-    }
-    if constexpr (Needs<R>::gouraud) {
-        at->red += by.red;
-        at->green += by.green;
-        at->blue += by.blue;
-    }
+// The attribute of the part of a block at hand; moves it on to the next part.
+[[gnu::always_inline]] inline Ints Take(Ints* attribute, Ints by) {
+    const Ints taken = *attribute;
+    *attribute += by;
+    return taken;
 }
 
 // What stays the same over one triangle.
@@ -77,14 +72,13 @@ struct Brush {
     std::int32_t lastColumn; // of the texture
     std::int32_t lastTexel;  // index of the last texel that the texture's memory holds
     std::uint32_t color;     // colour 0
-    std::uint32_t under;     // blend factor of the pixel that is there, in 1/1024
+    std::uint32_t under;     // blend factor of the pixel that is there, in 1/32768
     std::uint32_t over;      // blend factor of the source
 };
 
-// The blend tables as multiplications: channel * factor / 1024, to nearest, is the entry. (It is
-// never near a half: channel * k / 7 is 1/14 from one, what the factors are rounded by at most
-// 1/32.)
-constexpr std::uint32_t kBlendFactors[8] = {0, 146, 293, 439, 585, 731, 878, 1024};
+// The blend tables as multiplications: channel * factor / 32768, to nearest, is the entry. (It is
+// never near a half: channel * k / 7 is 1/14 from one, what the factors are off by at most 1/512.)
+constexpr std::uint32_t kBlendFactors[8] = {0, 4681, 9362, 14043, 18725, 23406, 28087, 32767};
 
 template <FillerRules R>
 [[gnu::always_inline]] inline Brush MakeBrush(const ScreenPolygon& polygon, std::uint32_t level) {
@@ -109,17 +103,18 @@ template <FillerRules R>
 // --- one block of pixels
 // ---------------------------------------------------------------------------
 
+// Of lanes with their depth (in perspective per pixel).
 template <FillerRules R>
-[[gnu::always_inline]] inline Ints TexelIndex(const Brush& brush, const Attributes& at) {
+[[gnu::always_inline]] inline Ints TexelIndex(const Brush& brush, Ints u, Ints v, Ints depth) {
     Ints column, row;
     if constexpr (R.texel == TexelRule::PerPixel) {
-        const IntsPair texel = DivChop(at.u << 6, at.v << 6, at.depth);
+        const IntsPair texel = DivChop(u << 6, v << 6, depth);
         column = texel.first;
         row = texel.second;
     } else {
         constexpr int fraction = R.texel == TexelRule::Span ? 22 : 16;
-        column = at.u >> fraction;
-        row = at.v >> fraction;
+        column = u >> fraction;
+        row = v >> fraction;
     }
     const Ints index = (row << brush.shift) + column;
     if constexpr (Needs<R>::perspective) {
@@ -130,22 +125,22 @@ template <FillerRules R>
 }
 
 // Between the left and the right texels of two rows, then between the rows: the same sum of four
-// products. safe: lanes that may be looked at.
-[[gnu::always_inline]] inline Words MixTexels(const Brush& brush, const Attributes& at, Ints safe) {
+// products.
+[[gnu::always_inline]] inline Words MixTexels(const Brush& brush, Ints u, Ints v) {
     const Ints last = Ints{} + brush.lastColumn;
-    const Ints x0 = (at.u >> 16) & safe, y0 = (at.v >> 16) & safe;
+    const Ints x0 = u >> 16, y0 = v >> 16;
     // The last column has no right neighbour: its pair is taken one further left.
     const Ints isLast = x0 == last;
     const Ints pair = x0 + isLast;
     const Ints y1 = y0 < last ? y0 + 1 : last;
-    const Words fu = (Words)(at.u >> 8) & 255, fv = (Words)(at.v >> 8) & 255;
+    const Words fu = (Words)(u >> 8) & 255, fv = (Words)(v >> 8) & 255;
     // Both weights of a pair in one lane; in the last column all of it goes to the right one.
-    const Words across = Select(isLast, Words{} + (256U << 16), (256 - fu) | fu << 16);
+    const Words across = isLast ? Words{} + (256U << 16) : (256 - fu) | fu << 16;
     const Words down = (256 - fv) | fv << 16;
     const Words upper = FetchTexelPairs(brush.texels, (y0 << brush.shift) + pair);
     const Words lower = FetchTexelPairs(brush.texels, (y1 << brush.shift) + pair);
-    const auto mix = [&](Words u, Words l) __attribute__((always_inline)) {
-        return SumOfProducts(SumOfProducts(u, across) | SumOfProducts(l, across) << 16, down);
+    const auto mix = [&](Words a, Words b) __attribute__((always_inline)) {
+        return SumOfProducts(SumOfProducts(a, across) | SumOfProducts(b, across) << 16, down);
     };
     const Words red = mix(ShiftHalves(upper, 11), ShiftHalves(lower, 11));
     const Words green = mix(ShiftHalves(upper, 5) & 0x003F003F, ShiftHalves(lower, 5) & 0x003F003F);
@@ -153,55 +148,76 @@ template <FillerRules R>
     return ((red >> 5) & 0xF800) + ((green >> 11) & 0xFFE0) + (blue >> 16);
 }
 
-template <FillerRules R>
-[[gnu::always_inline]] inline Words Texels(const Brush& brush, const Attributes& at, Ints safe) {
+// The texels of a block of so many parts. dead: lanes of the last part that must not be looked at.
+template <FillerRules R, int parts>
+[[gnu::always_inline]] inline Pixels Texels(const Brush& brush, Attributes* at,
+                                            const Attributes& by, const Ints (&depth)[parts],
+                                            Ints dead) {
     if constexpr (!Needs<R>::texels) {
-        return Words{};
+        return Pixels{};
     } else if constexpr (R.texel == TexelRule::Bilinear) {
-        return MixTexels(brush, at, safe);
+        Words mixed[parts];
+        ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
+            const Ints u = Take(&at->u, by.u) & ~dead, v = Take(&at->v, by.v) & ~dead;
+            mixed[i] = MixTexels(brush, u, v);
+        });
+        return Narrow(mixed[0], mixed[parts - 1]);
     } else {
-        return FetchTexels(brush.texels, TexelIndex<R>(brush, at) & safe);
+        Pixels texels[parts];
+        ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
+            const Ints u = Take(&at->u, by.u), v = Take(&at->v, by.v);
+            const Ints index = TexelIndex<R>(brush, u, v, depth[i]) & ~dead;
+            texels[i] = FetchTexels(brush.texels, index);
+        });
+        return parts == 2 ? Join(texels[0], texels[parts - 1]) : texels[0];
     }
 }
 
-template <FillerRules R>
-[[gnu::always_inline]] inline Words Light(const Brush& brush, Words t, const Attributes& at) {
+// The colours of a block with the texels t.
+template <FillerRules R, int parts>
+[[gnu::always_inline]] inline Pixels Light(const Brush& brush, Pixels t, Attributes* at,
+                                           const Attributes& by) {
     if constexpr (Needs<R>::gouraud) {
-        const Words r = (Words)at.red, g = (Words)at.green, b = (Words)at.blue;
-        if constexpr (Needs<R>::texels) {
-            return (((((t >> 5) & 63) * g) >> 19) & 0x1FE0) + ((((t >> 11) * r) >> 13) & 0xF800) +
-                   (((t & 31) * b) >> 24);
-        }
-        return ((g >> 13) & 0xFFE0) + ((r >> 8) & 0xF800) + (b >> 19);
+        Words lit[parts];
+        ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
+            const Words r = (Words)Take(&at->red, by.red), g = (Words)Take(&at->green, by.green),
+                        b = (Words)Take(&at->blue, by.blue);
+            if constexpr (Needs<R>::texels) {
+                const Words w = i == 0 ? WidenLow(t) : WidenHigh(t);
+                lit[i] = (((((w >> 5) & 63) * g) >> 19) & 0x1FE0) +
+                         ((((w >> 11) * r) >> 13) & 0xF800) + (((w & 31) * b) >> 24);
+            } else {
+                lit[i] = ((g >> 13) & 0xFFE0) + ((r >> 8) & 0xF800) + (b >> 19);
+            }
+        });
+        return Narrow(lit[0], lit[parts - 1]);
     } else if constexpr (R.light == LightRule::Flat) {
         const std::uint32_t k = brush.color;
         if constexpr (Needs<R>::texels) {
             // Channels stay in their places: 2^11 red x 2^11 red is 64 times the product, and so
             // on.
-            const Words red = HighHalves(t & 0xF800, Words{} + ((k & 0xF800)));
-            const Words green = HighHalves(t & 0x07E0, Words{} + ((k & 0x07E0) << 5));
-            const Words blue = HighHalves(t & 0x001F, Words{} + ((k & 0x001F) << 11));
+            const Pixels red = HighHalves(t & 0xF800, AllPixels(k & 0xF800));
+            const Pixels green = HighHalves(t & 0x07E0, AllPixels((k & 0x07E0) << 5));
+            const Pixels blue = HighHalves(t & 0x001F, AllPixels((k & 0x001F) << 11));
             return (green & 0x07E0) + (red & 0xF800) + blue;
         }
-        return Words{} + k;
+        return AllPixels(k);
     } else {
         return t;
     }
 }
 
-// Each channel is multiplied to nearest, red and blue with one product. Sums are not clamped: what
-// runs over the top of a channel goes into the next one, and out at the top.
-[[gnu::always_inline]] inline Words Blend(const Brush& brush, Words source, Words there) {
-    const auto spread = [](Words p) __attribute__((always_inline)) {
-        return (p >> 8 | p << 19) & 0x00F800F8; // red in the low half, blue in the high one
+// Each channel is multiplied to nearest. Sums are not clamped: what runs over the top of a channel
+// goes into the next one, and out at the top.
+[[gnu::always_inline]] inline Pixels Blend(const Brush& brush, Pixels source, Pixels there) {
+    const Pixels over = AllPixels(brush.over), under = AllPixels(brush.under);
+    const auto mix = [&](Pixels s, Pixels t) __attribute__((always_inline)) {
+        return RoundedProducts(s, over) + RoundedProducts(t, under);
     };
-    const Words over = Words{} + (brush.over << 2) * 0x10001,
-                under = Words{} + (brush.under << 2) * 0x10001;
-    const Words redBlue =
-        RoundedProducts(spread(source), over) + RoundedProducts(spread(there), under);
-    const Words green = RoundedProducts(source & 0x07E0, Words{} + brush.over) +
-                        RoundedProducts(there & 0x07E0, Words{} + brush.under);
-    return ((redBlue << 11) + (green << 5) + (redBlue >> 16)) & 0xFFFF;
+    const Pixels red = mix(source >> 11, there >> 11);
+    const Pixels green = mix((source >> 5) & 63, (there >> 5) & 63);
+    const Pixels blue = mix(source & 31, there & 31);
+    return (red << 11) + (green << 5) + blue;
 }
 
 } // namespace

@@ -18,49 +18,73 @@ namespace {
 [[gnu::always_inline]] inline Words Max(Words a, Words b) {
     return (Words)_mm256_max_epu32((__m256i)a, (__m256i)b);
 }
-[[gnu::always_inline]] inline bool Any(Ints mask) {
-    return _mm256_testz_si256((__m256i)mask, (__m256i)mask) == 0;
+[[gnu::always_inline]] inline bool All(Ints mask) {
+    return _mm256_testc_si256((__m256i)mask, _mm256_set1_epi32(-1)) != 0;
+}
+[[gnu::always_inline]] inline Pixels Select(Pixels mask, Pixels yes, Pixels no) {
+    return (Pixels)_mm256_blendv_epi8((__m256i)no, (__m256i)yes, (__m256i)mask);
 }
 
-// Pixels of the frame, widened to lanes and back; back only below 2^16.
-[[gnu::always_inline]] inline Words LoadPixels(const Pixel16* from) {
-    return (Words)_mm256_cvtepu16_epi32(Load<__m128i>(from));
+// Pixels of the frame, of one part of a block or of two.
+template <int parts> [[gnu::always_inline]] inline Pixels LoadPixels(const Pixel16* from) {
+    return parts == 2 ? Load<Pixels>(from) : (Pixels)_mm256_castsi128_si256(Load<__m128i>(from));
 }
-[[gnu::always_inline]] inline void StorePixels(Pixel16* to, Words pixels) {
-    const __m256i v = (__m256i)pixels;
-    Store(to, _mm_packus_epi32(_mm256_castsi256_si128(v), _mm256_extracti128_si256(v, 1)));
+template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to, Pixels pixels) {
+    if constexpr (parts == 2) {
+        Store(to, pixels);
+    } else {
+        Store(to, _mm256_castsi256_si128((__m256i)pixels));
+    }
+}
+// From lanes to pixels and back: masks; colours, which are below 2^16.
+[[gnu::always_inline]] inline Pixels Narrow(Ints low, Ints high) {
+    return (Pixels)_mm256_permute4x64_epi64(_mm256_packs_epi32((__m256i)low, (__m256i)high), 0xD8);
+}
+[[gnu::always_inline]] inline Pixels Narrow(Words low, Words high) {
+    return (Pixels)_mm256_permute4x64_epi64(_mm256_packus_epi32((__m256i)low, (__m256i)high), 0xD8);
+}
+[[gnu::always_inline]] inline Words WidenLow(Pixels pixels) {
+    return (Words)_mm256_cvtepu16_epi32(_mm256_castsi256_si128((__m256i)pixels));
+}
+[[gnu::always_inline]] inline Words WidenHigh(Pixels pixels) {
+    return (Words)_mm256_cvtepu16_epi32(_mm256_extracti128_si256((__m256i)pixels, 1));
+}
+// The lower halves of both.
+[[gnu::always_inline]] inline Pixels Join(Pixels low, Pixels high) {
+    return (Pixels)_mm256_permute2x128_si256((__m256i)low, (__m256i)high, 0x20);
 }
 
-using IndexPairs [[gnu::vector_size(32)]] = std::uint64_t;
-
-// One texel a lane, and not a byte besides. Indices of 0 or more, taken out two at a time.
-[[gnu::always_inline]] inline Words FetchTexels(const Pixel16* texels, Ints index) {
+// A texel for each index.
+[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
     const auto two = (IndexPairs)index;
-    __m128i v = _mm_cvtsi32_si128(texels[two[0] & 0xFFFFFFFF]);
-    v = _mm_insert_epi16(v, texels[two[0] >> 32], 1);
-    v = _mm_insert_epi16(v, texels[two[1] & 0xFFFFFFFF], 2);
-    v = _mm_insert_epi16(v, texels[two[1] >> 32], 3);
-    v = _mm_insert_epi16(v, texels[two[2] & 0xFFFFFFFF], 4);
-    v = _mm_insert_epi16(v, texels[two[2] >> 32], 5);
-    v = _mm_insert_epi16(v, texels[two[3] & 0xFFFFFFFF], 6);
-    v = _mm_insert_epi16(v, texels[two[3] >> 32], 7);
-    return (Words)_mm256_cvtepu16_epi32(v);
+    __m128i v = AddTexels<0>(_mm_setzero_si128(), texels, two[0]);
+    v = AddTexels<2>(v, texels, two[1]);
+    v = AddTexels<4>(v, texels, two[2]);
+    return (Pixels)_mm256_castsi128_si256(AddTexels<6>(v, texels, two[3]));
 }
-
 // Two neighbours a lane, the left one in the low half.
 [[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
     return (Words)_mm256_i32gather_epi32(reinterpret_cast<const int*>(texels), (__m256i)index, 2);
 }
 // Products of halves: the high half of each, without sign; or 1/2^15 of each to nearest, with sign.
-[[gnu::always_inline]] inline Words HighHalves(Words a, Words b) {
-    return (Words)_mm256_mulhi_epu16((__m256i)a, (__m256i)b);
+[[gnu::always_inline]] inline Pixels HighHalves(Pixels a, Pixels b) {
+    return (Pixels)_mm256_mulhi_epu16((__m256i)a, (__m256i)b);
 }
-[[gnu::always_inline]] inline Words RoundedProducts(Words a, Words b) {
-    return (Words)_mm256_mulhrs_epi16((__m256i)a, (__m256i)b);
+[[gnu::always_inline]] inline Pixels RoundedProducts(Pixels a, Pixels b) {
+    return (Pixels)_mm256_mulhrs_epi16((__m256i)a, (__m256i)b);
 }
 // Low half times low half plus high half times high half, with sign.
 [[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {
     return (Words)_mm256_madd_epi16((__m256i)a, (__m256i)b);
+}
+
+// Slot k in all lanes.
+template <int k> [[gnu::always_inline]] inline Ints Spread(Quad slots) {
+    return (Ints)_mm256_shuffle_epi32(_mm256_broadcastsi128_si256((__m128i)slots), k * 0x55);
+}
+template <int k> [[gnu::always_inline]] inline Ints Spread(Octet slots) {
+    const __m256i both = _mm256_permute4x64_epi64((__m256i)slots, k < 4 ? 0x44 : 0xEE);
+    return (Ints)_mm256_shuffle_epi32(both, k % 4 * 0x55);
 }
 
 [[gnu::always_inline]] inline Quad ScaleChop(Quad a, double factor) {

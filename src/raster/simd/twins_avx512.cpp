@@ -19,42 +19,77 @@ namespace {
 [[gnu::always_inline]] inline Words Max(Words a, Words b) {
     return (Words)_mm512_max_epu32((__m512i)a, (__m512i)b);
 }
-[[gnu::always_inline]] inline bool Any(Ints mask) {
-    return _mm512_test_epi32_mask((__m512i)mask, (__m512i)mask) != 0;
+[[gnu::always_inline]] inline bool All(Ints mask) {
+    return _mm512_movepi32_mask((__m512i)mask) == 0xFFFF;
+}
+[[gnu::always_inline]] inline Pixels Select(Pixels mask, Pixels yes, Pixels no) {
+    return (Pixels)_mm512_ternarylogic_epi32((__m512i)mask, (__m512i)yes, (__m512i)no, 0xCA);
 }
 
-// Pixels of the frame, widened to lanes and back.
-[[gnu::always_inline]] inline Words LoadPixels(const Pixel16* from) {
-    return (Words)_mm512_cvtepu16_epi32(Load<__m256i>(from));
+// Pixels of the frame, of one part of a block or of two.
+template <int parts> [[gnu::always_inline]] inline Pixels LoadPixels(const Pixel16* from) {
+    return parts == 2 ? Load<Pixels>(from) : (Pixels)_mm512_castsi256_si512(Load<__m256i>(from));
 }
-[[gnu::always_inline]] inline void StorePixels(Pixel16* to, Words pixels) {
-    Store(to, _mm512_cvtepi32_epi16((__m512i)pixels));
+template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to, Pixels pixels) {
+    if constexpr (parts == 2) {
+        Store(to, pixels);
+    } else {
+        Store(to, _mm512_castsi512_si256((__m512i)pixels));
+    }
+}
+// From lanes to pixels and back: masks; colours, which are below 2^16.
+[[gnu::always_inline]] inline Pixels Narrow(Words low, Words high) {
+    return (Pixels)_mm512_inserti64x4(_mm512_castsi256_si512(_mm512_cvtepi32_epi16((__m512i)low)),
+                                      _mm512_cvtepi32_epi16((__m512i)high), 1);
+}
+[[gnu::always_inline]] inline Pixels Narrow(Ints low, Ints high) {
+    return Narrow((Words)low, (Words)high);
+}
+[[gnu::always_inline]] inline Words WidenLow(Pixels pixels) {
+    return (Words)_mm512_cvtepu16_epi32(_mm512_castsi512_si256((__m512i)pixels));
+}
+[[gnu::always_inline]] inline Words WidenHigh(Pixels pixels) {
+    return (Words)_mm512_cvtepu16_epi32(_mm512_extracti64x4_epi64((__m512i)pixels, 1));
+}
+// The lower halves of both.
+[[gnu::always_inline]] inline Pixels Join(Pixels low, Pixels high) {
+    return (Pixels)_mm512_inserti64x4((__m512i)low, _mm512_castsi512_si256((__m512i)high), 1);
 }
 
 // Two neighbours a lane, the left one in the low half.
 [[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
     return (Words)_mm512_i32gather_epi32((__m512i)index, texels, 2);
 }
-// One texel a lane, and not a byte besides.
-[[gnu::always_inline]] inline Words FetchTexels(const Pixel16* texels, Ints index) {
-    alignas(64) std::int32_t i[kLanes];
-    Store(i, index);
-    Words v;
-    for (int k = 0; k < kLanes; ++k) {
-        v[k] = texels[i[k]];
-    }
-    return v;
+// A texel for each index.
+[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
+    const auto two = (IndexPairs)index;
+    __m128i v[2];
+    ForEachPart<2>([&](int i) __attribute__((always_inline)) {
+        v[i] = AddTexels<0>(_mm_setzero_si128(), texels, two[4 * i]);
+        v[i] = AddTexels<2>(v[i], texels, two[4 * i + 1]);
+        v[i] = AddTexels<4>(v[i], texels, two[4 * i + 2]);
+        v[i] = AddTexels<6>(v[i], texels, two[4 * i + 3]);
+    });
+    return (Pixels)_mm512_castsi256_si512(_mm256_set_m128i(v[1], v[0]));
 }
 // Products of halves: the high half of each, without sign; or 1/2^15 of each to nearest, with sign.
-[[gnu::always_inline]] inline Words HighHalves(Words a, Words b) {
-    return (Words)_mm512_mulhi_epu16((__m512i)a, (__m512i)b);
+[[gnu::always_inline]] inline Pixels HighHalves(Pixels a, Pixels b) {
+    return (Pixels)_mm512_mulhi_epu16((__m512i)a, (__m512i)b);
 }
-[[gnu::always_inline]] inline Words RoundedProducts(Words a, Words b) {
-    return (Words)_mm512_mulhrs_epi16((__m512i)a, (__m512i)b);
+[[gnu::always_inline]] inline Pixels RoundedProducts(Pixels a, Pixels b) {
+    return (Pixels)_mm512_mulhrs_epi16((__m512i)a, (__m512i)b);
 }
 // Low half times low half plus high half times high half, with sign.
 [[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {
     return (Words)_mm512_madd_epi16((__m512i)a, (__m512i)b);
+}
+
+// Slot k in all lanes.
+template <int k> [[gnu::always_inline]] inline Ints Spread(Quad slots) {
+    return (Ints)_mm512_broadcastd_epi32(_mm_shuffle_epi32((__m128i)slots, k * 0x55));
+}
+template <int k> [[gnu::always_inline]] inline Ints Spread(Octet slots) {
+    return Spread<k % 4>((Quad)_mm256_extracti128_si256((__m256i)slots, k / 4));
 }
 
 [[gnu::always_inline]] inline Quad ScaleChop(Quad a, double factor) {

@@ -18,22 +18,49 @@ namespace {
 [[gnu::always_inline]] inline Words Max(Words a, Words b) {
     return (Words)_mm_max_epu32((__m128i)a, (__m128i)b);
 }
-[[gnu::always_inline]] inline bool Any(Ints mask) {
-    return _mm_testz_si128((__m128i)mask, (__m128i)mask) == 0;
+[[gnu::always_inline]] inline bool All(Ints mask) {
+    return _mm_testc_si128((__m128i)mask, _mm_set1_epi32(-1)) != 0;
+}
+[[gnu::always_inline]] inline Pixels Select(Pixels mask, Pixels yes, Pixels no) {
+    return (Pixels)_mm_blendv_epi8((__m128i)no, (__m128i)yes, (__m128i)mask);
 }
 
-// Pixels of the frame, widened to lanes and back; back only below 2^16.
-[[gnu::always_inline]] inline Words LoadPixels(const Pixel16* from) {
-    return (Words)_mm_cvtepu16_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(from)));
+// Pixels of the frame, of one part of a block or of two.
+template <int parts> [[gnu::always_inline]] inline Pixels LoadPixels(const Pixel16* from) {
+    const auto* v = reinterpret_cast<const __m128i*>(from);
+    return (Pixels)(parts == 2 ? _mm_loadu_si128(v) : _mm_loadl_epi64(v));
 }
-[[gnu::always_inline]] inline void StorePixels(Pixel16* to, Words pixels) {
-    _mm_storel_epi64(reinterpret_cast<__m128i*>(to),
-                     _mm_packus_epi32((__m128i)pixels, (__m128i)pixels));
+template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to, Pixels pixels) {
+    auto* const v = reinterpret_cast<__m128i*>(to);
+    if constexpr (parts == 2) {
+        _mm_storeu_si128(v, (__m128i)pixels);
+    } else {
+        _mm_storel_epi64(v, (__m128i)pixels);
+    }
+}
+// From lanes to pixels and back: masks; colours, which are below 2^16.
+[[gnu::always_inline]] inline Pixels Narrow(Ints low, Ints high) {
+    return (Pixels)_mm_packs_epi32((__m128i)low, (__m128i)high);
+}
+[[gnu::always_inline]] inline Pixels Narrow(Words low, Words high) {
+    return (Pixels)_mm_packus_epi32((__m128i)low, (__m128i)high);
+}
+[[gnu::always_inline]] inline Words WidenLow(Pixels pixels) {
+    return (Words)_mm_cvtepu16_epi32((__m128i)pixels);
+}
+[[gnu::always_inline]] inline Words WidenHigh(Pixels pixels) {
+    return (Words)_mm_unpackhi_epi16((__m128i)pixels, _mm_setzero_si128());
+}
+// The lower halves of both.
+[[gnu::always_inline]] inline Pixels Join(Pixels low, Pixels high) {
+    return (Pixels)_mm_unpacklo_epi64((__m128i)low, (__m128i)high);
 }
 
-// One texel a lane, and not a byte besides.
-[[gnu::always_inline]] inline Words FetchTexels(const Pixel16* texels, Ints index) {
-    return Words{texels[index[0]], texels[index[1]], texels[index[2]], texels[index[3]]};
+// A texel for each index.
+[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
+    const auto two = (IndexPairs)index;
+    const __m128i v = AddTexels<0>(_mm_setzero_si128(), texels, two[0]);
+    return (Pixels)AddTexels<2>(v, texels, two[1]);
 }
 // Two neighbours a lane, the left one in the low half.
 [[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
@@ -41,15 +68,25 @@ namespace {
                  Load<std::uint32_t>(texels + index[2]), Load<std::uint32_t>(texels + index[3])};
 }
 // Products of halves: the high half of each, without sign; or 1/2^15 of each to nearest, with sign.
-[[gnu::always_inline]] inline Words HighHalves(Words a, Words b) {
-    return (Words)_mm_mulhi_epu16((__m128i)a, (__m128i)b);
+[[gnu::always_inline]] inline Pixels HighHalves(Pixels a, Pixels b) {
+    return (Pixels)_mm_mulhi_epu16((__m128i)a, (__m128i)b);
 }
-[[gnu::always_inline]] inline Words RoundedProducts(Words a, Words b) {
-    return (Words)_mm_mulhrs_epi16((__m128i)a, (__m128i)b);
+[[gnu::always_inline]] inline Pixels RoundedProducts(Pixels a, Pixels b) {
+    return (Pixels)_mm_mulhrs_epi16((__m128i)a, (__m128i)b);
 }
 // Low half times low half plus high half times high half, with sign.
 [[gnu::always_inline]] inline Words SumOfProducts(Words a, Words b) {
     return (Words)_mm_madd_epi16((__m128i)a, (__m128i)b);
+}
+
+// Slot k in all lanes.
+template <int k> [[gnu::always_inline]] inline Ints Spread(Quad slots) {
+    return (Ints)_mm_shuffle_epi32((__m128i)slots, k * 0x55);
+}
+template <int k> [[gnu::always_inline]] inline Ints Spread(Octet slots) {
+    Quad half[2];
+    std::memcpy(half, &slots, sizeof slots);
+    return Spread<k % 4>(half[k / 4]);
 }
 
 struct Halved {
