@@ -84,11 +84,9 @@ def counts_of(note, data):
                                 check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         for text in result.stdout.splitlines():
             for entry in json.loads(text)["files"]:
-                path = pathlib.Path(entry["file"])
-                path = path if path.is_absolute() and path.exists() else \
-                    ROOT / entry["file"].lstrip("/")
-                if path.is_relative_to(ROOT / "src"):
-                    name = str(path.relative_to(ROOT / "src"))
+                # What stands in front of src/ differs between compilations.
+                _, ours, name = entry["file"].rpartition("src/")
+                if ours and (ROOT / "src" / name).is_file():
                     counts += [(name, line.get("function_name"), line["line_number"], line["count"])
                                for line in entry["lines"]]
     if any(count < 0 or count > 1 << 50 for *_, count in counts):
