@@ -14,7 +14,8 @@ namespace ombrel {
 constinit FailingCalls failing{};
 
 void StartFailing() {
-    failing.blockCalls = failing.smallCalls = failing.openCalls = failing.readCalls = 0;
+    failing.blockCalls = failing.smallCalls = failing.openCalls = failing.readCalls =
+        failing.seekCalls = 0;
     failing.failed = 0;
     failing.active = true;
 }
@@ -67,6 +68,8 @@ void* __real_realloc(void* memory, std::size_t size);
 std::FILE* __real_fopen(const char* path, const char* mode);
 std::size_t __real_fread(void* to, std::size_t size, std::size_t count, std::FILE* file);
 char* __real_fgets(char* to, int size, std::FILE* file);
+int __real_fseek(std::FILE* file, long offset, int whence);
+long __real_ftell(std::FILE* file);
 
 void* __wrap_malloc(std::size_t size) {
     using ombrel::failing;
@@ -109,6 +112,15 @@ std::size_t __wrap_fread(void* to, std::size_t size, std::size_t count, std::FIL
 }
 char* __wrap_fgets(char* to, int size, std::FILE* file) {
     return ombrel::ReadFails(file) ? nullptr : __real_fgets(to, size, file);
+}
+int __wrap_fseek(std::FILE* file, long offset, int whence) {
+    using ombrel::failing;
+    return ombrel::Fails(failing.seeks, &failing.seekCalls) ? -1
+                                                            : __real_fseek(file, offset, whence);
+}
+long __wrap_ftell(std::FILE* file) {
+    using ombrel::failing;
+    return ombrel::Fails(failing.seeks, &failing.seekCalls) ? -1 : __real_ftell(file);
 }
 
 } // extern "C"

@@ -1,5 +1,6 @@
 // Calls of the C library that fail when a test says so. The program is linked so that every malloc,
-// calloc, realloc, fopen, fread and fgets of ours comes here first, and so does every operator new.
+// calloc, realloc, fopen, fread, fgets, fseek and ftell of ours comes here first, and so does every
+// operator new.
 #pragma once
 
 #include <cstdint>
@@ -21,10 +22,11 @@ struct FailingCalls {
     FailureRule small;                // operator new; its next try is a call of its own
     FailureRule opens;                // fopen
     FailureRule reads;                // fread and fgets
+    FailureRule seeks;                // fseek and ftell
     const char* broken = nullptr;     // the file whose name ends in this, and which of its reads
     FailureRule brokenReads;          //   fail; they count from 0 with every open
     const char* unreadable = nullptr; // names that end in this cannot be opened
-    std::int64_t blockCalls = 0, smallCalls = 0, openCalls = 0, readCalls = 0;
+    std::int64_t blockCalls = 0, smallCalls = 0, openCalls = 0, readCalls = 0, seekCalls = 0;
     std::int64_t failed = 0; // calls of any kind
     bool active = false;
     void (*onOpen)(std::int64_t call) = nullptr; // before every open

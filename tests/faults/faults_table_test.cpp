@@ -260,6 +260,22 @@ std::vector<Fault> Faults() {
              failing.reads = {0, kNever, 1};
          },
          nullptr, [](const Outcome& o) { EXPECT_EQ(o.drawn, kAll); }},
+        // Objects and images need to know their size; tracks and the list do not.
+        {"every third look at a file's size fails", kPlain,
+         [] {
+             failing.seeks = {1, kNever, 3};
+         },
+         nullptr, [](const Outcome& o) { EXPECT_EQ(o.drawn, kAll); }},
+        {"no file can be sought in", kPlain,
+         [] {
+             failing.seeks = {0, kNever, 1};
+         },
+         nullptr,
+         [](const Outcome& o) {
+             EXPECT_EQ(o.drawn, kAll);
+             EXPECT_EQ(o.lit, 0);
+             EXPECT_EQ(frame.sceneIndex, 1);
+         }},
     };
 }
 
