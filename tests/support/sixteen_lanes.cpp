@@ -110,6 +110,9 @@ inline Words SumOfProducts(Words a, Words b) {
     return v;
 }
 
+inline Octet MakeOctet(Quad low, Quad high) {
+    return Octet{low[0], low[1], low[2], low[3], high[0], high[1], high[2], high[3]};
+}
 template <int k, class Slots> inline Ints Spread(Slots slots) {
     return Ints{} + slots[k];
 }

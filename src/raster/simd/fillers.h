@@ -127,8 +127,7 @@ template <FillerRules R>
         ProjectEnds(&left, &right);
     }
     // Divide for the steps. (A closed span of width 0 is one pixel and takes none.)
-    const SlotsOf<R> step =
-        ScaleChop(right - left, width < kShortSpan ? kReciprocals.of[width] : ReciprocalOf(width));
+    const SlotsOf<R> step = ScaleChop(right - left, ReciprocalOfLength(width));
     SlotsOf<R> start = left + SpanStart<R>();
     // Cut the span to the clip rectangle.
     xr += closed;
@@ -222,26 +221,15 @@ template <FillerRules R>
     return (Quad)_mm_cvttps_epi32(v);
 }
 
-// Whether all indices of affine texels lie within the texture's memory. u, v: the least and the
-// greatest at the corners; between them they stay.
-template <FillerRules R>
-[[gnu::always_inline]] inline bool TexelsStayInside(const Brush& brush, Quad least, Quad most) {
-    if (brush.lastTexel < 0) {
-        return false;
-    }
-    if constexpr (Needs<R>::perspective) {
-        return true; // their indices are bounded
-    }
+// The greatest u and v that a corner may have, so that all indices of affine texels lie within the
+// texture's memory. Those in perspective are bounded.
+template <FillerRules R> [[gnu::always_inline]] inline Quad LastTexel(const Brush& brush) {
+    std::int32_t lastRow = (brush.lastTexel - brush.lastColumn) >> brush.shift;
     // Bilinear sampling looks one row further down, as far as there are columns, and at pairs.
-    std::int32_t row = most[1];
     if constexpr (R.texel == TexelRule::Bilinear) {
-        row += row < brush.lastColumn ? 1 : 0;
-        if (brush.lastColumn < 1) {
-            return false;
-        }
+        lastRow = brush.lastColumn < 1 ? -1 : lastRow - (lastRow < brush.lastColumn ? 1 : 0);
     }
-    return (least[0] | least[1]) >= 0 && most[0] <= brush.lastColumn &&
-           row <= (brush.lastTexel - brush.lastColumn) >> brush.shift;
+    return Quad{brush.lastColumn, lastRow, 0, 0};
 }
 
 template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarget& target) {
@@ -252,75 +240,77 @@ template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarge
     // Round x, y and z; u and v after their own rule.
     const __m128 half = _mm_set1_ps(0.5F);
     Quad xyz[3], uv[3];
-    for (int i = 0; i < 3; ++i) {
+    ForEachCorner([&](int i) __attribute__((always_inline)) {
         xyz[i] = ToIntChop(_mm_add_ps(_mm_loadu_ps(&vertices[i].x), half));
         if constexpr (Needs<R>::texels) {
             const __m128 exact =
                 _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(&vertices[i].u)));
             uv[i] = ToIntChop(Needs<R>::perspective ? _mm_add_ps(exact, half) : exact);
         }
-    }
+    });
     // Leave out what is far out or may read beside the texture.
     const Quad least = Min(Min(xyz[0], xyz[1]), xyz[2]), most = Max(Max(xyz[0], xyz[1]), xyz[2]);
     const Quad reach = (least + 16384) | (most + 16384);
-    bool ordinary = static_cast<std::uint32_t>(reach[0] | reach[1]) < 32768;
+    Quad strange = reach | (reach > 32767);
     const Brush brush = MakeBrush<R>(*polygon, target.level);
+    bool ordinary = true;
     if constexpr (Needs<R>::texels) {
-        ordinary = ordinary && TexelsStayInside<R>(brush, Min(Min(uv[0], uv[1]), uv[2]),
-                                                   Max(Max(uv[0], uv[1]), uv[2]));
+        ordinary = brush.lastTexel >= 0;
+        if constexpr (!Needs<R>::perspective) {
+            strange |= Min(Min(uv[0], uv[1]), uv[2]) < 0;
+            strange |= Max(Max(uv[0], uv[1]), uv[2]) > LastTexel<R>(brush);
+        }
     }
-    if (!ordinary) [[unlikely]] {
+    constexpr std::uint32_t kSignsOfTwo = 3;
+    if (!ordinary || (SignsOf(strange) & kSignsOfTwo) != 0) [[unlikely]] {
         return kScalarFillers[static_cast<int>(id)](polygon, target);
     }
-    for (int i = 0; i < 3; ++i) {
+    ForEachCorner([&](int i) __attribute__((always_inline)) {
         _mm_storel_pi(reinterpret_cast<__m64*>(&vertices[i].x), _mm_cvtepi32_ps((__m128i)xyz[i]));
-    }
+    });
     // Return when the triangle is outside, or all in one column or row.
-    if (most[1] < clipRect.top || least[1] > clipRect.bottom || most[0] < clipRect.left ||
-        least[0] > clipRect.right || least[0] == most[0] || least[1] == most[1]) {
+    const Quad leftTop = Load<Quad>(&clipRect);
+    const Quad rightBottom = Pick<2, 3, 2, 3>(leftTop, leftTop);
+    const Quad outside = (most < leftTop) | (least > rightBottom) | (least == most);
+    if ((SignsOf(outside) & kSignsOfTwo) != 0) {
         return;
     }
     // Fill the slots of the corners.
     Corners<Slots> corners;
-    Quad depths = {xyz[0][2], xyz[1][2], xyz[2][2], 1};
-    Quad heads[3];
+    const Quad xy = (Quad)_mm_unpacklo_epi32((__m128i)xyz[0], (__m128i)xyz[1]);
+    const Quad z = (Quad)_mm_unpackhi_epi32((__m128i)xyz[0], (__m128i)xyz[1]);
+    corners.y = Pick<2, 3, 1, 1>(xy, xyz[2]);
+    Quad depths = {};
     if constexpr (R.depth == DepthRule::W) {
-        const Quad w = DivChop(Quad{} + 0x10000000, depths);
-        for (int i = 0; i < 3; ++i) {
-            heads[i] = Quad{xyz[i][0] << 16, w[i], 0, 0};
-        }
-    } else {
-        for (int i = 0; i < 3; ++i) {
-            heads[i] = Quad{xyz[i][0] << 16, xyz[i][2] << 16, 0, 0};
-        }
+        depths = DivChop(Quad{} + 0x10000000, Pick<0, 1, 2, 2>(z, xyz[2]));
     }
-    for (int i = 0; i < 3; ++i) {
-        corners.y[i] = xyz[i][1];
-        if constexpr (Needs<R>::texels) {
-            Quad texel = uv[i] << 16;
-            if constexpr (Needs<R>::perspective) {
-                texel = DivChop(uv[i] << 22, Quad{} + xyz[i][2]);
-            }
-            heads[i] = (Quad)_mm_unpacklo_epi64((__m128i)heads[i], (__m128i)texel);
+    ForEachCorner([&](auto i) __attribute__((always_inline)) {
+        // x and depth, from lanes 0 and 2.
+        Quad place = xyz[i] << 16, texel = {};
+        if constexpr (R.depth == DepthRule::W) {
+            place = (Quad)_mm_blend_epi16((__m128i)place, (__m128i)Everywhere<i>(depths), 0x30);
         }
+        if constexpr (Needs<R>::perspective) {
+            texel = DivChop(uv[i] << 22, Everywhere<2>(xyz[i]));
+        } else if constexpr (Needs<R>::texels) {
+            texel = uv[i] << 16;
+        }
+        const Quad head = Pick<0, 2, 0, 1>(place, texel);
         if constexpr (Needs<R>::gouraud) {
             const Quad masks = {0xF800, 0x07E0, 0x001F, 0}, places = {1 << 8, 1 << 13, 1 << 19, 0};
             const auto color = static_cast<std::int32_t>(polygon->litColors[i]);
-            std::memcpy(&corners.slots[i], &heads[i], 16);
-            const Quad tail = ((Quad{} + color) & masks) * places;
-            std::memcpy(reinterpret_cast<char*>(&corners.slots[i]) + 16, &tail, 16);
+            corners.slots[i] = MakeOctet(head, ((Quad{} + color) & masks) * places);
         } else {
-            corners.slots[i] = heads[i];
+            corners.slots[i] = head;
         }
-    }
+    });
     // Walk.
     constexpr std::int32_t closed = R.edges == EdgeRule::Closed ? 1 : 0;
-    const ColumnRange columns = {clipRect.left, clipRect.right,
-                                 closed != 0 || least[0] < clipRect.left ||
-                                     most[0] > clipRect.right};
+    const Quad beyond = (least < leftTop) | (most > rightBottom);
+    const ColumnRange columns = {leftTop[0], leftTop[2], closed != 0 || beyond[0] != 0};
     const std::int32_t lastRow = most[1] + closed;
-    const RowRange rows = {least[1] > clipRect.top ? least[1] : clipRect.top,
-                           lastRow < clipRect.bottom ? lastRow : clipRect.bottom};
+    const RowRange rows = {least[1] > leftTop[1] ? least[1] : leftTop[1],
+                           lastRow < leftTop[3] ? lastRow : leftTop[3]};
     const std::ptrdiff_t frameStep = target.framePitch >> 1, depthStep = target.depthPitch >> 2;
     Row row = {target.frame + rows.first * frameStep, nullptr};
     if constexpr (Needs<R>::depth) {

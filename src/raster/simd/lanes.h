@@ -57,6 +57,15 @@ template <int parts, class Action> [[gnu::always_inline]] inline void ForEachPar
         action(1);
     }
 }
+// Calls action(i) for the corners of a triangle, unrolled; i is a constant.
+template <int k> struct Constant {
+    constexpr operator int() const { return k; }
+};
+template <class Action> [[gnu::always_inline]] inline void ForEachCorner(Action action) {
+    action(Constant<0>{});
+    action(Constant<1>{});
+    action(Constant<2>{});
+}
 [[gnu::always_inline]] inline Ints LaneNumbers() {
     Ints v;
     for (int i = 0; i < kLanes; ++i) {
@@ -79,6 +88,18 @@ template <int place>
 }
 [[gnu::always_inline]] inline Quad Max(Quad a, Quad b) {
     return (Quad)_mm_max_epi32((__m128i)a, (__m128i)b);
+}
+
+// One slot everywhere; two slots of a, then two of b.
+template <int k> [[gnu::always_inline]] inline Quad Everywhere(Quad a) {
+    return (Quad)_mm_shuffle_epi32((__m128i)a, k * 0x55);
+}
+template <int k0, int k1, int k2, int k3> [[gnu::always_inline]] inline Quad Pick(Quad a, Quad b) {
+    return (Quad)_mm_shuffle_ps((__m128)a, (__m128)b, k0 | k1 << 2 | k2 << 4 | k3 << 6);
+}
+// The signs, a bit each.
+[[gnu::always_inline]] inline std::uint32_t SignsOf(Quad a) {
+    return static_cast<std::uint32_t>(_mm_movemask_ps((__m128)a));
 }
 
 } // namespace

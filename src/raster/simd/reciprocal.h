@@ -16,7 +16,7 @@ constexpr double kTraceAboveOne = 0x1.0000000001p0;
 [[gnu::always_inline]] inline double ReciprocalOf(std::int32_t n) {
     return kTraceAboveOne / static_cast<double>(n);
 }
-// The same for the widths of most spans, without the wait for a division.
+// The same for the lengths of most spans and edges, without the wait for a division.
 constexpr std::int32_t kShortSpan = 128;
 struct ReciprocalTable {
     double of[kShortSpan];
@@ -28,6 +28,11 @@ constexpr ReciprocalTable kReciprocals = [] {
     }
     return table;
 }();
+
+// Of n from 0 on; that of 0 is 0.
+[[gnu::always_inline]] inline double ReciprocalOfLength(std::int32_t n) {
+    return n < kShortSpan ? kReciprocals.of[n] : ReciprocalOf(n);
+}
 
 } // namespace
 } // namespace ombrel

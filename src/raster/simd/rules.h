@@ -39,22 +39,19 @@ struct Attributes {
 
 // Calls action(vectors..., slot) for each attribute that R needs, with its vector in each of the
 // records.
-template <int k> struct SlotNumber {
-    constexpr operator int() const { return k; }
-};
 template <FillerRules R, class Action, class... Records>
 [[gnu::always_inline]] inline void ForEachAttribute(Action action, Records*... records) {
     if constexpr (Needs<R>::depth) {
-        action(SlotNumber<kDepth>{}, &records->depth...);
+        action(Constant<kDepth>{}, &records->depth...);
     }
     if constexpr (Needs<R>::texels) {
-        action(SlotNumber<kU>{}, &records->u...);
-        action(SlotNumber<kV>{}, &records->v...);
+        action(Constant<kU>{}, &records->u...);
+        action(Constant<kV>{}, &records->v...);
     }
     if constexpr (Needs<R>::gouraud) {
-        action(SlotNumber<kRed>{}, &records->red...);
-        action(SlotNumber<kGreen>{}, &records->green...);
-        action(SlotNumber<kBlue>{}, &records->blue...);
+        action(Constant<kRed>{}, &records->red...);
+        action(Constant<kGreen>{}, &records->green...);
+        action(Constant<kBlue>{}, &records->blue...);
     }
 }
 

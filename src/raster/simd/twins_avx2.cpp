@@ -78,6 +78,10 @@ template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to,
     return (Words)_mm256_madd_epi16((__m256i)a, (__m256i)b);
 }
 
+// The slots of one point from both halves.
+[[gnu::always_inline]] inline Octet MakeOctet(Quad low, Quad high) {
+    return (Octet)_mm256_set_m128i((__m128i)high, (__m128i)low);
+}
 // Slot k in all lanes.
 template <int k> [[gnu::always_inline]] inline Ints Spread(Quad slots) {
     return (Ints)_mm256_shuffle_epi32(_mm256_broadcastsi128_si256((__m128i)slots), k * 0x55);

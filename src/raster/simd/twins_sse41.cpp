@@ -79,6 +79,11 @@ template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to,
     return (Words)_mm_madd_epi16((__m128i)a, (__m128i)b);
 }
 
+// The slots of one point from both halves.
+[[gnu::always_inline]] inline Octet MakeOctet(Quad low, Quad high) {
+    const Quad half[2] = {low, high};
+    return Load<Octet>(half);
+}
 // Slot k in all lanes.
 template <int k> [[gnu::always_inline]] inline Ints Spread(Quad slots) {
     return (Ints)_mm_shuffle_epi32((__m128i)slots, k * 0x55);

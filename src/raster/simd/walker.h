@@ -8,7 +8,7 @@ namespace ombrel {
 namespace {
 
 template <class Slots> struct Corners {
-    std::int32_t y[3];
+    Quad y; // three
     Slots slots[3];
 };
 
@@ -26,24 +26,24 @@ template <class Slots, class DrawSpan>
 [[gnu::always_inline]] inline void WalkTriangle(const Corners<Slots>& corners, RowRange rows,
                                                 DrawSpan drawSpan) {
     // Order the corners top to bottom.
-    const std::int32_t* y = corners.y;
-    const std::uint8_t* order = kOrder[(y[1] < y[0]) | (y[2] < y[1]) << 1 | (y[2] < y[0]) << 2];
+    const Quad one = Pick<1, 2, 2, 0>(corners.y, corners.y);
+    const Quad other = Pick<0, 1, 0, 0>(corners.y, corners.y);
+    const std::uint8_t* order = kOrder[SignsOf(one < other)];
+    std::int32_t y[4];
+    Store(y, corners.y);
     const Slots top = corners.slots[order[0]];
     const Slots middle = corners.slots[order[1]];
     const Slots bottom = corners.slots[order[2]];
     const std::int32_t topY = y[order[0]], middleY = y[order[1]], bottomY = y[order[2]];
-    const bool flatTop = topY == middleY;       // d
-    const bool flatBottom = middleY == bottomY; // e
+    const bool flatTop = topY == middleY; // d
 
     // Divide for the steps of all three edges; those of an edge without rows are never used.
-    const Slots longStep = ScaleChop(bottom - top, ReciprocalOf(bottomY - topY));
-    const Slots upperStep = ScaleChop(middle - top, ReciprocalOf(middleY - topY));
-    const Slots lowerStep = ScaleChop(bottom - middle, ReciprocalOf(bottomY - middleY));
+    const Slots longStep = ScaleChop(bottom - top, ReciprocalOfLength(bottomY - topY));
+    const Slots upperStep = ScaleChop(middle - top, ReciprocalOfLength(middleY - topY));
+    const Slots lowerStep = ScaleChop(bottom - middle, ReciprocalOfLength(bottomY - middleY));
 
-    // Choose the sides. (f)
-    const bool longOnLeft = flatTop      ? top[kX] <= middle[kX]
-                            : flatBottom ? bottom[kX] < middle[kX]
-                                         : longStep[kX] < upperStep[kX];
+    // Choose the sides. (f: over equal rows, slopes differ where the lower ends do.)
+    const bool longOnLeft = flatTop ? top[kX] <= middle[kX] : longStep[kX] < upperStep[kX];
     const Slots side = Slots{} - static_cast<std::int32_t>(longOnLeft);
 
     // The upper short edge serves the row of the middle corner too (a); where it has no row, the
