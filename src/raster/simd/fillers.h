@@ -318,6 +318,12 @@ template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarge
     }
     WalkTriangle(
         corners, rows, [&](Slots left, Slots right) __attribute__((always_inline)) {
+            // Ask for the row after the next one: each lies in a part of memory of its own.
+            __builtin_prefetch(row.frame + 2 * frameStep + (left[kX] >> 16));
+            if constexpr (Needs<R>::depth) {
+                __builtin_prefetch(row.depth + 2 * depthStep + (left[kX] >> 16));
+                __builtin_prefetch(row.depth + 2 * depthStep + (right[kX] >> 16));
+            }
             DrawSpan<R>(brush, columns, row, left, right);
             row.frame += frameStep;
             if constexpr (Needs<R>::depth) {
