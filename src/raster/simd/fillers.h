@@ -232,6 +232,8 @@ template <FillerRules R> [[gnu::always_inline]] inline Quad LastTexel(const Brus
     return Quad{brush.lastColumn, lastRow, 0, 0};
 }
 
+constexpr int kRowsAhead = 8;
+
 template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarget& target) {
     constexpr FillerRules R = kFillerTable[static_cast<int>(id)].rules;
     using Slots = SlotsOf<R>;
@@ -275,6 +277,22 @@ template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarge
     if ((SignsOf(outside) & kSignsOfTwo) != 0) {
         return;
     }
+    constexpr std::int32_t closed = R.edges == EdgeRule::Closed ? 1 : 0;
+    const std::int32_t lastRow = most[1] + closed;
+    const RowRange rows = {least[1] > leftTop[1] ? least[1] : leftTop[1],
+                           lastRow < leftTop[3] ? lastRow : leftTop[3]};
+    const std::ptrdiff_t frameStep = target.framePitch >> 1, depthStep = target.depthPitch >> 2;
+    Row row = {target.frame + rows.first * frameStep, nullptr};
+    if constexpr (Needs<R>::depth) {
+        row.depth = target.depth + rows.first * depthStep;
+    }
+    // Ask for the memory of the first rows; it comes while the edges are divided.
+    for (int i = 0; i < kRowsAhead; ++i) {
+        __builtin_prefetch(row.frame + i * frameStep + least[0], 1);
+        if constexpr (Needs<R>::depth) {
+            __builtin_prefetch(row.depth + i * depthStep + least[0], 1);
+        }
+    }
     // Fill the slots of the corners.
     Corners<Slots> corners;
     const Quad xy = (Quad)_mm_unpacklo_epi32((__m128i)xyz[0], (__m128i)xyz[1]);
@@ -305,17 +323,8 @@ template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarge
         }
     });
     // Walk.
-    constexpr std::int32_t closed = R.edges == EdgeRule::Closed ? 1 : 0;
     const Quad beyond = (least < leftTop) | (most > rightBottom);
     const ColumnRange columns = {leftTop[0], leftTop[2], closed != 0 || beyond[0] != 0};
-    const std::int32_t lastRow = most[1] + closed;
-    const RowRange rows = {least[1] > leftTop[1] ? least[1] : leftTop[1],
-                           lastRow < leftTop[3] ? lastRow : leftTop[3]};
-    const std::ptrdiff_t frameStep = target.framePitch >> 1, depthStep = target.depthPitch >> 2;
-    Row row = {target.frame + rows.first * frameStep, nullptr};
-    if constexpr (Needs<R>::depth) {
-        row.depth = target.depth + rows.first * depthStep;
-    }
     WalkTriangle(
         corners, rows, [&](Slots left, Slots right) __attribute__((always_inline)) {
             // Ask for the row after the next one: each lies in a part of memory of its own.
