@@ -261,9 +261,9 @@ std::vector<Fault> Faults() {
          },
          nullptr, [](const Outcome& o) { EXPECT_EQ(o.drawn, kAll); }},
         // Objects and images need to know their size; tracks and the list do not.
-        {"every third look at a file's size fails", kPlain,
+        {"every fourth seek fails", kPlain,
          [] {
-             failing.seeks = {1, kNever, 3};
+             failing.seeks = {3, kNever, 4};
          },
          nullptr, [](const Outcome& o) { EXPECT_EQ(o.drawn, kAll); }},
         {"no file can be sought in", kPlain,
