@@ -67,9 +67,9 @@ inline Words WidenHigh(Pixels pixels) {
 inline Pixels Join(Pixels low, Pixels high) {
     return Narrow(WidenLow(low), WidenLow(high));
 }
-inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
+inline Pixels FetchTexels(const Pixel16* texels, Ints index, std::int32_t count) {
     Pixels v = {};
-    for (int i = 0; i < kLanes; ++i) {
+    for (int i = 0; i < count; ++i) {
         v[i] = texels[index[i]];
     }
     return v;

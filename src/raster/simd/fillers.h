@@ -33,11 +33,11 @@ template <int parts> struct DepthTest {
     Ints keep[parts]; // lanes that stay as they are
 };
 template <FillerRules R, int parts>
-[[gnu::always_inline]] inline DepthTest<parts> TestDepths(Attributes* at, const Attributes& by,
-                                                          const std::uint32_t* cells, Ints dead) {
+[[gnu::always_inline]] inline DepthTest<parts>
+TestDepths(Attributes* at, const Attributes& by, const std::uint32_t* cells, const Live& live) {
     DepthTest<parts> test;
     ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
-        test.keep[i] = dead;
+        test.keep[i] = live.dead;
         if constexpr (Needs<R>::depth) {
             test.depth[i] = Take(&at->depth, by.depth);
             test.cell[i] = Load<Words>(cells + i * kLanes);
@@ -63,10 +63,10 @@ template <int parts> [[gnu::always_inline]] inline bool KeepsAll(const DepthTest
 template <FillerRules R, int parts>
 [[gnu::always_inline]] inline void DrawBlock(const Brush& brush, Attributes* at,
                                              const Attributes& by, Row row,
-                                             const DepthTest<parts>& test, Ints dead) {
+                                             const DepthTest<parts>& test, const Live& live) {
     constexpr bool whole = parts == 2, keyed = R.texel == TexelRule::Keyed;
     constexpr bool always = whole && !Needs<R>::depthTest && !keyed;
-    const Pixels texels = Texels<R, parts>(brush, at, by, test.depth, dead);
+    const Pixels texels = Texels<R, parts>(brush, at, by, test.depth, live);
     Pixels keep = always ? Pixels{} : Narrow(test.keep[0], test.keep[parts - 1]);
     if constexpr (keyed) {
         keep |= (Pixels)(texels == 0);
@@ -87,7 +87,7 @@ template <FillerRules R, int parts>
                 const Words kept = i == 0 ? WidenLow(keep) : WidenHigh(keep);
                 nearest = kept != 0 ? test.cell[i] : nearest;
             } else if constexpr (!whole) {
-                nearest = (Words)Select((Pixels)dead, (Pixels)test.cell[i], (Pixels)nearest);
+                nearest = (Words)Select((Pixels)live.dead, (Pixels)test.cell[i], (Pixels)nearest);
             }
             Store(row.depth + i * kLanes, nearest);
         });
@@ -168,13 +168,14 @@ template <FillerRules R>
             *a = *by * kLanes;
         };
         ForEachAttribute<R>(scale, &by, &steps);
+        const Live all = {kLanes, Ints{}};
         do {
-            const DepthTest<2> test = TestDepths<R, 2>(&at, by, row.depth, Ints{});
+            const DepthTest<2> test = TestDepths<R, 2>(&at, by, row.depth, all);
             if (skips && KeepsAll(test)) {
                 skipped += 2 * kLanes;
             } else {
                 catchUp();
-                DrawBlock<R, 2>(brush, &at, by, row, test, Ints{});
+                DrawBlock<R, 2>(brush, &at, by, row, test, all);
             }
             row.frame += 2 * kLanes;
             row.depth += Needs<R>::depth ? 2 * kLanes : 0;
@@ -192,12 +193,12 @@ template <FillerRules R>
             row = {frameAside, Needs<R>::depth ? depthAside : nullptr};
             CopyPixels(room, row, count);
         }
-        const Ints dead = LaneNumbers() >= count;
+        const Live live = {count < kLanes ? count : kLanes, LaneNumbers() >= count};
         const Attributes none = {};
-        const DepthTest<1> test = TestDepths<R, 1>(&at, none, row.depth, dead);
+        const DepthTest<1> test = TestDepths<R, 1>(&at, none, row.depth, live);
         if (!skips || !KeepsAll(test)) {
             catchUp();
-            DrawBlock<R, 1>(brush, &at, none, row, test, dead);
+            DrawBlock<R, 1>(brush, &at, none, row, test, live);
             if (aside) [[unlikely]] {
                 CopyPixels(row, room, count);
             }

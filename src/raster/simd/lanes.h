@@ -57,6 +57,12 @@ template <int parts, class Action> [[gnu::always_inline]] inline void ForEachPar
         action(1);
     }
 }
+// The lanes of a part that are to be drawn: the first so many.
+struct Live {
+    std::int32_t count; // 1..kLanes
+    Ints dead;          // the others
+};
+
 // Calls action(i) for the corners of a triangle, unrolled; i is a constant.
 template <int k> struct Constant {
     constexpr operator int() const { return k; }

@@ -145,17 +145,17 @@ template <FillerRules R>
     return ((red >> 5) & 0xF800) + ((green >> 11) & 0xFFE0) + (blue >> 16);
 }
 
-// The texels of a block of so many parts. dead: lanes of the last part that must not be looked at.
+// The texels of a block of so many parts; those of dead lanes are not looked at.
 template <FillerRules R, int parts>
 [[gnu::always_inline]] inline Pixels Texels(const Brush& brush, Attributes* at,
                                             const Attributes& by, const Ints (&depth)[parts],
-                                            Ints dead) {
+                                            const Live& live) {
     if constexpr (!Needs<R>::texels) {
         return Pixels{};
     } else if constexpr (R.texel == TexelRule::Bilinear) {
         Words mixed[parts];
         ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
-            const Ints u = Take(&at->u, by.u) & ~dead, v = Take(&at->v, by.v) & ~dead;
+            const Ints u = Take(&at->u, by.u) & ~live.dead, v = Take(&at->v, by.v) & ~live.dead;
             mixed[i] = MixTexels(brush, u, v);
         });
         return Narrow(mixed[0], mixed[parts - 1]);
@@ -163,8 +163,8 @@ template <FillerRules R, int parts>
         Pixels texels[parts];
         ForEachPart<parts>([&](int i) __attribute__((always_inline)) {
             const Ints u = Take(&at->u, by.u), v = Take(&at->v, by.v);
-            const Ints index = TexelIndex<R>(brush, u, v, depth[i]) & ~dead;
-            texels[i] = FetchTexels(brush.texels, index);
+            const Ints index = TexelIndex<R>(brush, u, v, depth[i]) & ~live.dead;
+            texels[i] = FetchTexels(brush.texels, index, live.count);
         });
         return parts == 2 ? Join(texels[0], texels[parts - 1]) : texels[0];
     }

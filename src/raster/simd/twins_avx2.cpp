@@ -54,13 +54,17 @@ template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to,
     return (Pixels)_mm256_permute2x128_si256((__m256i)low, (__m256i)high, 0x20);
 }
 
-// A texel for each index.
-[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
+// A texel for each index, of the first so many at least.
+[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index,
+                                                 std::int32_t count) {
     const auto two = (IndexPairs)index;
     __m128i v = AddTexels<0>(_mm_setzero_si128(), texels, two[0]);
     v = AddTexels<2>(v, texels, two[1]);
-    v = AddTexels<4>(v, texels, two[2]);
-    return (Pixels)_mm256_castsi128_si256(AddTexels<6>(v, texels, two[3]));
+    if (count > 4) {
+        v = AddTexels<4>(v, texels, two[2]);
+        v = AddTexels<6>(v, texels, two[3]);
+    }
+    return (Pixels)_mm256_castsi128_si256(v);
 }
 // Two neighbours a lane, the left one in the low half.
 [[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {

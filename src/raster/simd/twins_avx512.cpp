@@ -60,15 +60,18 @@ template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to,
 [[gnu::always_inline]] inline Words FetchTexelPairs(const Pixel16* texels, Ints index) {
     return (Words)_mm512_i32gather_epi32((__m512i)index, texels, 2);
 }
-// A texel for each index.
-[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
+// A texel for each index, of the first so many at least.
+[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index,
+                                                 std::int32_t count) {
     const auto two = (IndexPairs)index;
-    __m128i v[2];
+    __m128i v[2] = {};
     ForEachPart<2>([&](int i) __attribute__((always_inline)) {
-        v[i] = AddTexels<0>(_mm_setzero_si128(), texels, two[4 * i]);
-        v[i] = AddTexels<2>(v[i], texels, two[4 * i + 1]);
-        v[i] = AddTexels<4>(v[i], texels, two[4 * i + 2]);
-        v[i] = AddTexels<6>(v[i], texels, two[4 * i + 3]);
+        if (count > 8 * i) {
+            v[i] = AddTexels<0>(v[i], texels, two[4 * i]);
+            v[i] = AddTexels<2>(v[i], texels, two[4 * i + 1]);
+            v[i] = AddTexels<4>(v[i], texels, two[4 * i + 2]);
+            v[i] = AddTexels<6>(v[i], texels, two[4 * i + 3]);
+        }
     });
     return (Pixels)_mm512_castsi256_si512(_mm256_set_m128i(v[1], v[0]));
 }

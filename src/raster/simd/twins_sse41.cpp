@@ -57,7 +57,7 @@ template <int parts> [[gnu::always_inline]] inline void StorePixels(Pixel16* to,
 }
 
 // A texel for each index.
-[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index) {
+[[gnu::always_inline]] inline Pixels FetchTexels(const Pixel16* texels, Ints index, std::int32_t) {
     const auto two = (IndexPairs)index;
     const __m128i v = AddTexels<0>(_mm_setzero_si128(), texels, two[0]);
     return (Pixels)AddTexels<2>(v, texels, two[1]);
