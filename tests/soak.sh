@@ -1,5 +1,5 @@
 #!/bin/sh
-# Twenty whole productions in one process, every frame drawn: about half an hour. Nothing may grow.
+# Twenty whole productions in one process, every frame drawn: about twenty minutes. Nothing may grow.
 # tests/soak.sh [COUNT]; needs build/release with the tests.
 set -eu
 cd "$(dirname -- "$0")/.."

@@ -16,6 +16,7 @@
 #include <string>
 
 #include "app/shell.h"
+#include "app/vector_choice.h"
 #include "base/data_file.h"
 #include "base/shell_state.h"
 #include "demo/reset.h"
@@ -119,6 +120,8 @@ int main(int argc, char** argv) {
         setenv("GLIBC_TUNABLES", "glibc.malloc.tcache_count=0", 1);
         execv("/proc/self/exe", argv);
     }
+    // As it is played where nobody says otherwise.
+    setenv(kPathVariable, NameOf(VectorPath::Avx2), 0);
     Options options;
     if (!ReadOptions(argc, argv, &options)) {
         std::fprintf(stderr, "soak [--fast] [--scenes N] [--data DIR] [--size WxH] COUNT\n");
