@@ -233,8 +233,6 @@ template <FillerRules R> [[gnu::always_inline]] inline Quad LastTexel(const Brus
     return Quad{brush.lastColumn, lastRow, 0, 0};
 }
 
-constexpr int kRowsAhead = 8;
-
 template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarget& target) {
     constexpr FillerRules R = kFillerTable[static_cast<int>(id)].rules;
     using Slots = SlotsOf<R>;
@@ -286,13 +284,6 @@ template <FillerId id> void FillTriangle(ScreenPolygon* polygon, const FillTarge
     Row row = {target.frame + rows.first * frameStep, nullptr};
     if constexpr (Needs<R>::depth) {
         row.depth = target.depth + rows.first * depthStep;
-    }
-    // Ask for the memory of the first rows; it comes while the edges are divided.
-    for (int i = 0; i < kRowsAhead; ++i) {
-        __builtin_prefetch(row.frame + i * frameStep + least[0], 1);
-        if constexpr (Needs<R>::depth) {
-            __builtin_prefetch(row.depth + i * depthStep + least[0], 1);
-        }
     }
     // Fill the slots of the corners.
     Corners<Slots> corners;
