@@ -48,7 +48,6 @@ def fuzz(name, build, seconds):
     files = sorted(path for path in seeds.iterdir() if path.is_file())
     common = [program, f"-artifact_prefix={found}/", *LIMITS]
     replay, code, _ = run([*common, *files])
-    output = replay
     lines = []
     good = bad = 0
     if code == 0 and files:
@@ -58,6 +57,7 @@ def fuzz(name, build, seconds):
         lines.append(f"{name}: a seed breaks it, or there is none\n{replay[-4000:]}")
     runs = 0
     cpu = 0.0
+    code = 0
     # The library counts time on the wall; on a busy machine that is not all spent here.
     while code == 0 and cpu < 0.99 * seconds:
         output, code, used = run([*common, "-print_final_stats=1",
