@@ -174,13 +174,13 @@ def main():
             left_out = "--gtest_filter=-Frames.*:Faults.*:DecisionTable.AllCombinations*"
             # The files of the production in every bad way take longest: they go first.
             programs = [("scenario: faults sanitized",
-                         [sanitize / "scenario", "--gtest_filter=Faults.*"], {"env": options})]
+                         [sanitize / "scenario", "--gtest_filter=Faults.*"], {"env": options}),
+                        ("200 frames sanitized",
+                         [sanitize / CAPTURE, "-w", "-ns", "--frames", "0:200", "--hashes",
+                          LOGS / "frames-sanitize.txt"], {"env": options})]
             programs += [(f"{name} sanitized", [program, left_out], {"env": options})
                          for name, program in whole_runs(sanitize) + test_programs(sanitize)]
-            frames = ("200 frames sanitized",
-                      [sanitize / CAPTURE, "-w", "-ns", "--frames", "0:200", "--hashes",
-                       LOGS / "frames-sanitize.txt"], {"env": options})
-            side_by_side(programs[:1] + [frames] + programs[1:])
+            side_by_side(programs)
 
         print("Fuzz targets: their seeds, and 5 seconds each")
         if build("fuzz", ["fuzz_targets"]):
