@@ -6,7 +6,6 @@ import fcntl
 import os
 import pathlib
 import shutil
-import signal
 import subprocess
 import time
 
@@ -90,18 +89,15 @@ class Desk:
         return process
 
     def wine(self, command, folder=None, limit=SLOW):
-        """Runs `wine command` to its end: (exit code, output). Wine's server kills a program that
-        takes more than a moment to leave, as it does on a busy machine: that one runs once more."""
-        for last in (False, True):
-            process = self.start(command, folder)
-            try:
-                output = process.communicate(timeout=limit)[0].decode(errors="replace")
-            except subprocess.TimeoutExpired:
-                process.kill()
-                process.communicate()
-                raise Failure(f"{pathlib.Path(str(command[0])).name} took more than {limit} s")
-            if last or process.returncode != -signal.SIGKILL:
-                return process.returncode, output
+        """Runs `wine command` to its end: (exit code, output)."""
+        process = self.start(command, folder)
+        try:
+            output = process.communicate(timeout=limit)[0].decode(errors="replace")
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.communicate()
+            raise Failure(f"{pathlib.Path(str(command[0])).name} took more than {limit} s")
+        return process.returncode, output
 
     def screenshot(self, name):
         """The whole screen as bytes of red, green, blue; kept as a picture too."""
