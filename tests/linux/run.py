@@ -281,13 +281,7 @@ def no_display_test(folder):
 
 def lost_display_test(folder):
     """Here the server is killed, so no connection to it may be ours."""
-    read, write = os.pipe()
-    server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24",
-                               "-nolisten", "tcp"], pass_fds=[write], stdout=subprocess.DEVNULL,
-                              stderr=subprocess.DEVNULL)
-    os.close(write)
-    with os.fdopen(read) as numbers:
-        name = ":" + numbers.readline().strip()
+    server, name = x11.start_server("1280x1024x24")
     larkfen = Program(folder, types.SimpleNamespace(name=name), "-w", "-ns")
     shown = subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", TITLE],
                            env={**os.environ, "DISPLAY": name}, stdout=subprocess.DEVNULL,

@@ -49,25 +49,30 @@ class TextProperty(ctypes.Structure):
                 ("format", ctypes.c_int), ("items", ctypes.c_ulong)]
 
 
+def start_server(size):
+    """An X server of its own: (process, name of its display)."""
+    if not shutil.which("Xvfb"):
+        raise FatalSetup("Xvfb is not installed")
+    read, write = os.pipe()
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp"],
+        pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    os.close(write)
+    number = b""
+    while not number.endswith(b"\n"):
+        part = os.read(read, 16)
+        if not part:
+            raise FatalSetup("Xvfb did not start")
+        number += part
+    os.close(read)
+    return server, ":" + number.decode().strip()
+
+
 class Screen:
     """One X server of its own with a connection to it."""
 
     def __init__(self, size, folder):
-        if not shutil.which("Xvfb"):
-            raise FatalSetup("Xvfb is not installed")
-        read, write = os.pipe()
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp"],
-            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        os.close(write)
-        number = b""
-        while not number.endswith(b"\n"):
-            part = os.read(read, 16)
-            if not part:
-                raise FatalSetup("Xvfb did not start")
-            number += part
-        os.close(read)
-        self.name = ":" + number.decode().strip()
+        self.server, self.name = start_server(size)
         self.shot_file = os.path.join(folder, "shot.xwd")
         self.folder = folder
         self.x = library("X11")
