@@ -13,7 +13,7 @@ if(NOT OMBREL_SANITIZE)
   message(FATAL_ERROR "The fuzz targets find little without sanitizers: -DOMBREL_SANITIZE=address,undefined")
 endif()
 
-add_compile_options(-fsanitize=fuzzer-no-link,float-cast-overflow -fno-sanitize-recover=all)
+add_compile_options(-fsanitize=fuzzer-no-link,float-cast-overflow)
 
 # Runs when all targets are known.
 function(ombrel_fuzz_targets)
