@@ -77,7 +77,7 @@ def main():
     picture("sky-night", paint.sky_night(day), 1.0)
     water = paint.sea_tile()
     picture("sea", water)
-    picture("sea-night", paint.sea_night(water)[::2, ::2])
+    picture("sea-night", paint.sea_night(water))
     picture("sea-far", paint.sea_far(water.mean(axis=(0, 1))))
     picture("glass", paint.glass(), 0.0)
     picture("globe-stand", paint.stand(256))
