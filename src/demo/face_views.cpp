@@ -1,8 +1,6 @@
 // Corner dots and wires of a face list, drawn with the 2D primitives.
 #include "demo/face_views.h"
 
-#include <initializer_list>
-
 #include "base/convert.h"
 #include "demo/primitives.h"
 
@@ -14,8 +12,10 @@ Pixel16 ViewColor(const RenderFace& face) {
     return static_cast<Pixel16>(face.litColors[0]);
 }
 
-void DrawDot(const Vertex& corner, float dx, float dy, Pixel16 color, const FrameBuffer& frame) {
-    PlotPixel(ToIntChop(corner.x + dx), ToIntChop(corner.y + dy), color, frame.pixels, frame.pitch);
+// One pixel of the block: dx and dy from the corner's own.
+void DrawDot(const Vertex& corner, std::int32_t dx, std::int32_t dy, Pixel16 color,
+             const FrameBuffer& frame) {
+    PlotPixel(ToIntChop(corner.x) + dx, ToIntChop(corner.y) + dy, color, frame.pixels, frame.pitch);
 }
 
 void DrawEdge(const Vertex& from, const Vertex& to, Pixel16 color, const FrameBuffer& frame) {
@@ -32,8 +32,8 @@ void DrawFaceListDots(const FaceList* list, Pixel16* pixels, std::int32_t pitch)
         if (!IsDrawable(face.state)) {
             continue;
         }
-        for (const float dx : {0.0F, 1.0F}) {
-            for (const float dy : {0.0F, 1.0F}) {
+        for (std::int32_t dx = 0; dx < 2; ++dx) {
+            for (std::int32_t dy = 0; dy < 2; ++dy) {
                 DrawDot(face.work[1], dx, dy, ViewColor(face), frame);
                 DrawDot(face.work[2], dx, dy, ViewColor(face), frame);
                 DrawDot(face.work[0], dx, dy, ViewColor(face), frame);

@@ -97,14 +97,15 @@ std::int32_t DrawGlyphText(GlyphSet* set, const TextPlace& place, const char* te
     if (text == nullptr || surface == nullptr || *text == '\0') {
         return 0;
     }
-    float x = place.x;
+    std::int32_t x = ToIntChop(place.x);
+    const std::int32_t y = ToIntChop(place.y);
     std::int32_t width = 0;
     for (const char* p = text; *p != '\0'; ++p) {
-        set->x = x;
-        set->y = place.y;
+        set->x = static_cast<float>(x);
+        set->y = static_cast<float>(y);
         set->currentFrame = static_cast<unsigned char>(*p);
         DrawFrame(*set, surface);
-        x += static_cast<float>(place.advance);
+        x = WrappingSum(x, place.advance);
         width = WrappingSum(width, place.advance);
     }
     return width;

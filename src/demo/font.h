@@ -48,9 +48,9 @@ struct TextPlace {
     std::int32_t advance;
 };
 
-// Draws zero-terminated text; bytes above 127 are glyphs 128 to 255. Positions become whole pixels
-// by truncation. Returns the number of characters times advance, or 0 for a null or empty text or a
-// null surface.
+// Draws zero-terminated text; bytes above 127 are glyphs 128 to 255. The place becomes whole pixels
+// by truncation, once: glyphs are advance apart on both sides of column 0. Returns the number of
+// characters times advance, or 0 for a null or empty text or a null surface.
 std::int32_t DrawGlyphText(GlyphSet* set, const TextPlace& place, const char* text,
                            Surface* surface);
 

@@ -94,10 +94,13 @@ TEST_F(FaceViews, RejectedFacesDrawNothingInEitherView) {
 }
 
 TEST_F(FaceViews, NegativeFractionOfAPixelCountsAsColumn0) {
-    Add({-0.4F, 4}, {-0.4F, 4}, {-0.4F, 4});
+    // -0.4 is column or row 0, and the block begins there; of one that begins at -1 half is seen.
+    Add({-0.4F, 4}, {10, -0.4F}, {-1.4F, 12});
     Dots();
-    // -0.4 and 0.6 both become column 0.
-    EXPECT_EQ(Drawn(), (Points{{0, 4}, {0, 5}}));
+    EXPECT_EQ(
+        Drawn(),
+        (Points{
+            {0, 4}, {0, 5}, {0, 12}, {0, 13}, {1, 4}, {1, 5}, {10, 0}, {10, 1}, {11, 0}, {11, 1}}));
 }
 
 TEST_F(FaceViews, DotsLeaveTheFramePixelByPixel) {
@@ -158,6 +161,7 @@ TEST_F(FaceViews, CoordinatesWithoutMeaningAreHarmless) {
     Add({huge, -huge}, {__builtin_nanf(""), 3}, {-huge, huge});
     Dots();
     Wire();
+    EXPECT_EQ(Drawn(), Points{});
 }
 
 } // namespace

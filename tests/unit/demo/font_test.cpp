@@ -115,6 +115,15 @@ TEST_F(Font, PositionsAreCutTowardZero) {
     EXPECT_EQ(At(kMarkX, kMarkY), kBigMark + 'b');
 }
 
+TEST_F(Font, GlyphsAreAdvanceApartAcrossColumn0) {
+    GlyphSet* const set = Load();
+    // Cut once, -28.9 is column -28; the fourth glyph stands at 8, not at 7.1 cut to 7.
+    DrawGlyphText(set, {-28.9F, 20, 12}, "abcde", target);
+    EXPECT_EQ(At(8 + kMarkX, 20 + kMarkY), kBigMark + 'd');
+    EXPECT_EQ(At(20 + kMarkX, 20 + kMarkY), kBigMark + 'e');
+    EXPECT_NE(At(7 + kMarkX, 20 + kMarkY), kBigMark + 'd');
+}
+
 TEST_F(Font, GlyphsAreClippedAtTheBorders) {
     GlyphSet* const set = Load();
     EXPECT_EQ(DrawGlyphText(set, {-2, -4, 12}, "a", target), 12);
