@@ -60,9 +60,9 @@ template <typename... Values> std::string Format(const char* format, Values... v
 std::string ColorShader(const CobMaterial& m) {
     std::string text = "Shader class: color\n";
     if (m.texture == nullptr) {
-        return text + "Shader name: \"plain color\" (caligari plain color)\n";
+        return text + "Shader name: \"plain color\"\n";
     }
-    text += "Shader name: \"texture map\" (caligari texture map)\n";
+    text += "Shader name: \"texture map\"\n";
     return text + Format("file name: string \".\\%s\"\n", m.texture);
 }
 
@@ -104,7 +104,7 @@ std::string BmpHeaders(int width, int height, int bitCount, std::uint32_t sizeIm
 
 std::string CobText(const std::vector<CobVertex>& vertices, const std::vector<CobFace>& faces,
                     const std::vector<CobMaterial>& materials) {
-    std::string text = "Caligari V00.01ALH\n"
+    std::string text = "Object as text\n"
                        "Name Thing,1\n"
                        "center 0 0 0\n"
                        "x axis 1 0 0\n"
@@ -131,7 +131,7 @@ std::string CobText(const std::vector<CobVertex>& vertices, const std::vector<Co
         text += "alpha 1 ka 0.1 ks 0.1 exp 0\n";
         text += ColorShader(m) + TransparencyShader(m);
         text += "Shader class: reflectance\n";
-        text += Format("Shader name: \"%s\" (caligari)\n", m.shading);
+        text += Format("Shader name: \"%s\"\n", m.shading);
     }
     return text + "END V1.00\n";
 }
