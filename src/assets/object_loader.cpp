@@ -260,21 +260,31 @@ void CopyText(char* destination, std::size_t size, const char* text) {
     std::memset(destination + length, 0, size - length);
 }
 
-// Makes the mesh's texture from the named image, or, where that cannot be read, in the shape of the
-// image before it. Leaves the mesh without one when there is no such image, or none the fillers can
-// take, or no memory.
+bool IsTextureShape(const BmpInfoHeader& info) {
+    return info.width >= 1 && info.width <= kMaxTextureSize && info.height >= 1 &&
+           info.height <= kMaxTextureSize;
+}
+
+// Makes the mesh's texture from the named image, or, where that cannot be read or is larger than
+// the fillers can take, in the shape of the image before it. Leaves the mesh without one when there
+// is no such image, or no memory.
 void LoadTexture(Mesh* mesh, const char* textureName) {
     char path[std::size(kTextureFolder) + sizeof(Material::textureName)];
     CopyText(path, sizeof path, kTextureFolder);
     CopyText(path + std::size(kTextureFolder) - 1, sizeof(Material::textureName),
              BaseName(textureName));
     // REQUIRED R23: a texture that cannot be read is black, in the shape of the one read before.
-    loadBmp(&loaderImage, path);
+    const BmpFileHeader fileBefore = loaderImage.fileHeader;
+    const BmpInfoHeader infoBefore = loaderImage.infoHeader;
+    if (loadBmp(&loaderImage, path) != 0 && !IsTextureShape(loaderImage.infoHeader)) {
+        releaseBmp(&loaderImage);
+        loaderImage.fileHeader = fileBefore;
+        loaderImage.infoHeader = infoBefore;
+    }
 
     const BmpInfoHeader& info = loaderImage.infoHeader;
     Texture* texture = nullptr;
-    if (info.width >= 1 && info.width <= kMaxTextureSize && info.height >= 1 &&
-        info.height <= kMaxTextureSize) {
+    if (IsTextureShape(info)) {
         texture = static_cast<Texture*>(std::calloc(1, sizeof(Texture)));
     }
     if (texture != nullptr &&

@@ -28,8 +28,9 @@ struct LoadRequest {
     const Vec3* position;  // or null for (0, 0, 0, 1)
     const Vec3* reserved;  // not used
     std::uint32_t options; // LOAD_...
-    std::int32_t mipMode;  // 1: mip chain; 0: none; other: faces marked mip-mapped, no chain
+    std::int32_t mipMode;  // 1: mip chain; 0: none; other: see below
 };
+// Another mip mode marks the faces mip-mapped and makes no chain: they must not be drawn.
 
 inline constexpr std::int32_t kMaxTextureSize = 1024; // wider or higher ones count as unreadable
 

@@ -680,6 +680,26 @@ TEST_F(ObjectLoader, TexturesTheFillersCannotTake) {
     EXPECT_EQ(static_cast<const char*>(fits.texture.single->pixels)[2047], 'x');
 }
 
+TEST_F(ObjectLoader, R23_TooLargeTextureIsAnUnreadableOne) {
+    CobFile file;
+    file.materials[0].texture = "/good.bmp";
+    Write("texture/good.bmp", BmpBytes({8, 4, 8, std::string(32, 'x')}));
+    ASSERT_EQ(Load(&mesh_, file), 1);
+    for (const char* const name : {"/wide.bmp", "/none.bmp"}) {
+        Write("texture/wide.bmp", BmpBytes({1025, 1, 8, std::string(1025, 'x')}));
+        file.materials[0].texture = name;
+        OwnedMesh mesh;
+        ASSERT_EQ(Load(&mesh, file), 1);
+        ASSERT_NE(mesh.texture.single, nullptr) << name;
+        EXPECT_EQ(mesh.texture.single->width, 8) << name;
+        EXPECT_EQ(mesh.texture.single->height, 4) << name;
+        EXPECT_EQ(mesh.texture.single->bitsPerPixel, 8) << name;
+        for (int i = 0; i < 32; ++i) {
+            ASSERT_EQ(static_cast<const char*>(mesh.texture.single->pixels)[i], 0) << name;
+        }
+    }
+}
+
 TEST_F(ObjectLoader, MipModeOneBuildsAChain) {
     ASSERT_EQ(Load(&mesh_, Textured(8, 8), PlainRequest(0, 1)), 1);
     EXPECT_EQ(mesh_.flags, MESH_LOADED | MESH_TEXTURED | MESH_MIPMAPPED);
