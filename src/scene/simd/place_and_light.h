@@ -147,14 +147,18 @@ struct Factors {
     return {facing * 128.0F / Attenuation(light, distance), facing > 0.0F};
 }
 
-// AddLight of lighting.cpp where the light reaches. A sum that has become too large is negative
-// here, stays so, and counts as more than 255 in the end.
+// Of 32-bit numbers without sign, rounded once: the upper half is exact.
+[[gnu::always_inline]] inline Floats ToFloatUnsigned(Ints v) {
+    return ToFloat((v >> 16) & 0xFFFF) * 65536.0F + ToFloat(v & 0xFFFF);
+}
+
+// AddLight of lighting.cpp where the light reaches. Sums have no sign.
 [[gnu::always_inline]] inline Ints AddLight(Ints sum, std::uint32_t light, Floats base,
                                             const Factors& f) {
     constexpr float kScale = 0.000030517578125F; // 1 / 32768
     const Floats product = base * static_cast<float>(light);
-    const Ints next = ToIntChop(product * f.factor * kScale + ToFloat(sum));
-    return (f.reached & (sum >= 0)) ? next : sum;
+    const Ints next = ToIntChop(product * f.factor * kScale + ToFloatUnsigned(sum));
+    return f.reached ? next : sum;
 }
 
 [[gnu::always_inline]] inline Ints Limit(Ints sum) {

@@ -114,6 +114,7 @@ void RandomLights(Numbers* n, Light* lights) {
                                  1.0F};
         values.sourceDirection = {n->Signed(), n->Signed(), n->Signed(), 1.0F};
         values.c0 = n->Below(2) == 0 ? 0.0F : n->Unit();
+        values.c0 *= n->Below(8) == 0 ? -1.0F : 1.0F; // takes light away
         values.c1 = n->Unit() * 0.01F;
         values.c2 = n->Below(2) == 0 ? 0.0F : n->Unit() * 0.0001F;
         values.exponent = n->Unit() * 6.0F - 1.0F;
@@ -335,6 +336,43 @@ TEST_P(FrontEndOfPath, SumsBeyondAllBoundsStayWhite) {
     }
     EXPECT_EQ(Run({&own}, Settings()).drawn, 1U);
     EXPECT_EQ(fusedList.records[0].litColors[0], 31U << 11);
+}
+
+// A light that takes 5 away leaves 2^32 - 5; the next one makes 2^31 of it, and a last ambient one
+// adds its 247: still white.
+TEST_P(FrontEndOfPath, SumsBelowZeroCountWithoutSign) {
+    const ScopedFloatMode chop(FloatMode::Chop);
+    OwnMesh own;
+    for (const auto& [x, y] : {std::pair{-10.0F, -10.0F}, {10.0F, -10.0F}, {0.0F, 10.0F}}) {
+        own.vertices.push_back(test::VertexAt(x, y, 100.0F));
+        own.vertices.back().nx = 1.0F;
+    }
+    own.transformed = own.vertices;
+    own.faces.resize(1);
+    own.faces[0].active = FACE_LIVE;
+    own.faces[0].flags = FACE_PLASTIC | FACE_TWO_SIDED;
+    own.faces[0].color = 0xFFFF;
+    own.faces[0].v1 = 1;
+    own.faces[0].v2 = 2;
+    own.mesh.position = {0.0F, 0.0F, 0.0F, 1.0F};
+    own.Connect();
+    ClearLights(lights_, kMaxLights);
+    for (int i = 0; i < 3; ++i) {
+        Light light = {};
+        light.enabled = 1;
+        light.kind = i == 2 ? LIGHT_AMBIENT : LIGHT_ATTENUATED;
+        light.lightColor = PackLightColor(8, 8, 8);
+        light.ambientColor = PackLightColor(255, 255, 255);
+        light.sourceDirection = {1.0F, 0.0F, 0.0F, 1.0F};
+        light.c0 = i == 0 ? -1.5F : 1.5F;
+        SetLight(&lights_[i], light);
+    }
+    for (const std::int32_t count : {1, 2, 3}) {
+        FaceSettings settings = Settings();
+        settings.lightCount = count;
+        EXPECT_EQ(Run({&own}, settings).drawn, 1U) << count;
+        EXPECT_EQ(fusedList.records[0].litColors[0], 0xFFFFU) << count;
+    }
 }
 
 // 65,536 faces fill the list; what comes later, left-overs of cuts too, finds no place.
