@@ -52,7 +52,8 @@ struct CameraSetup {
     float screenWidth, screenHeight;
 };
 void CameraInit(Camera* camera, const CameraSetup& setup);
-// Sets fov, tanHalfFov and the four clip planes; exactly 1 and +-0.7071068 for 90 degrees.
+// Sets fov, tanHalfFov and the four clip planes; 1 exactly and normals about +-0.7071068 for 90
+// degrees.
 void CameraSetFov(Camera* camera, float fov);
 // The view from position and angles. order 0..5 of the inverse rotations: 0 XYZ, 1 YXZ, 2 XZY, 3
 // YZX, 4 ZYX (the scenes'), 5 ZXY; any other leaves the view alone.
@@ -68,12 +69,13 @@ extern float trackT;
 void ResetTrackState();
 
 // Reads at most capacity keys; 0 for a missing file. A line that matches in part still makes a key
-// (its other columns keep the values of the line before); a line that gives nothing ends the
-// reading.
+// (its other columns keep the values of the line before); the reading ends with the text, or where
+// nothing of it can be taken in.
 std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
 
 // One key of a track's text: reads from *text on and moves it behind what matched. Returns how many
-// of the eleven columns were read; the others are left alone. 0: no number stands there.
+// of the eleven columns were read; the others are left alone. 0: no number stands there, though a
+// sign, a point or an exponent without digits is taken in. -1: the text ends there.
 inline constexpr std::int32_t kTrackColumns = 11;
 inline constexpr std::size_t kMaxTrackFile = std::size_t{16} << 20; // bytes read of a file
 std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]);

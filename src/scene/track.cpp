@@ -41,13 +41,28 @@ std::string ReadText(const char* path) {
     return text;
 }
 
-// Behind what a scanner takes in before it finds that no number is there: blanks, a sign, a point.
-const char* SkipFalseStart(const char* p) {
+bool IsExponent(char c) {
+    return c == 'e' || c == 'E';
+}
+
+const char* SkipBlanks(const char* p) {
     while (IsBlank(*p)) {
         ++p;
     }
+    return p;
+}
+
+// Behind what a scanner takes in before it finds that no number is there: blanks, a sign, a point.
+const char* SkipFalseStart(const char* p) {
+    p = SkipBlanks(p);
     p += *p == '+' || *p == '-' ? 1 : 0;
     return *p == '.' ? p + 1 : p;
+}
+
+// Behind an exponent that lacks its digits; with it, what stands before is no number either.
+const char* SkipExponent(const char* p) {
+    ++p;
+    return *p == '+' || *p == '-' ? p + 1 : p;
 }
 
 // REQUIRED R29: the first three columns are stored in reverse.
@@ -84,18 +99,19 @@ float Interpolate(const Spline& s, float p0, float p1, float p2) {
 std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]) {
     std::int32_t read = 0;
     const char* p = *text;
+    if (*SkipBlanks(p) == '\0') {
+        return -1;
+    }
     for (const char* pattern = kLinePattern; *pattern != '\0'; ++pattern) {
         if (IsBlank(*pattern)) {
             // Any blanks match, none too.
-            while (IsBlank(*p)) {
-                ++p;
-            }
+            p = SkipBlanks(p);
         } else if (*pattern == '%') {
             ++pattern;
             const char* end = p;
             const float value = ParseFloat(p, &end);
-            if (end == p) {
-                p = SkipFalseStart(p);
+            if (end == p || IsExponent(*end)) {
+                p = end == p ? SkipFalseStart(p) : SkipExponent(end);
                 break;
             }
             columns[read++] = value;
@@ -116,7 +132,12 @@ std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
     // REQUIRED R39: columns that a read does not reach keep what the read before left in them.
     float columns[kTrackColumns] = {};
     std::int32_t count = 0;
-    while (count < capacity && ReadTrackColumns(&p, columns) > 0) {
+    while (count < capacity) {
+        const char* const start = p;
+        const std::int32_t read = ReadTrackColumns(&p, columns);
+        if (read < 0 || p == start) {
+            break;
+        }
         StoreKey(&keys[count], columns);
         ++count;
     }

@@ -75,8 +75,9 @@ void ReadKeys(const TrackText& t) {
                   "remove them"});
             return;
         }
+        const char* const before = p;
         const std::int32_t read = ReadTrackColumns(&p, columns);
-        if (read == 0) {
+        if (p == before) {
             Warn(t.report, LineOf(t.ends, start), nullptr,
                  {"here a key must begin, not " +
                       Quote(t.text.substr(start, t.text.find('\n', start) - start)),

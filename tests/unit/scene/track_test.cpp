@@ -126,13 +126,26 @@ TEST_F(Track, R39_TheNextKeyBeginsWhereTheHalfLineStopped) {
     EXPECT_EQ(keys_[1].tension, 5.0F);
 }
 
-TEST_F(Track, AReadThatGivesNothingEndsTheReading) {
+TEST_F(Track, AReadThatTakesNothingInEndsTheReading) {
     EXPECT_EQ(Load("1, 2, 3;\t4, 5, 6;\t7, 8, 9;\t10;\t11;\n# no comments here\n"
                    "1, 2, 3;\t4, 5, 6;\t7, 8, 9;\t10;\t11;\n"),
               1);
     EXPECT_EQ(Load("hello"), 0);
-    EXPECT_EQ(Load(std::string(100000, '-')), 0);
     EXPECT_EQ(Load(std::string("1, 2\0, 3, 4", 11)), 1);
+}
+
+TEST_F(Track, R39_SignPointOrExponentWithoutDigitsIsTakenInAndMakesAKey) {
+    const std::string good = "1, 2, 3;\t4, 5, 6;\t7, 8, 9;\t10;\t11;\n";
+    for (const char* const bad : {"-", "+.", "1e", "2E+"}) {
+        ASSERT_EQ(Load(good + bad + "\n" + good), 3) << bad;
+        EXPECT_EQ(keys_[1].keyBias, 1.0F) << bad; // as in the key before
+        EXPECT_EQ(keys_[1].key.step, 11.0F) << bad;
+        EXPECT_EQ(keys_[2].keyContinuity, 2.0F) << bad;
+    }
+    EXPECT_EQ(Load("-"), 1);
+    EXPECT_EQ(Load("- "), 1);
+    EXPECT_EQ(Load(" \n"), 0);
+    EXPECT_EQ(Load(std::string(100000, '-')), 64); // as many as there is room for
 }
 
 TEST_F(Track, NoMoreKeysThanTheCallerHasRoomFor) {
@@ -176,12 +189,14 @@ TEST_F(Track, ReadsWhatTheLibrarysScannerReads) {
         float c[11] = {};
         std::int32_t want = 0;
         for (; want < 64; ++want) {
+            const long before = std::ftell(file);
             const int read =
                 std::fscanf(file, "%f, %f, %f;\t%f, %f, %f;\t%f, %f, %f;\t%f;\t%f;\n", &c[0], &c[1],
                             &c[2], &c[3], &c[4], &c[5], &c[6], &c[7], &c[8], &c[9], &c[10]);
-            if (read <= 0) {
+            if (read < 0 || std::ftell(file) == before) {
                 break;
             }
+            ASSERT_LT(want, count) << text;
             const Camera& k = keys_[static_cast<std::size_t>(want)];
             const float got[11] = {k.keyBias,    k.keyContinuity, k.tension,  k.position.x,
                                    k.position.y, k.position.z,    k.angles.x, k.angles.y,
@@ -212,6 +227,14 @@ TEST_F(Track, AtZeroTheSampleIsTheFirstKeyAndAtOneTheSecond) {
     EXPECT_EQ(Sample(&camera, keys), 1);
     EXPECT_EQ(camera.position.x, 4.0F);
     EXPECT_EQ(camera.fov, 94.0F);
+    // Just before its end the segment is where the next one begins.
+    trackSegment = 0;
+    trackT = 0.99999994F;
+    EXPECT_EQ(Sample(&camera, keys), 0);
+    EXPECT_NEAR(camera.position.x, 4.0F, 1e-4F);
+    EXPECT_NEAR(camera.position.y, 40.0F, 1e-3F);
+    EXPECT_NEAR(camera.angles.y, 400.0F, 1e-2F);
+    EXPECT_NEAR(camera.fov, 94.0F, 1e-3F);
 }
 
 TEST_F(Track, TheFieldOfViewIsSetWithItsTangentAndPlanes) {
