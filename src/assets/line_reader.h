@@ -66,9 +66,8 @@ int replaceChars(const char* source, char* destination, const char* set, char re
                  int caseMode);
 
 // The number that the whole text is, or kNotAnInt, kNotAFloat. Texts that scan but hold no digit
-// ("-",
-// ".", "e5") are 0. scanFloat takes e, E, d, D as exponent letters but converts only up to a d; the
-// value is that of the nearest single.
+// ("-", ".", "e5") are 0. scanFloat takes e, E, d, D as exponent letters but converts only up to a
+// d; the value is that of the nearest single.
 std::int32_t scanInt(const char* text);
 double scanFloat(const char* text);
 

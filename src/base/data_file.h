@@ -9,8 +9,8 @@
 namespace ombrel {
 
 // The folder that "./data" stands for. Empty: "./data" relative to the working directory.
-// Written by the entry (folder of the program) and by tools (--data); read by OpenDataFile.
-// A path above 4095 bytes counts as empty.
+// Written by the SDL2 entry (the folder of the program; on Windows that is made the working one)
+// and by tools (--data); read by FindDataFile. A path above 4095 bytes counts as empty.
 void SetDataFolder(const std::string& folder);
 std::string DataFolder();
 

@@ -1,4 +1,4 @@
-// What the two scenes work on: the loaded objects, the camera and its track state, the lights, the
+// What the two scenes work on: the loaded objects, the camera, the lights, the
 // face list, the depth buffer and the switches. Filled by StartUp; plain data, one of each.
 #pragma once
 

@@ -136,8 +136,8 @@ std::uint32_t TexelAt(const Brush& brush, std::int32_t column, std::int32_t row)
     return brush.texels[bounded ? std::clamp(index, 0, brush.lastTexel) : index];
 }
 
-// Four neighbours, weighted in 1/65536; the last column bounds columns and rows alike (REQUIRED
-// R4).
+// Four neighbours, weighted in 1/65536; the last column bounds columns and rows alike.
+// REQUIRED R4.
 template <bool bounded>
 std::uint32_t MixTexels(const Brush& brush, std::int32_t u, std::int32_t v) {
     const std::int32_t x0 = u >> 16, x1 = std::min(x0 + 1, brush.lastColumn);

@@ -1,11 +1,9 @@
 // The road of all faces of a frame from their meshes to the screen, behind one door. Two forms that
 // draw the same picture:
-//   pass by pass   every face becomes a record of the list, and every step of pipeline.h and
-//   light.h
-//                  goes over the whole list; the reference
-//   fused          mesh by mesh: corners are placed once each, faces out of sight or turned away
-//   are
-//                  dropped before anything is written, and only corners that show are lit
+//   pass by pass   every face becomes a record, and every step of pipeline.h and light.h goes
+//                  over the whole list; the reference
+//   fused          mesh by mesh: corners are placed once each, faces out of sight or turned
+//                  away are dropped before anything is written, only corners that show are lit
 // docs/front-end.md says which part of the one is which part of the other. Callers: the scenes.
 #pragma once
 

@@ -36,7 +36,6 @@ struct Watch {
     long shown;  // presents so far, failed ones too
     long locks;
     int scene;                        // that drew the frame in hand
-    bool quitTaken;                   // the quit message has come out of the queue
     std::vector<std::uint16_t> wide;  // the back surface with rows further apart
     IDirectDrawSurface7* wideSurface; // locked through it
     void* realPixels;
@@ -288,7 +287,6 @@ BOOL WINAPI WatchedPeek(MSG* message, HWND window, UINT from, UINT to, UINT remo
         frame.frameCapSwitch = 0;
     }
     const BOOL taken = PeekMessageA(message, window, from, to, remove);
-    watch.quitTaken = watch.quitTaken || (taken && message->message == WM_QUIT);
     return taken;
 }
 

@@ -1,4 +1,4 @@
-// BASS.dll, version 2.3, reached when the program runs: our own declarations of the eight functions
+// BASS.dll, version 2.3, reached when the program runs: our own declarations of the seven functions
 // that the soundtrack needs. Offsets and lengths of files are 32-bit.
 #include <cstring>
 #include <string>

@@ -18,10 +18,11 @@ enum class PresentPath {
     Stretch, // no such mode: a bitmap over the whole monitor, enlarged by whole factors
 };
 
-// instance: written by the entry. window, quitPosted, entryMode: written by window.cpp. The rest:
-// written by OpenDisplay, read by presentation and release.
 inline constexpr std::int32_t kMaxSurfaces = 1024; // glyphs of two fonts, and to spare
 
+// instance: written by the entry. window, quitPosted, entryMode: written by window.cpp. surfaces,
+// surfaceCount: by surface.cpp, OpenDisplay and CloseDisplay. The rest: by OpenDisplay, read by
+// presentation and release.
 struct Win32State {
     HINSTANCE instance;
     HWND window;

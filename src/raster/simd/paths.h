@@ -1,5 +1,6 @@
 // The vector twins of the fillers: one table a path, and the choice among them. A twin gives the
-// bits of its scalar member for every input. Called at start-up by app/, by tests and benches.
+// bits of its scalar member for every polygon; a textured one must have its texture record, also
+// where it lies outside. Called at start-up by app/, by tests and benches.
 #pragma once
 
 #include "base/vector_path.h"
@@ -11,7 +12,7 @@ namespace ombrel {
 // architecture, and for Scalar. To be called only where ProcessorRuns(path).
 const Filler* FillersOf(VectorPath path);
 
-// Puts into activeFillers, filler by filler, what is fastest on that path.
+// Puts the twins of that path into activeFillers.
 void UseFillers(VectorPath path);
 
 } // namespace ombrel

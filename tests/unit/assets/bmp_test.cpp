@@ -427,7 +427,7 @@ TEST(MipChain, R26_WhiteStaysWhiteAndTenStaysTen) {
     ten.Fill(10 << 11);
     ASSERT_EQ(buildMipChain(&ten.base, &ten.levels, 1.01F), 1);
     EXPECT_EQ(ten.At(1, 0), 10 << 11);
-    // Green 40: 160 * 1.01 / 4 + 0.5 = 40.9; green 50: 51.0 less a rounding.
+    // Green 40: 160 * 1.01 / 4 + 0.5 = 40.9; green 60: 61.1.
     Chain forty(2, 2);
     forty.Fill(40 << 5);
     ASSERT_EQ(buildMipChain(&forty.base, &forty.levels, 1.01F), 1);

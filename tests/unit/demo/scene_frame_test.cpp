@@ -106,7 +106,7 @@ float AngleOf(const Vertex& v) {
     return std::atan2(v.z, v.x) * 57.29578F;
 }
 
-TEST_F(SceneFrame, R42_LastObjectIsNeverDrawnAndTheTwoBeforeTurn) {
+TEST_F(SceneFrame, R42_LastObjectIsNeverDrawnAndTwoOfThoseBeforeTurn) {
     ASSERT_EQ(world.objectCounter, 15);
     const float before12 = AngleOf(world.objects[12].vertices[8]);
     const float before13 = AngleOf(world.objects[13].vertices[8]);

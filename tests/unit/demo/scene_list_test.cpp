@@ -196,7 +196,7 @@ TEST_F(SceneListFile, SizesAndPlacesAreTenths) {
     const Mesh& mesh = world.objects[12];
     EXPECT_EQ(mesh.position.x, 10.0F);
     EXPECT_EQ(mesh.position.y, 20.0F);
-    EXPECT_EQ(mesh.position.z, 100.0F * 0.3F == 30.0F ? 30.0F : 300.0F * 0.1F);
+    EXPECT_EQ(mesh.position.z, 30.0F);
     EXPECT_EQ(mesh.position.w, 1.0F);
     // Vertex 0 is (-1, -1, -1); y and z change places before the scale: 1, 2 and 3 times.
     EXPECT_NEAR(mesh.vertices[0].x, -1.0F, 1e-6F);

@@ -359,13 +359,12 @@ TEST_F(SceneTwoTest, R41_ThirteenthLineStandsAtItsPlaceFromTheSecondPageOn) {
     EXPECT_EQ(frames, 713); // 55 fewer: the thirteenth line need not slide in
 }
 
-TEST_F(SceneTwoTest, PageBehindTheLastStartsAgain) {
+TEST_F(SceneTwoTest, LastPageSetsTheEndFlagAndStartsOver) {
     RemoveObjects();
     StartUp();
     Frame();
     ScrollerState& s = sceneTwo.scroller;
     s.frameCount = 2000;
-    s.line = 0; // no slot is read behind the table
     s.page = 36;
     for (float& angle : s.angles) {
         angle = 1.9F;

@@ -81,7 +81,6 @@ TEST_F(Soundtrack, MissingFileIsNotReported) {
 TEST_F(Soundtrack, SwitchedOffNothingOfTheLibraryIsTouched) {
     ResetForRun();
     StartSeamLog();
-    std::string log;
     RunProductionAsItIs("-w -ns", [](const RunFrame&) { EndRunAfterThisFrame(); });
     EXPECT_EQ(SeamLog().find("Sound"), std::string::npos);
     EXPECT_NE(SeamLog().find("CloseDisplay"), std::string::npos);

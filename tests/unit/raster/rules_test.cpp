@@ -70,9 +70,9 @@ TEST_F(RulesTest, R3_FactorsStandATraceAboveTheirFraction) {
 TEST_F(RulesTest, LevelSevenWritesTheSource) {
     TestTexture texture(16, 16, CountedTexels(256));
     Dice dice{std::mt19937(21)};
-    // Each blending filler is followed or preceded by the row that differs in its write cell only.
+    // Each blending filler is held to one that sets, of the same depth, texel and light rule.
     for (std::int32_t id = 0; id < kFillerCount; ++id) {
-        FillerRules plain = RulesOf(id);
+        const FillerRules plain = RulesOf(id);
         if (plain.write != WriteRule::Blend) {
             continue;
         }

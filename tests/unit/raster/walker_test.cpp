@@ -65,7 +65,8 @@ TEST_F(WalkerTest, TriangleOneRowTallDrawsItsTopRowOnly) {
 }
 
 TEST_F(WalkerTest, SpanWithEqualRoundedEndsDrawsNothing) {
-    // Half a column wide over 20 rows: column 10 rounds to 10 on both sides but for the first rows.
+    // One column wide at the top, none 20 rows below: column 10 rounds to 10 on both sides but for
+    // the first rows.
     TestTexture texture(8, 8, CountedTexels(64));
     const ScreenPolygon polygon =
         MakePolygon({{{10, 10, 5, 0, 0}, {11, 10, 5, 7, 0}, {10, 30, 5, 7, 7}}}, &texture.record);
@@ -93,7 +94,14 @@ TEST_F(WalkerTest, TriangleOutsideReturnsBeforeItIsLookedAt) {
     }};
     for (const auto& points : outside) {
         for (std::int32_t id = 0; id < kFillerCount; ++id) {
-            DrawWith(id, MakePolygon(points), {nullptr, 0, nullptr, 0, 7});
+            ScreenPolygon polygon = MakePolygon(points);
+            kScalarFillers[id](&polygon, {nullptr, 0, nullptr, 0, 7});
+            // Rounding is one half up, then cut toward zero.
+            const float x = points[0].x < 0 ? points[0].x + 1.0F : points[0].x;
+            EXPECT_EQ(polygon.vertices[0].x, x) << kFillerTable[id].name;
+            Canvas canvas(64, 48, RulesOf(id).depth);
+            DrawWith(id, MakePolygon(points), canvas.Target());
+            EXPECT_EQ(canvas.CountChanged(), 0) << kFillerTable[id].name;
         }
     }
 }
@@ -135,7 +143,7 @@ TEST_F(WalkerTest, LeftColumnAndTopRowBelongToTheTriangle) {
 }
 
 TEST_F(WalkerTest, MiddleRowIsDrawnWithTheUpperEdge) {
-    // Middle at the right, upper edge one column in two rows: 10, 10.5, 11 rounds to 10, 11, 11.
+    // Middle at the right, upper edge ten columns in three rows.
     const ScreenPolygon polygon =
         MakePolygon({{{10, 10, 1, 0, 0}, {20, 13, 1, 0, 0}, {10, 17, 1, 0, 0}}});
     Canvas canvas(64, 48);
