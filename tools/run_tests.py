@@ -212,13 +212,14 @@ def main():
             step("Windows programs", [ROOT / "tests/windows/run.sh", ROOT / "build/win64",
                                       "--desks", "2", "--but", "whole production"], limit=1800)
 
-        print("The archives of the release")
+        print("The archives of the release, and the Linux program under Xvfb")
+        played = []
         if step("make the archives", ["cmake", "--build", "--preset", "package"], counts=False):
-            step("archives, unpacked", [ROOT / "tests/packages/run.sh", ROOT / "build"])
-
+            played.append(("archives, unpacked",
+                           [ROOT / "tests/packages/run.sh", ROOT / "build"], {}))
         if (ROOT / "tests/linux/run.sh").exists():
-            print("Linux program, under Xvfb")
-            step("Linux window", [ROOT / "tests/linux/run.sh", release])
+            played.append(("Linux window", [ROOT / "tests/linux/run.sh", release], {}))
+        side_by_side(played)
 
     print(f"\n{time.monotonic() - start:.0f} s")
     print(f"{passed} passed, {failed} failed")
