@@ -309,23 +309,28 @@ TEST_P(FrontEndOfPath, R32_LightsAtTheCorner) {
     }
 }
 
+// One gouraud face before the camera, its normals along x.
+void MakeLitTriangle(OwnMesh* own, float normalX, std::uint32_t color) {
+    for (const auto& [x, y] : {std::pair{-10.0F, -10.0F}, {10.0F, -10.0F}, {0.0F, 10.0F}}) {
+        own->vertices.push_back(test::VertexAt(x, y, 100.0F));
+        own->vertices.back().nx = normalX;
+    }
+    own->transformed = own->vertices;
+    own->faces.resize(1);
+    own->faces[0].active = FACE_LIVE;
+    own->faces[0].flags = FACE_PLASTIC | FACE_TWO_SIDED;
+    own->faces[0].color = color;
+    own->faces[0].v1 = 1;
+    own->faces[0].v2 = 2;
+    own->mesh.position = {0.0F, 0.0F, 0.0F, 1.0F};
+    own->Connect();
+}
+
 // A sum that no 32-bit integer holds counts as white, also when the next light adds 2^31 to it.
 TEST_P(FrontEndOfPath, SumsBeyondAllBoundsStayWhite) {
     const ScopedFloatMode chop(FloatMode::Chop);
     OwnMesh own;
-    for (const auto& [x, y] : {std::pair{-10.0F, -10.0F}, {10.0F, -10.0F}, {0.0F, 10.0F}}) {
-        own.vertices.push_back(test::VertexAt(x, y, 100.0F));
-        own.vertices.back().nx = 0x1p25F;
-    }
-    own.transformed = own.vertices;
-    own.faces.resize(1);
-    own.faces[0].active = FACE_LIVE;
-    own.faces[0].flags = FACE_PLASTIC | FACE_TWO_SIDED;
-    own.faces[0].color = 16 << 11; // a red of 128
-    own.faces[0].v1 = 1;
-    own.faces[0].v2 = 2;
-    own.mesh.position = {0.0F, 0.0F, 0.0F, 1.0F};
-    own.Connect();
+    MakeLitTriangle(&own, 0x1p25F, 16 << 11); // a red of 128
     // The first light is without bounds, the second gives 2^14 * 2^32 / 2^15.
     ClearLights(lights_, kMaxLights);
     for (int i = 0; i < 2; ++i) {
@@ -343,19 +348,7 @@ TEST_P(FrontEndOfPath, SumsBeyondAllBoundsStayWhite) {
 TEST_P(FrontEndOfPath, SumsBelowZeroCountWithoutSign) {
     const ScopedFloatMode chop(FloatMode::Chop);
     OwnMesh own;
-    for (const auto& [x, y] : {std::pair{-10.0F, -10.0F}, {10.0F, -10.0F}, {0.0F, 10.0F}}) {
-        own.vertices.push_back(test::VertexAt(x, y, 100.0F));
-        own.vertices.back().nx = 1.0F;
-    }
-    own.transformed = own.vertices;
-    own.faces.resize(1);
-    own.faces[0].active = FACE_LIVE;
-    own.faces[0].flags = FACE_PLASTIC | FACE_TWO_SIDED;
-    own.faces[0].color = 0xFFFF;
-    own.faces[0].v1 = 1;
-    own.faces[0].v2 = 2;
-    own.mesh.position = {0.0F, 0.0F, 0.0F, 1.0F};
-    own.Connect();
+    MakeLitTriangle(&own, 1.0F, 0xFFFF);
     ClearLights(lights_, kMaxLights);
     for (int i = 0; i < 3; ++i) {
         Light light = {};
