@@ -1,7 +1,7 @@
 // The floating-point mode of the processor: which way single-precision results are rounded.
-// Start-up switches from nearest to truncation before anything is loaded; whatever must
-// not depend on it, tools and tests switch with ScopedFloatMode. Covers SSE (MXCSR) and ARM64
-// (FPCR), whichever the build uses for floats.
+// Start-up switches from nearest to truncation before anything is loaded; whatever must not depend
+// on it, tools and tests switch with ScopedFloatMode. Covers SSE (MXCSR) and ARM64 (FPCR),
+// whichever the build uses for floats.
 #pragma once
 
 #include <cstdint>

@@ -28,8 +28,8 @@ void AddListObjects(FrontEnd* front, World* scene);
 // and lights must have their places of the frame before StartFaces.
 FaceSettings FaceSettingsOf(World* scene, const SceneSwitches& set);
 
-// What both scenes ask of the dispatcher: inverse depth, affine texels, blending, and
-// mip levels of faces that have them.
+// What both scenes ask of the dispatcher: inverse depth, affine texels, blending, and mip levels of
+// faces that have them.
 inline constexpr std::uint32_t kSceneJobFlags =
     DRAW_INV_DEPTH | DRAW_MIPMAP | DRAW_BLEND | DRAW_PATH_1;
 static_assert(kSceneJobFlags == 0x134);

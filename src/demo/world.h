@@ -1,5 +1,5 @@
-// What the two scenes work on: the loaded objects, the camera, the lights, the
-// face list, the depth buffer and the switches. Filled by StartUp; plain data, one of each.
+// What the two scenes work on: the loaded objects, the camera, the lights, the face list, the
+// depth buffer and the switches. Filled by StartUp; plain data, one of each.
 #pragma once
 
 #include <cstdint>

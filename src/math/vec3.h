@@ -67,8 +67,8 @@ inline void Vec3Cross(const Vec3* a, const Vec3* b, Vec3* out) {
 }
 
 float Vec3Length(const Vec3* v);
-// max + 11/32 mid + 1/4 min of the sizes, in 1/1024, cut to a whole number. The sum must
-// stay below 2,097,152; beyond, it wraps in 32 bits.
+// max + 11/32 mid + 1/4 min of the sizes, in 1/1024, cut to a whole number. The sum must stay below
+// 2,097,152; beyond, it wraps in 32 bits.
 float Vec3FastLength(const Vec3* v);
 void Vec3Normalize(Vec3* v);                       // shorter than 1e-5: untouched
 void Vec3NormalizeTo(const Vec3* v, float out[3]); // shorter than 1e-5: zero

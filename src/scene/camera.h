@@ -75,7 +75,8 @@ std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
 
 // One key of a track's text: reads from *text on and moves it behind what matched. Returns how many
 // of the eleven columns were read; the others are left alone. 0: no number stands there, though a
-// sign, a point or an exponent without digits is taken in. -1: the text ends there.
+// sign, a point or an exponent without digits is taken in. Where nothing is, or only blanks are
+// left, *text stays.
 inline constexpr std::int32_t kTrackColumns = 11;
 inline constexpr std::size_t kMaxTrackFile = std::size_t{16} << 20; // bytes read of a file
 std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]);

@@ -1,6 +1,6 @@
 // Objects on the move: the vertex arrays of a mesh multiplied, turned and shifted, and its faces
-// handed to the face list. Called by start-up, the scenes and
-// the front end, object by object.
+// handed to the face list. Called by start-up, the scenes and the front end,
+// object by object.
 #include "scene/mesh_transform.h"
 
 #include "scene/vertex_parts.h"

@@ -19,9 +19,9 @@ void TransformPolygonsToCamera(FaceList* list, const Camera* camera);
 // Camera space. FACE_OUTSIDE on faces whose corners all lie beyond one limit of the tested sides.
 // Whatever the mask, faces are then cut at zNear, and at the guard band: afterwards every drawable
 // face has z >= zNear, and no corner of it will be mapped outside +-kGuardBand pixels
-// but for rounding. A cut face
-// keeps its first triangle; the others are added to the end of the list, and are dropped without
-// notice when it is full. Texture coordinates, normals and (gouraud) lit colours are cut alike.
+// but for rounding. A cut face keeps its first triangle; the others are added to the end of the
+// list, and are dropped without notice when it is full. Texture coordinates, normals and (gouraud)
+// lit colours are cut alike.
 // Faces that are cut and have a coordinate that is no finite number below 1e9 in size are rejected.
 inline constexpr float kGuardBand = 4095.0F;
 void ClipPolygons(FaceList* list, const Camera* camera, std::uint32_t testMask);

@@ -100,7 +100,7 @@ std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]) {
     std::int32_t read = 0;
     const char* p = *text;
     if (*SkipBlanks(p) == '\0') {
-        return -1;
+        return 0;
     }
     for (const char* pattern = kLinePattern; *pattern != '\0'; ++pattern) {
         if (IsBlank(*pattern)) {
@@ -134,8 +134,8 @@ std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
     std::int32_t count = 0;
     while (count < capacity) {
         const char* const start = p;
-        const std::int32_t read = ReadTrackColumns(&p, columns);
-        if (read < 0 || p == start) {
+        ReadTrackColumns(&p, columns);
+        if (p == start) {
             break;
         }
         StoreKey(&keys[count], columns);

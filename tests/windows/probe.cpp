@@ -286,8 +286,7 @@ BOOL WINAPI WatchedPeek(MSG* message, HWND window, UINT from, UINT to, UINT remo
     if (watch.hashes) {
         frame.frameCapSwitch = 0;
     }
-    const BOOL taken = PeekMessageA(message, window, from, to, remove);
-    return taken;
+    return PeekMessageA(message, window, from, to, remove);
 }
 
 void InstallAll() {
