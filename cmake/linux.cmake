@@ -8,9 +8,6 @@ ombrel_back_end(sdl2 SOFT PkgConfig::SDL2)
 
 # A program of ours: its main file and the libraries behind it, the back end last.
 function(ombrel_program name source)
-  if(NOT EXISTS ${CMAKE_SOURCE_DIR}/${source})
-    return()
-  endif()
   file(GLOB more CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/${name}/*.cpp)
   add_executable(${name} ${source} ${more})
   target_link_libraries(${name} PRIVATE ombrel_flags ${ARGN})
@@ -20,10 +17,9 @@ ombrel_program(larkfen src/app/entry_sdl2.cpp ombrel_app ombrel_demo ombrel_plat
 ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
-if(TARGET larkfen-inspect) # its pictures are lettered and written as those of the other tools
-  target_sources(larkfen-inspect PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-gallery/tiny_font.cpp
-                                         ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/picture.cpp)
-endif()
+# The inspector's pictures are lettered and written as those of the other tools.
+target_sources(larkfen-inspect PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-gallery/tiny_font.cpp
+                                       ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/picture.cpp)
 
 if(OMBREL_TESTS)
   enable_testing()
@@ -32,22 +28,20 @@ endif()
 if(OMBREL_BENCH)
   find_package(benchmark REQUIRED)
   file(GLOB bench_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/bench/*.cpp)
-  if(bench_sources)
-    add_executable(larkfen-bench ${bench_sources})
-    target_link_libraries(larkfen-bench PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_offscreen
-                                                benchmark::benchmark)
-    # Other renderers on the same triangles, where their libraries are: ninja larkfen-peers.
-    pkg_check_modules(ALLEGRO4 QUIET IMPORTED_TARGET allegro)
-    pkg_check_modules(OSMESA QUIET IMPORTED_TARGET osmesa)
-    if(ALLEGRO4_FOUND AND OSMESA_FOUND)
-      file(GLOB compare_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/bench/compare*.cpp)
-      add_executable(larkfen-peers EXCLUDE_FROM_ALL bench/peers/peers.cpp bench/face_scene.cpp
-                                                    bench/fill_scene.cpp ${compare_sources})
-      target_include_directories(larkfen-peers PRIVATE bench)
-      target_link_libraries(larkfen-peers PRIVATE ombrel_flags ombrel_app ombrel_demo
-                                                  ombrel_platform_offscreen PkgConfig::ALLEGRO4
-                                                  PkgConfig::OSMESA)
-    endif()
+  add_executable(larkfen-bench ${bench_sources})
+  target_link_libraries(larkfen-bench PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_offscreen
+                                              benchmark::benchmark)
+  # Other renderers on the same triangles, where their libraries are: ninja larkfen-peers.
+  pkg_check_modules(ALLEGRO4 QUIET IMPORTED_TARGET allegro)
+  pkg_check_modules(OSMESA QUIET IMPORTED_TARGET osmesa)
+  if(ALLEGRO4_FOUND AND OSMESA_FOUND)
+    file(GLOB compare_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/bench/compare*.cpp)
+    add_executable(larkfen-peers EXCLUDE_FROM_ALL bench/peers/peers.cpp bench/face_scene.cpp
+                                                  bench/fill_scene.cpp ${compare_sources})
+    target_include_directories(larkfen-peers PRIVATE bench)
+    target_link_libraries(larkfen-peers PRIVATE ombrel_flags ombrel_app ombrel_demo
+                                                ombrel_platform_offscreen PkgConfig::ALLEGRO4
+                                                PkgConfig::OSMESA)
   endif()
 endif()
 

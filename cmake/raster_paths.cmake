@@ -1,7 +1,4 @@
 # The vector twins of the fillers and of the blur: one file an instruction set, each with its own flags.
-if(raster_type STREQUAL INTERFACE_LIBRARY)
-  return()
-endif()
 set(simd ${CMAKE_SOURCE_DIR}/src/raster/simd)
 target_sources(ombrel_raster PRIVATE ${simd}/paths.cpp ${simd}/blur.cpp)
 if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64|AMD64|i[3-6]86)$")
