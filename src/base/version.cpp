@@ -1,0 +1,8 @@
+// The version comes from the build.
+#include "base/version.h"
+
+namespace ombrel {
+
+const char kVersion[] = OMBREL_VERSION;
+
+} // namespace ombrel
