@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const InputLimits limits;
     const MemoryFile file(data, size);
     BmpImage image = {};
-    if (loadBmp(&image, file.Path().c_str()) != 0) {
+    if (loadBmp(&image, file.Path().c_str(), kFormat565) != 0) {
         const BmpInfoHeader& info = image.infoHeader;
         Require(info.width > 0 && info.height > 0);
         Require(info.bitCount == 8 || info.bitCount == 16);

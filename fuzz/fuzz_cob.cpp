@@ -46,7 +46,7 @@ void LoadOnce(const std::string& path, std::uint32_t options, std::int32_t mipMo
     const std::int32_t before = materialBase;
     const float scale[3] = {0.5F, 2.0F, 1000.0F};
     Mesh mesh;
-    const int result = loadObject(&mesh, path.c_str(), {scale, nullptr, nullptr, options, mipMode});
+    const int result = loadObject(&mesh, path.c_str(), {scale, nullptr, options, mipMode});
     Require(result == 1 || materialBase == before);
     Require(materialBase >= before && materialBase <= kMaxMaterials);
     CheckMesh(mesh);

@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const ScopedFloatMode chop(FloatMode::Chop);
     const InputLimits limits;
     const MemoryFile file(data, size);
-    const int loaded = LoadGlyphSet(file.Path().c_str(), &glyphs);
+    const int loaded = LoadGlyphSet(file.Path().c_str(), &glyphs, kFormat565);
     Require(loaded == 0 || (glyphs.attributes & GLYPHS_FILLED) != 0);
 
     const std::size_t tail = size < kTail ? size : kTail;

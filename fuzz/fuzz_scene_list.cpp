@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const InputLimits limits;
         ResetMaterials();
         ResetObjectLoader();
-        LoadSceneList(&world, file.Path().c_str());
+        LoadSceneList(&world, file.Path().c_str(), kFormat565);
     }
     Require(world.objectCounter >= kFirstSceneObject && world.objectCounter < kMaxSceneObjects);
     if (world.objectCounter <= kFirstSceneObject + kDrawn) {

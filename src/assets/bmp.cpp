@@ -56,16 +56,16 @@ bool ReadHeaders(std::FILE* file, BmpHeaders* headers) {
     return SeekTo(file, -static_cast<long>(info.sizeImage), SEEK_END) >= 0;
 }
 
-// 24-bit triples blue, green, red to pixels of the display's format; out may be where they stand.
+// 24-bit triples blue, green, red to pixels of 15 or 16 bits; out may be where they stand.
 // REQUIRED R25: one straight after the other, over the ends of rows. In any other format than the
 // two known ones every pixel is the one before it, and so 0.
-void ConvertTriples(const std::uint8_t* triples, std::int32_t count, std::uint8_t* out) {
-    const std::int32_t format = displayFormat.rgbBits;
+void ConvertTriples(const std::uint8_t* triples, std::int32_t count, std::int32_t rgbBits,
+                    std::uint8_t* out) {
     for (std::int32_t i = 0; i < count; ++i, triples += 3, out += 2) {
         std::uint32_t pixel = 0;
-        if (format == 15) {
+        if (rgbBits == 15) {
             pixel = PackRgb555(triples[2], triples[1], triples[0]);
-        } else if (format == 16) {
+        } else if (rgbBits == 16) {
             pixel = PackRgb565(triples[2], triples[1], triples[0]);
         }
         const Pixel16 value = static_cast<Pixel16>(pixel);
@@ -74,7 +74,7 @@ void ConvertTriples(const std::uint8_t* triples, std::int32_t count, std::uint8_
 }
 
 // Reads the pixels the file stands on; 24-bit images leave with bitCount 16. Null on failure.
-std::uint8_t* ReadPixels(std::FILE* file, BmpInfoHeader* info) {
+std::uint8_t* ReadPixels(std::FILE* file, BmpInfoHeader* info, std::int32_t rgbBits) {
     auto* bytes = static_cast<std::uint8_t*>(std::malloc(info->sizeImage));
     if (bytes == nullptr || std::fread(bytes, 1, info->sizeImage, file) != info->sizeImage) {
         std::free(bytes);
@@ -83,7 +83,7 @@ std::uint8_t* ReadPixels(std::FILE* file, BmpInfoHeader* info) {
     if (info->bitCount != 24) {
         return bytes;
     }
-    ConvertTriples(bytes, info->width * info->height, bytes);
+    ConvertTriples(bytes, info->width * info->height, rgbBits, bytes);
     info->bitCount = 16;
     return bytes;
 }
@@ -179,7 +179,7 @@ Texture* NewLevel(std::int32_t width, std::int32_t height) {
 
 } // namespace
 
-int loadBmp(BmpImage* image, const char* path) {
+int loadBmp(BmpImage* image, const char* path, const DisplayFormat& format) {
     std::FILE* const file = OpenDataFile(path, "rb");
     if (file == nullptr) {
         return 0;
@@ -187,7 +187,7 @@ int loadBmp(BmpImage* image, const char* path) {
     BmpHeaders headers;
     std::uint8_t* pixels = nullptr;
     if (ReadHeaders(file, &headers)) {
-        pixels = ReadPixels(file, &headers.info);
+        pixels = ReadPixels(file, &headers.info, format.rgbBits);
     }
     std::fclose(file);
     if (pixels == nullptr) {

@@ -37,12 +37,12 @@ struct BmpImage {
 inline constexpr std::uint32_t kMaxImageBytes = 32U << 20; // of sizeImage; more counts as no memory
 
 // Reads an uncompressed bottom-up image of 8, 16 or 24 bits a pixel; 24-bit pixels become 16-bit
-// ones of the display's format, the others stay as they are. The pixels are the last sizeImage
+// ones of the given format, the others stay as they are. The pixels are the last sizeImage
 // bytes of the file, row padding included in the count but not skipped. 0: no such file, not a BMP,
 // another bit count, width or height below 1, sizeImage below what width and height need or above
 // the file's size or kMaxImageBytes, no memory. A failure keeps the image that was there; a success
 // frees it.
-int loadBmp(BmpImage* image, const char* path);
+int loadBmp(BmpImage* image, const char* path, const DisplayFormat& format);
 int releaseBmp(BmpImage* image); // frees the pixels, keeps the headers; 1
 
 // Zeroed bytes on each side of a texture's pixels: two rows of 16-bit pixels and 256 bytes more, so

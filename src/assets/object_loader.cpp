@@ -268,7 +268,7 @@ bool IsTextureShape(const BmpInfoHeader& info) {
 // Makes the mesh's texture from the named image, or, where that cannot be read or is larger than
 // the fillers can take, in the shape of the image before it. Leaves the mesh without one when there
 // is no such image, or no memory.
-void LoadTexture(Mesh* mesh, const char* textureName) {
+void LoadTexture(Mesh* mesh, const char* textureName, const DisplayFormat& format) {
     char path[std::size(kTextureFolder) + sizeof(Material::textureName)];
     CopyText(path, sizeof path, kTextureFolder);
     CopyText(path + std::size(kTextureFolder) - 1, sizeof(Material::textureName),
@@ -276,7 +276,7 @@ void LoadTexture(Mesh* mesh, const char* textureName) {
     // REQUIRED R23: a texture that cannot be read is black, in the shape of the one read before.
     const BmpFileHeader fileBefore = loaderImage.fileHeader;
     const BmpInfoHeader infoBefore = loaderImage.infoHeader;
-    if (loadBmp(&loaderImage, path) != 0 && !IsTextureShape(loaderImage.infoHeader)) {
+    if (loadBmp(&loaderImage, path, format) != 0 && !IsTextureShape(loaderImage.infoHeader)) {
         releaseBmp(&loaderImage);
         loaderImage.fileHeader = fileBefore;
         loaderImage.infoHeader = infoBefore;
@@ -348,7 +348,7 @@ bool ReadColorShader(Load* load, Material* material) {
     const std::size_t start = std::min(kFileNameStart, std::strlen(reader->line));
     CopyText(material->textureName, sizeof material->textureName, reader->line + start);
     if (load->mesh->texture.single == nullptr) {
-        LoadTexture(load->mesh, material->textureName);
+        LoadTexture(load->mesh, material->textureName, load->request->format);
     }
     return true;
 }
@@ -426,11 +426,12 @@ void SetVertexFlags(Mesh* mesh, const Face& face, std::uint32_t flag) {
 void ApplyMaterial(const Load& load, const Material& material, Face* face) {
     Mesh* const mesh = load.mesh;
     const bool textured = (material.flags & MAT_TEXTURED) != 0;
-    if (displayFormat.bitsPerPixel == 16) {
+    const DisplayFormat& format = load.request->format;
+    if (format.bitsPerPixel == 16) {
         face->flags |= FACE_FLATCOLOR16;
         const std::uint32_t color =
-            textured ? displayFormat.pack(255, 255, 255)
-                     : displayFormat.pack(material.color[3], material.color[2], material.color[1]);
+            textured ? format.pack(255, 255, 255)
+                     : format.pack(material.color[3], material.color[2], material.color[1]);
         face->color = color & 0xFFFF;
     }
     const ShadingClass* shading = &kDefaultClass;
@@ -512,6 +513,22 @@ void FinishObject(Load* load) {
 }
 
 } // namespace
+
+constinit Material materials[kMaxMaterials] = {};
+constinit std::int32_t materialBase = 0;
+constinit BmpImage loaderImage = {};
+
+void ResetMaterials() {
+    for (Material& material : materials) {
+        material = Material{};
+    }
+    materialBase = 0;
+}
+
+void ResetObjectLoader() {
+    releaseBmp(&loaderImage);
+    loaderImage = BmpImage{};
+}
 
 const char* cob::BaseName(const char* name) {
     const char* p = name + std::strlen(name);

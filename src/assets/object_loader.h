@@ -24,11 +24,11 @@ inline constexpr std::uint32_t LOAD_TRANSFORM = 0x400;
 inline constexpr std::uint32_t LOAD_SWAP_UV = 0x800;
 
 struct LoadRequest {
-    const float* scale;    // three factors, or null for none
-    const Vec3* position;  // or null for (0, 0, 0, 1)
-    const Vec3* reserved;  // not used
-    std::uint32_t options; // LOAD_...
-    std::int32_t mipMode;  // 1: mip chain; 0: none; other: see below
+    const float* scale;                // three factors, or null for none
+    const Vec3* position;              // or null for (0, 0, 0, 1)
+    std::uint32_t options;             // LOAD_...
+    std::int32_t mipMode;              // 1: mip chain; 0: none; other: see below
+    DisplayFormat format = kFormat565; // of colours and texels
 };
 // Another mip mode marks the faces mip-mapped and makes no chain: they must not be drawn.
 

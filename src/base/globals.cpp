@@ -7,20 +7,19 @@ namespace ombrel {
 
 namespace {
 
-constexpr DisplayFormat kInitialFormat{16, 16, PackRgb565};
 constexpr Rect kInitialClip{0, 0, 640, 480};
 constexpr ShellState kInitialShell{640, 480, 0, false, 0, 0, 0, 0, 0};
 constexpr FrameState kInitialFrame{0, -1, 1, 0, 0, 0, 0, 10, 0, false, 0.0F, 0.0F};
 
 } // namespace
 
-constinit DisplayFormat displayFormat = kInitialFormat;
+constinit DisplayFormat displayFormat = kFormat565;
 constinit Rect clipRect = kInitialClip;
 constinit ShellState shell = kInitialShell;
 constinit FrameState frame = kInitialFrame;
 
 void ResetDisplayFormat() {
-    displayFormat = kInitialFormat;
+    displayFormat = kFormat565;
 }
 void ResetClipRect() {
     clipRect = kInitialClip;

@@ -29,12 +29,14 @@ constexpr std::uint32_t PackRgb555(std::uint32_t r, std::uint32_t g, std::uint32
 
 using ColorPacker = std::uint32_t (*)(std::uint32_t r, std::uint32_t g, std::uint32_t b);
 
-// What the display offers. Written by OpenDisplay; read by the loaders, the lighting and the text.
+// What a display offers. The loaders, the lighting and the scenes are given the one in force.
 struct DisplayFormat {
     std::int32_t bitsPerPixel; // depth asked for at set-up: 16
     std::int32_t rgbBits;      // 15 (5-5-5) or 16 (5-6-5), as the visible surface reports it
     ColorPacker pack;          // PackRgb555 when rgbBits is 15, else PackRgb565
 };
+inline constexpr DisplayFormat kFormat565{16, 16, PackRgb565};
+// The one in force. Written by OpenDisplay; read by start-up and the scenes.
 extern DisplayFormat displayFormat;
 void ResetDisplayFormat();
 

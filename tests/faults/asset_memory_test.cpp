@@ -65,10 +65,10 @@ TEST_F(AssetMemory, ImageThatFindsNoneLeavesTheOneBefore) {
     const std::int64_t blocks = MissEachBlock([&] {
         const bool counts = failing.active;
         failing.active = false;
-        ASSERT_EQ(loadBmp(&image, "./data/2d/old.bmp"), 1);
+        ASSERT_EQ(loadBmp(&image, "./data/2d/old.bmp", kFormat565), 1);
         failing.active = counts;
         const BmpImage before = image;
-        loaded = loadBmp(&image, "./data/2d/new.bmp");
+        loaded = loadBmp(&image, "./data/2d/new.bmp", kFormat565);
         if (loaded == 0) {
             EXPECT_EQ(image.pixels, before.pixels);
             EXPECT_EQ(std::int32_t{image.infoHeader.width}, 4); // a copy: the header is packed
@@ -114,8 +114,7 @@ TEST_F(AssetMemory, ObjectLoadsWithWhatItFinds) {
     Mesh mesh{};
     MissEachBlock([&] {
         const std::int32_t base = materialBase;
-        loaded = loadObject(&mesh, "./data/3d/box.cob",
-                            LoadRequest{nullptr, nullptr, nullptr, 0x610, 1});
+        loaded = loadObject(&mesh, "./data/3d/box.cob", LoadRequest{nullptr, nullptr, 0x610, 1});
         const bool counts = failing.active;
         failing.active = false;
         failed += loaded == 0 ? 1 : 0;

@@ -88,7 +88,7 @@ bool DrawTexture(const std::string& path, Sheet* sheet, std::string* why) {
     Texture** chain = nullptr;
     *why = "the production cannot make a texture of it";
     bool drawn = false;
-    if (loadBmp(&image, path.c_str()) != 0 && image.infoHeader.bitCount == 16 &&
+    if (loadBmp(&image, path.c_str(), kFormat565) != 0 && image.infoHeader.bitCount == 16 &&
         image.infoHeader.width <= kMaxTextureSize && image.infoHeader.height <= kMaxTextureSize &&
         createTexture(&texture, {0, 0, image.infoHeader.width, image.infoHeader.height, 16}) != 0) {
         copyPixels16(&texture, &image, 0, 0, 1);
@@ -113,7 +113,7 @@ bool DrawTexture(const std::string& path, Sheet* sheet, std::string* why) {
 bool DrawFont(const std::string& path, Sheet* sheet, std::string* why) {
     constexpr std::int32_t kCellWidth = kGlyphWidth + 3, kCellHeight = kGlyphHeight + 12;
     BmpImage image{};
-    if (loadBmp(&image, path.c_str()) == 0 || image.infoHeader.bitCount != 16) {
+    if (loadBmp(&image, path.c_str(), kFormat565) == 0 || image.infoHeader.bitCount != 16) {
         releaseBmp(&image);
         *why = "the production cannot make a font of it";
         return false;

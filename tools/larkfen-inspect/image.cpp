@@ -198,7 +198,7 @@ bool LoadImage(const std::string& path, const char* lost, Report* report, Image*
         std::memcpy(&image->info, image->bytes.data() + sizeof image->file, sizeof image->info);
     }
     const bool accepted = CheckHeaders(*image, report);
-    if ((loadBmp(loaded, path.c_str()) != 0) != accepted) {
+    if ((loadBmp(loaded, path.c_str(), kFormat565) != 0) != accepted) {
         return Fail(report, 0, *image, "the loader and this inspector disagree",
                     "tell the makers of this program");
     }

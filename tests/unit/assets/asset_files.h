@@ -35,13 +35,11 @@ protected:
         SetDataFolder(root_.string());
         ResetMaterials();
         ResetObjectLoader();
-        ResetDisplayFormat();
     }
     ~DataFolderTest() override {
         SetDataFolder(before_);
         ResetMaterials();
         ResetObjectLoader();
-        ResetDisplayFormat();
         std::error_code error;
         std::filesystem::remove_all(root_, error);
     }
@@ -203,7 +201,7 @@ struct CobFile {
 };
 
 inline LoadRequest PlainRequest(std::uint32_t options = 0, std::int32_t mipMode = 0) {
-    return {nullptr, nullptr, nullptr, options, mipMode};
+    return {nullptr, nullptr, options, mipMode};
 }
 
 } // namespace ombrel

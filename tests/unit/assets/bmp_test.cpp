@@ -33,10 +33,11 @@ protected:
 
     int Load(const BmpRecipe& recipe) { return LoadBytes(BmpBytes(recipe)); }
     int LoadBytes(const std::string& bytes) {
-        return loadBmp(&image, Write("image.bmp", bytes).c_str());
+        return loadBmp(&image, Write("image.bmp", bytes).c_str(), format);
     }
 
     BmpImage image = {};
+    DisplayFormat format = kFormat565;
 };
 
 TEST_F(Bmp, RowsAreTurnedOver) {
@@ -59,7 +60,7 @@ TEST_F(Bmp, SixteenBitsStayAsTheyAre) {
     recipe.height = 2;
     recipe.bitCount = 16;
     recipe.pixels = Bytes({0x34, 0x12, 0x78, 0x56});
-    displayFormat.rgbBits = 15;
+    format.rgbBits = 15;
     ASSERT_EQ(Load(recipe), 1);
     EXPECT_EQ(Pixel(image, 0), 0x5678);
     EXPECT_EQ(Pixel(image, 1), 0x1234);
@@ -76,12 +77,12 @@ TEST_F(Bmp, TwentyFourBitsBecomeTheDisplaysFormat) {
     EXPECT_EQ(Pixel(image, 1), 0x07E0);
     EXPECT_EQ(Pixel(image, 2), 0x001F);
     EXPECT_EQ(Pixel(image, 3), (0x56 >> 3) << 11 | (0x34 >> 2) << 5 | (0x12 >> 3));
-    displayFormat.rgbBits = 15;
+    format.rgbBits = 15;
     ASSERT_EQ(Load(recipe), 1);
     EXPECT_EQ(Pixel(image, 0), 0x7C00);
     EXPECT_EQ(Pixel(image, 1), 0x03E0);
     EXPECT_EQ(Pixel(image, 3), (0x56 >> 3) << 10 | (0x34 >> 3) << 5 | (0x12 >> 3));
-    displayFormat.rgbBits = 24;
+    format.rgbBits = 24;
     ASSERT_EQ(Load(recipe), 1);
     EXPECT_EQ(Pixel(image, 0), 0);
     EXPECT_EQ(Pixel(image, 3), 0);
@@ -127,9 +128,9 @@ TEST_F(Bmp, OtherFirstTwoBytesAreRejected) {
         recipe.pixels = std::string(48, 'x');
         EXPECT_EQ(Load(recipe), 0) << type;
     }
-    EXPECT_EQ(loadBmp(&image, "./data/absent.bmp"), 0);
-    EXPECT_EQ(loadBmp(&image, "./data/texture"), 0);
-    EXPECT_EQ(loadBmp(&image, nullptr), 0);
+    EXPECT_EQ(loadBmp(&image, "./data/absent.bmp", kFormat565), 0);
+    EXPECT_EQ(loadBmp(&image, "./data/texture", kFormat565), 0);
+    EXPECT_EQ(loadBmp(&image, nullptr, kFormat565), 0);
 }
 
 TEST_F(Bmp, OtherBitCountsAreRejected) {
@@ -176,7 +177,7 @@ TEST_F(Bmp, MoreThan32MiBCountAsNoMemory) {
         recipe.sizeImage = kMaxImageBytes + more;
         const std::string path = Write("texture/huge.bmp", BmpBytes(recipe));
         std::filesystem::resize_file(Root() / "texture/huge.bmp", 54 + kMaxImageBytes + more);
-        EXPECT_EQ(loadBmp(&image, path.c_str()), more == 0 ? 1 : 0);
+        EXPECT_EQ(loadBmp(&image, path.c_str(), kFormat565), more == 0 ? 1 : 0);
     }
 }
 
@@ -212,9 +213,10 @@ TEST_F(Bmp, ReleaseKeepsHeaders) {
 
 TEST_F(Bmp, TrailingBlanksAndLetterCaseAreForgiven) {
     Write("texture/Wall.BMP", PlainBmp(4, 4, 0));
-    EXPECT_EQ(loadBmp(&image, "./data/texture/wall.bmp  "), 1);
-    EXPECT_EQ(loadBmp(&image, ".\\data\\texture\\wall.bmp"), 1);
-    EXPECT_EQ(loadBmp(&image, "./data/texture/ wall.bmp"), 0) << "a leading blank is part of it";
+    EXPECT_EQ(loadBmp(&image, "./data/texture/wall.bmp  ", kFormat565), 1);
+    EXPECT_EQ(loadBmp(&image, ".\\data\\texture\\wall.bmp", kFormat565), 1);
+    EXPECT_EQ(loadBmp(&image, "./data/texture/ wall.bmp", kFormat565), 0)
+        << "a leading blank is part of it";
 }
 
 // --- textures ----------------------------------------------------------------------------------

@@ -100,7 +100,7 @@ TEST_F(ObjectLoader, PositionAndScaleFromTheCaller) {
     const float scale[3] = {2.0F, 3.0F, 4.0F};
     CobFile file;
     file.vertices[0] = "5 6 7";
-    ASSERT_EQ(Load(&mesh_, file, {scale, &position, nullptr, 0, 0}), 1);
+    ASSERT_EQ(Load(&mesh_, file, {scale, &position, 0, 0}), 1);
     EXPECT_EQ(mesh_.position.x, 1.0F);
     EXPECT_EQ(mesh_.position.z, 3.0F);
     EXPECT_EQ(mesh_.position.w, 4.0F);
@@ -115,7 +115,7 @@ TEST_F(ObjectLoader, ScaleComesAfterTheSwap) {
     const float scale[3] = {2.0F, 3.0F, 4.0F};
     CobFile file;
     file.vertices[0] = "5 6 7";
-    ASSERT_EQ(Load(&mesh_, file, {scale, nullptr, nullptr, LOAD_SWAP_YZ, 0}), 1);
+    ASSERT_EQ(Load(&mesh_, file, {scale, nullptr, LOAD_SWAP_YZ, 0}), 1);
     EXPECT_EQ(PositionOf(mesh_, 0), (Triple{10, 21, 24}));
 }
 
@@ -483,19 +483,21 @@ TEST_F(ObjectLoader, R21_MaterialBaseGrowsByTheCount) {
 }
 
 TEST_F(ObjectLoader, FlatColorOnlyAtSixteenBits) {
-    displayFormat.bitsPerPixel = 32;
+    LoadRequest request = PlainRequest();
+    request.format.bitsPerPixel = 32;
     CobFile file;
     file.materials[0].transparency = "filter";
-    ASSERT_EQ(Load(&mesh_, file), 1);
+    ASSERT_EQ(Load(&mesh_, file, request), 1);
     EXPECT_EQ(mesh_.faces[0].color, 7U << 24);
     EXPECT_EQ(mesh_.faces[0].flags & FACE_FLATCOLOR16, 0U);
 }
 
 TEST_F(ObjectLoader, ThePackerOfTheDisplayIsUsed) {
-    displayFormat.pack = PackRgb555;
+    LoadRequest request = PlainRequest();
+    request.format.pack = PackRgb555;
     CobFile file;
     file.materials[0].rgb = "1,0,0";
-    ASSERT_EQ(Load(&mesh_, file), 1);
+    ASSERT_EQ(Load(&mesh_, file, request), 1);
     EXPECT_EQ(mesh_.faces[0].color, 0x7C00U);
 }
 
