@@ -5,8 +5,7 @@
 
 #include "base/shell_state.h"
 #include "demo/primitives.h"
-#include "demo/scene_one.h"
-#include "demo/scene_two.h"
+#include "demo/scenes.h"
 #include "platform/display.h"
 #include "platform/system.h"
 
@@ -18,19 +17,6 @@ constexpr std::int32_t kLastScene = 6;
 constexpr std::int32_t kAveragedFrames = 10;
 constexpr Pixel16 kBlack = 0;
 constexpr Pixel16 kWhite = 0xFFFF;
-
-void DrawScene(std::int32_t index) {
-    switch (index) {
-    case 0:
-        SceneOne();
-        break;
-    case 1:
-        SceneTwo();
-        break;
-    default: // the back surface stays as it is
-        break;
-    }
-}
 
 struct CrosshairLine {
     Line2d fromCenter;
@@ -106,8 +92,10 @@ int RenderFrame() {
     // Start the clock of the frame.
     FrameClockStart();
 
-    // Draw the scene.
-    DrawScene(frame.sceneIndex);
+    // Draw the scene; where there is none the back surface stays as it is.
+    if (frame.sceneIndex < kSceneCount) {
+        PlayScene(kScenes[frame.sceneIndex]);
+    }
 
     // Draw the crosshair over it, for development only.
     LockFrame();

@@ -30,9 +30,9 @@ Rect CellOf(std::int32_t code, std::int32_t sheetWidth, std::int32_t sheetHeight
     return cell;
 }
 
-void FillFrame(GlyphSet* set, std::int32_t code, const BmpImage& sheet) {
+void FillGlyph(GlyphSet* set, std::int32_t code, const BmpImage& sheet) {
     FrameBuffer memory{};
-    if (LockSurface(set->frames[code], &memory) == 0) {
+    if (LockSurface(set->glyphs[code], &memory) == 0) {
         return;
     }
     const std::int32_t sheetWidth = sheet.infoHeader.width;
@@ -48,12 +48,12 @@ void FillFrame(GlyphSet* set, std::int32_t code, const BmpImage& sheet) {
             std::memcpy(row, sheet.pixels + from, columns * sizeof(Pixel16));
         }
     }
-    UnlockSurface(set->frames[code]);
+    UnlockSurface(set->glyphs[code]);
     set->attributes |= GLYPHS_FILLED;
 }
 
-// Blits the current frame at the set's position.
-void DrawFrame(const GlyphSet& set, Surface* surface) {
+// Blits the current glyph at the set's position.
+void DrawGlyph(const GlyphSet& set, Surface* surface) {
     if ((set.attributes & GLYPHS_VISIBLE) == 0) {
         return;
     }
@@ -62,32 +62,42 @@ void DrawFrame(const GlyphSet& set, Surface* surface) {
     target.top = ToIntChop(set.y);
     target.right = WrappingSum(target.left, set.width);
     target.bottom = WrappingSum(target.top, set.height);
-    BlitKeyed(surface, &target, set.frames[set.currentFrame]);
+    BlitKeyed(surface, &target, set.glyphs[set.currentGlyph]);
 }
 
 } // namespace
 
-int LoadGlyphSet(const char* path, GlyphSet* set) {
-    if (loadBmp(&fontImage, path) == 0 || fontImage.infoHeader.bitCount != 16) {
+constinit Fonts fonts = {};
+constinit BmpImage fontImage = {};
+
+void ResetFonts() {
+    ReleaseGlyphSet(&fonts.big);
+    ReleaseGlyphSet(&fonts.small);
+    releaseBmp(&fontImage);
+    fontImage = BmpImage{};
+}
+
+int LoadGlyphSet(const char* path, GlyphSet* set, const DisplayFormat& format) {
+    if (loadBmp(&fontImage, path, format) == 0 || fontImage.infoHeader.bitCount != 16) {
         return 0;
     }
     ReleaseGlyphSet(set);
     set->width = kGlyphWidth;
     set->height = kGlyphHeight;
-    set->frameCount = kGlyphCount;
+    set->glyphCount = kGlyphCount;
     set->attributes = kGlyphAttributesAtStart;
-    for (Surface*& glyph : set->frames) {
+    for (Surface*& glyph : set->glyphs) {
         glyph = MakeOffscreenSurface(kGlyphWidth, kGlyphHeight, SurfaceMemory::System, kKeyColor);
     }
     for (std::int32_t code = 0; code < kGlyphCount; ++code) {
-        FillFrame(set, code, fontImage);
+        FillGlyph(set, code, fontImage);
     }
     return 1;
 }
 
 void ReleaseGlyphSet(GlyphSet* set) {
-    for (Surface* const frame : set->frames) {
-        ReleaseSurface(frame);
+    for (Surface* const glyph : set->glyphs) {
+        ReleaseSurface(glyph);
     }
     *set = GlyphSet{};
 }
@@ -103,8 +113,8 @@ std::int32_t DrawGlyphText(GlyphSet* set, const TextPlace& place, const char* te
     for (const char* p = text; *p != '\0'; ++p) {
         set->x = static_cast<float>(x);
         set->y = static_cast<float>(y);
-        set->currentFrame = static_cast<unsigned char>(*p);
-        DrawFrame(*set, surface);
+        set->currentGlyph = static_cast<unsigned char>(*p);
+        DrawGlyph(*set, surface);
         x = WrappingSum(x, place.advance);
         width = WrappingSum(width, place.advance);
     }

@@ -15,16 +15,16 @@ inline constexpr std::int32_t kGlyphHeight = 42;
 
 // GlyphSet::attributes
 inline constexpr std::uint32_t GLYPHS_VISIBLE = 0x10; // without it nothing is drawn
-inline constexpr std::uint32_t GLYPHS_FILLED = 0x80;  // a frame has been filled
+inline constexpr std::uint32_t GLYPHS_FILLED = 0x80;  // a glyph has been filled
 inline constexpr std::uint32_t kGlyphAttributesAtStart = 17;
 
 struct GlyphSet {
-    float x, y; // pixels: where the next draw puts the current frame's top-left corner
+    float x, y; // pixels: where the next draw puts the current glyph's top-left corner
     std::int32_t width, height;
-    std::int32_t frameCount;
-    std::int32_t currentFrame; // character code, 0..255
+    std::int32_t glyphCount;
+    std::int32_t currentGlyph; // character code, 0..255
     std::uint32_t attributes;
-    Surface* frames[kGlyphCount];
+    Surface* glyphs[kGlyphCount];
 };
 
 // Written by start-up, read by the scenes. All zero, and so drawing nothing, until a sheet is
@@ -34,12 +34,13 @@ struct Fonts {
     GlyphSet small; // font-48-16px.bmp
 };
 extern Fonts fonts;
-extern BmpImage fontImage; // the sheet read last; its pixels are released by ResetDemo
+extern BmpImage fontImage; // the sheet read last
+void ResetFonts();         // frees glyphs and sheet
 
 // The sheet is a grid of 16 x 16 cells with one-pixel lines between and around them; a cell (or a
 // row of it) that the sheet does not reach stays black. 1, or 0 when the sheet cannot be read or is
 // not 16 bits deep (then the set is left as it was).
-int LoadGlyphSet(const char* path, GlyphSet* set);
+int LoadGlyphSet(const char* path, GlyphSet* set, const DisplayFormat& format);
 void ReleaseGlyphSet(GlyphSet* set); // releases the surfaces, clears the record
 
 // Where a text begins and how far its glyphs are apart, in pixels.

@@ -104,15 +104,15 @@ bool ClipLine(Line2d* line, const Rect& clip) {
     return false;
 }
 
-int DrawClippedLine(const Line2d& line, Pixel16 color, Pixel16* pixels, std::int32_t pitch) {
+int DrawClippedLine(const Line2d& line, Pixel16 color, const Canvas& canvas) {
     Line2d clipped = line;
-    return ClipLine(&clipped, display.clip2d) ? DrawLine(clipped, color, pixels, pitch) : 1;
+    return ClipLine(&clipped, canvas.clip) ? DrawLine(clipped, color, canvas.pixels, canvas.pitch)
+                                           : 1;
 }
 
-int PlotPixel(std::int32_t x, std::int32_t y, Pixel16 color, Pixel16* pixels, std::int32_t pitch) {
-    const Rect& clip = display.clip2d;
-    if (pixels != nullptr && x >= clip.left && x < clip.right && y >= clip.top && y < clip.bottom) {
-        pixels[static_cast<std::ptrdiff_t>(y) * (pitch >> 1) + x] = color;
+int PlotPixel(std::int32_t x, std::int32_t y, Pixel16 color, const Canvas& canvas) {
+    if (canvas.pixels != nullptr && SidesBeyond(x, y, canvas.clip) == 0) {
+        canvas.pixels[static_cast<std::ptrdiff_t>(y) * (canvas.pitch >> 1) + x] = color;
     }
     return 1;
 }

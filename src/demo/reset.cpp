@@ -4,11 +4,17 @@
 #include "assets/mesh.h"
 #include "assets/object_loader.h"
 #include "base/float_mode.h"
+#include "base/memory_reserve.h"
 #include "base/pixel16.h"
 #include "base/random15.h"
 #include "base/rect.h"
 #include "base/shell_state.h"
 #include "demo/blur.h"
+#include "demo/font.h"
+#include "demo/scene_one.h"
+#include "demo/scene_two.h"
+#include "demo/soundtrack.h"
+#include "demo/startup.h"
 #include "demo/world.h"
 #include "math/vec3.h"
 #include "platform/display.h"
@@ -21,7 +27,13 @@
 namespace ombrel {
 
 void ResetWorld() {
-    ResetDemo();
+    ResetSceneWorld();
+    ResetFonts();
+    ResetSceneOne();
+    ResetSceneTwo();
+    ResetStartUp();
+    ResetSoundtrack();
+    ResetMemoryReserve();
     ResetTrackState();
     ResetMaterials();
     ResetObjectLoader();

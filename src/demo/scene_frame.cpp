@@ -125,14 +125,15 @@ void DrawView(FaceList* list, World* scene, View view) {
     if (display.back.pixels == nullptr) {
         return;
     }
+    const Canvas canvas{display.back.pixels, display.back.pitch, display.clip2d};
     switch (view) {
     case View::Nothing:
         break;
     case View::Dots:
-        DrawFaceListDots(list, display.back.pixels, display.back.pitch);
+        DrawFaceListDots(list, canvas);
         break;
     case View::Wire:
-        DrawFaceListWire(list, display.back.pixels, display.back.pitch);
+        DrawFaceListWire(list, canvas);
         break;
     case View::Filled:
         DrawFilled(list, scene);

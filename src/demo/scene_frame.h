@@ -1,5 +1,5 @@
-// What both scenes do in a frame: gather the faces of their objects, between StartFaces and
-// FinishFaces, and draw them. Each scene calls these in its own order.
+// What both scenes do in a frame: gather the faces of their objects, and draw them. Each scene
+// calls the gathering functions in its own order, PlayScene the others.
 #pragma once
 
 #include <cstdint>

@@ -130,12 +130,11 @@ bool FileExists(const char* path) {
     return true;
 }
 
-void LoadSceneObject(Mesh* mesh, const SceneLine& line) {
+void LoadSceneObject(Mesh* mesh, const SceneLine& line, const DisplayFormat& format) {
     const float* const v = line.values;
     const float scale[3] = {v[0] * 0.1F, v[1] * 0.1F, v[2] * 0.1F};
     const Vec3 position{v[3] * 0.1F, v[4] * 0.1F, v[5] * 0.1F, 1.0F};
-    const Vec3 reserved{0.0F, 0.0F, 0.0F, 1.0F};
-    loadObject(mesh, line.path, LoadRequest{scale, &position, &reserved, kListOptions, 0});
+    loadObject(mesh, line.path, LoadRequest{scale, &position, kListOptions, 0, format});
     MeshRotate(mesh, v[6], v[7], v[8], 0);
 }
 
@@ -159,7 +158,7 @@ std::int32_t ReadSceneLine(SceneListText* text, SceneLine* line) {
     return 10;
 }
 
-void LoadSceneList(World* destination, const char* path) {
+void LoadSceneList(World* destination, const char* path, const DisplayFormat& format) {
     const std::string content = ReadWholeFile(path);
     SceneListText text{content.data(), content.data() + content.size()};
     SceneLine line{};
@@ -168,7 +167,7 @@ void LoadSceneList(World* destination, const char* path) {
         if (std::strchr(line.path, '#') != nullptr || !FileExists(line.path)) {
             continue;
         }
-        LoadSceneObject(&destination->objects[destination->objectCounter + 1], line);
+        LoadSceneObject(&destination->objects[destination->objectCounter + 1], line, format);
         ++destination->objectCounter;
     }
     Mesh* const last = &destination->objects[destination->objectCounter];

@@ -41,6 +41,6 @@ std::int32_t ReadSceneLine(SceneListText* text, SceneLine* line);
 // Loads every object of the list that exists into the entries behind world->objectCounter, which
 // then holds the index of the last; ends at the end of the table. The faces of the entry at the
 // counter become two-sided. A missing list loads nothing.
-void LoadSceneList(World* destination, const char* path);
+void LoadSceneList(World* destination, const char* path, const DisplayFormat& format);
 
 } // namespace ombrel

@@ -1,11 +1,11 @@
 // Scene one, step by step.
 #include "demo/scene_one.h"
 
+#include <cstring>
+
 #include "base/convert.h"
 #include "base/shell_state.h"
-#include "demo/blur.h"
 #include "demo/font.h"
-#include "demo/scene_frame.h"
 #include "demo/texts.h"
 #include "platform/display.h"
 
@@ -30,16 +30,6 @@ constexpr std::uint32_t kWhite = 0xFFFF;
 
 constexpr TextPlace kTitlePlace{210.0F, 200.0F, 20};
 constexpr TextPlace kSubtitlePlace{100.0F, 240.0F, 12};
-
-void Start() {
-    sceneOne.started = true;
-    switches.blur = -1;
-    sceneOne.keyCount = TrackLoad("./data/cam/scene1.trk", sceneOne.keys, kMaxTrackKeys);
-    switches.cameraRunning = 1;
-    sceneOne.titleDone = false;
-    CameraSetFov(&world.camera, kStartFov);
-    switches.lightCount = kLights;
-}
 
 std::uint32_t PackFade(const float fade[3]) {
     return PackLightColor(static_cast<std::uint32_t>(ToIntChop(fade[0])),
@@ -81,7 +71,32 @@ void MoveCamera() {
     CameraBuildView(&world.camera, kBuildOrder);
 }
 
-void GatherObjects(FrontEnd* front) {
+} // namespace
+
+constinit SceneOneState sceneOne = {};
+
+void ResetSceneOne() {
+    // Too large for a copy of a start value on the stack.
+    std::memset(static_cast<void*>(&sceneOne), 0, sizeof sceneOne);
+}
+
+void StartSceneOne() {
+    switches.blur = -1;
+    sceneOne.keyCount = TrackLoad("./data/cam/scene1.trk", sceneOne.keys, kMaxTrackKeys);
+    switches.cameraRunning = 1;
+    sceneOne.titleDone = false;
+    CameraSetFov(&world.camera, kStartFov);
+    switches.lightCount = kLights;
+}
+
+bool StepSceneOne() {
+    FadeLights();
+    TestBox();
+    MoveCamera();
+    return true;
+}
+
+void GatherSceneOne(FrontEnd* front) {
     if (sceneOne.insideBox) {
         TurnObject(&world.sky);
         AddObjectInSight(front, &world.sky, world.camera);
@@ -96,7 +111,7 @@ void GatherObjects(FrontEnd* front) {
     }
 }
 
-View ChooseView() {
+View ViewOfSceneOne() {
     if (switches.renderMode1 == 0) {
         return View::Dots;
     }
@@ -106,34 +121,13 @@ View ChooseView() {
     return switches.renderMode1 == 1 && switches.renderMode2 == 1 ? View::Filled : View::Nothing;
 }
 
-// Places are fixed pixels, whatever the resolution.
-void DrawTitles() {
+void OverlaySceneOne() {
+    if (sceneOne.titleDone) {
+        return;
+    }
+    // Places are fixed pixels, whatever the resolution.
     DrawGlyphText(&fonts.big, kTitlePlace, kTitleText, display.backSurface);
     DrawGlyphText(&fonts.small, kSubtitlePlace, kSubtitleText, display.backSurface);
-}
-
-} // namespace
-
-void SceneOne() {
-    if (!sceneOne.started) {
-        Start();
-    }
-    FadeLights();
-    TestBox();
-    MoveCamera();
-    FrontEnd front;
-    StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, switches));
-    GatherObjects(&front);
-    FinishFaces(&front);
-    LockFrame();
-    DrawView(&sceneFaces, &world, ChooseView());
-    if (switches.blur == 1) {
-        BlurFrame(display.back.pixels, world.pitchPixels, shell.screenWidth, shell.screenHeight);
-    }
-    UnlockFrame();
-    if (!sceneOne.titleDone) {
-        DrawTitles();
-    }
 }
 
 } // namespace ombrel

@@ -1,10 +1,10 @@
 // Scene one: the flight along the first track, while the light rises from black and the title
-// stands over it. The frame driver calls it for every frame with scene index 0.
+// stands over it. Played by PlayScene in every frame with scene index 0.
 #pragma once
 
 #include <cstdint>
 
-#include "demo/world.h"
+#include "demo/scene_frame.h"
 
 namespace ombrel {
 
@@ -23,6 +23,13 @@ struct SceneOneState {
 };
 extern SceneOneState sceneOne;
 
-void SceneOne(); // one frame; raises frame.sceneIndex in the frame that passes key 31
+void ResetSceneOne();
+
+// Its row of the scene table. The step raises frame.sceneIndex when the track passes key 31.
+void StartSceneOne();
+bool StepSceneOne();
+void GatherSceneOne(FrontEnd* front);
+View ViewOfSceneOne();
+void OverlaySceneOne();
 
 } // namespace ombrel

@@ -4,10 +4,8 @@
 #include "base/convert.h"
 #include "base/random15.h"
 #include "base/shell_state.h"
-#include "demo/blur.h"
 #include "demo/font.h"
 #include "demo/primitives.h"
-#include "demo/scene_frame.h"
 #include "platform/display.h"
 #include "platform/system.h"
 
@@ -70,21 +68,6 @@ float Cosine(float radians) {
     return static_cast<float>(CosRad(static_cast<double>(radians)));
 }
 
-void Start() {
-    sceneTwo.started = true;
-    sceneTwo.endFlag = false;
-    switches.blur = 1;
-    switches.cameraRunning = 0;
-    sceneTwo.keyCount = TrackLoad("./data/cam/scene2.trk", sceneTwo.keys, kMaxTrackKeys);
-    switches.cameraRunning = 1;
-    world.lights[0].ambientColor = kFirstAmbient;
-    for (int i = 0; i < 5; ++i) {
-        world.lights[1 + i].lightColor = kFirstColors[i];
-    }
-    sceneTwo.startFrame = frame.frameCounter;
-    switches.lightCount = kLights;
-}
-
 // The dots replace the filled view. False when the production is over.
 bool KeepTime() {
     if (frame.frameCounter > sceneTwo.startFrame + kFilledFrames) {
@@ -130,26 +113,6 @@ void MoveLights() {
     PlaceLight(4, Sine(1.0546F * p) * 3500.0F, Sine(1.1203F * p) * 2000.0F);
     PlaceLight(5, Sine(1.48456F * p) * 3345.0F, Cosine(1.1203F * p) * 2845.0F);
     sceneTwo.lightPhase = p + kLightStep;
-}
-
-void GatherObjects(FrontEnd* front) {
-    AddGroundTiles(front, &world.groundAlpha, world.camera, sceneTwo.gridSize);
-    // The last entry is never drawn, and the empty first one is tested and adds nothing.
-    AddListObjects(front, &world);
-    for (Mesh* const object : {&world.stay, &world.skyAlphaS2}) {
-        TurnObject(object);
-        AddObject(front, object);
-    }
-}
-
-View ChooseView() {
-    if (switches.renderMode1 == 0) {
-        return sceneTwo.endFlag ? View::Nothing : View::Dots;
-    }
-    if (switches.renderMode2 == 0) {
-        return View::Wire;
-    }
-    return switches.renderMode2 == 1 ? View::Filled : View::Nothing;
 }
 
 void DrawSmall(float x, float y, const char* text) {
@@ -266,27 +229,72 @@ void DrawBorder() {
     FillSurfaceRect({0, h - kBorder, w, h}, black, display.backSurface);
 }
 
+constexpr float kFirstSpeeds[kGreetingColumns] = {0.0356464F, 0.0243451F, 0.0245641F,
+                                                  0.0198741F, 0.0304854F, 0.0446551F};
+
+constexpr SceneTwoState InitialSceneTwo() {
+    SceneTwoState initial{};
+    initial.lightPhase = 60.0F;
+    initial.gridSize = 8;
+    for (int k = 0; k < kGreetingColumns; ++k) {
+        initial.columns[k] = {0.0F, kFirstSpeeds[k], 0, true};
+    }
+    return initial;
+}
+constexpr SceneTwoState kInitialSceneTwo = InitialSceneTwo();
+
 } // namespace
 
-void SceneTwo() {
-    if (!sceneTwo.started) {
-        Start();
+constinit SceneTwoState sceneTwo = kInitialSceneTwo;
+
+void ResetSceneTwo() {
+    sceneTwo = kInitialSceneTwo;
+}
+
+void StartSceneTwo() {
+    sceneTwo.endFlag = false;
+    switches.blur = 1;
+    switches.cameraRunning = 0;
+    sceneTwo.keyCount = TrackLoad("./data/cam/scene2.trk", sceneTwo.keys, kMaxTrackKeys);
+    switches.cameraRunning = 1;
+    world.lights[0].ambientColor = kFirstAmbient;
+    for (int i = 0; i < 5; ++i) {
+        world.lights[1 + i].lightColor = kFirstColors[i];
     }
+    sceneTwo.startFrame = frame.frameCounter;
+    switches.lightCount = kLights;
+}
+
+bool StepSceneTwo() {
     if (!KeepTime()) {
-        return;
+        return false;
     }
     MoveCamera();
     MoveLights();
-    FrontEnd front;
-    StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, switches));
-    GatherObjects(&front);
-    FinishFaces(&front);
-    LockFrame();
-    DrawView(&sceneFaces, &world, ChooseView());
-    if (switches.blur == 1) {
-        BlurFrame(display.back.pixels, world.pitchPixels, shell.screenWidth, shell.screenHeight);
+    return true;
+}
+
+void GatherSceneTwo(FrontEnd* front) {
+    AddGroundTiles(front, &world.groundAlpha, world.camera, sceneTwo.gridSize);
+    // The last entry is never drawn, and the empty first one is tested and adds nothing.
+    AddListObjects(front, &world);
+    for (Mesh* const object : {&world.stay, &world.skyAlphaS2}) {
+        TurnObject(object);
+        AddObject(front, object);
     }
-    UnlockFrame();
+}
+
+View ViewOfSceneTwo() {
+    if (switches.renderMode1 == 0) {
+        return sceneTwo.endFlag ? View::Nothing : View::Dots;
+    }
+    if (switches.renderMode2 == 0) {
+        return View::Wire;
+    }
+    return switches.renderMode2 == 1 ? View::Filled : View::Nothing;
+}
+
+void OverlaySceneTwo() {
     DrawTexts();
     DrawBorder();
     LockFrame();

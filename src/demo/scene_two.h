@@ -1,5 +1,5 @@
 // Scene two: a second flight under moving lights, three layers of text, then the end. It times
-// itself by frames. The frame driver calls it for every frame with scene index 1.
+// itself by frames. Played by PlayScene in every frame with scene index 1.
 #pragma once
 
 #include <cstdint>
@@ -51,8 +51,14 @@ struct SceneTwoState {
 };
 extern SceneTwoState sceneTwo;
 
-// One frame. Returns with the back surface locked, except in the frame that posts the quit message
-// and draws nothing.
-void SceneTwo();
+void ResetSceneTwo();
+
+// Its row of the scene table. The step is false in the frame that posts the quit message; the
+// overlay leaves the back surface locked.
+void StartSceneTwo();
+bool StepSceneTwo();
+void GatherSceneTwo(FrontEnd* front);
+View ViewOfSceneTwo();
+void OverlaySceneTwo();
 
 } // namespace ombrel

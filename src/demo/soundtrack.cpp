@@ -14,6 +14,12 @@ constexpr std::uint32_t kFrequency = 44100;
 
 } // namespace
 
+constinit SoundtrackState soundtrack = {};
+
+void ResetSoundtrack() {
+    soundtrack = {};
+}
+
 void StartSoundtrack() {
     const SoundCalls& calls = *Sound();
     if (calls.getVersion() >> 16 != kSoundVersion) {

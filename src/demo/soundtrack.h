@@ -11,6 +11,7 @@ struct SoundtrackState {
     std::uint32_t stream; // 0: none. Written by StartSoundtrack, read by StopSoundtrack.
 };
 extern SoundtrackState soundtrack;
+void ResetSoundtrack();
 
 // Says by a box when the library has another version, and when there is no device; then the silent
 // device is taken. A missing or broken file plays nothing and is not reported.

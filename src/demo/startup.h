@@ -7,13 +7,14 @@
 
 namespace ombrel {
 
-// Set by StartUp. The first two are kept as they always were; no step of a frame reads them.
+// Set by StartUp. No step of a frame reads the first two.
 struct StartUpState {
     Vec3 marker;                   // (20, 20, 20, 1)
     float cameraStart;             // (180 - field of view) * 0.3 / 90
     std::int32_t cursorX, cursorY; // where the cursor is after it was parked, pixels
 };
 extern StartUpState startUp;
+void ResetStartUp();
 
 // Display, random numbers, tables, camera, lights, depth buffer, float mode, objects, scene list,
 // fonts, cursor, sound, start tick, in this order. Whatever cannot be had is left empty. Returns 1.

@@ -43,6 +43,6 @@ struct SceneSwitches {
 };
 extern SceneSwitches switches;
 
-void ResetDemo(); // frees what start-up made, then every variable of demo at its initial value
+void ResetSceneWorld(); // frees objects and depth buffer; all three variables as at process start
 
 } // namespace ombrel

@@ -8,6 +8,7 @@
 #include "demo/reset.h"
 #include "demo/scene_one.h"
 #include "demo/scene_two.h"
+#include "demo/scenes.h"
 #include "demo/startup.h"
 #include "scene/camera.h"
 #include "support/hand_made_data.h"
@@ -35,7 +36,7 @@ protected:
     static std::int64_t FramesOfSceneOne() {
         std::int64_t frames = 0;
         while (frame.sceneIndex == 0 && frames < 100000) {
-            SceneOne();
+            PlayScene(kScenes[0]);
             ++frame.frameCounter;
             ++frames;
         }
@@ -134,7 +135,7 @@ TEST_F(HandOver, R31_SceneTwoStartsWhereTheSharedSamplingStands) {
         steps[33] = row.step33;
         Start(TrackOfSteps(steps), TrackOfSteps(std::vector<const char*>(row.keys, "0.125")));
         FramesOfSceneOne();
-        SceneTwo();
+        PlayScene(kScenes[1]);
         EXPECT_EQ(trackSegment, row.segment) << row.step33 << " " << row.keys;
         EXPECT_EQ(trackT, row.t + 0.125F) << row.step33 << " " << row.keys;
         // Keys stand at x 0, 1, 2 ...: with equal spacing the spline goes straight.

@@ -358,10 +358,9 @@ void DrawLights(Gallery* g) {
         RunPipeline(list, all ? lights : &lights[i], all ? kLightCount : 1);
         DrawList(g, frame, DRAW_INV_DEPTH | DRAW_PATH_1);
     }
-    display.clip2d = {0, 0, kCellWidth, kCellHeight};
-    DrawFaceListDots(list, BeginCell(g, "dots", DepthRule::W), g->sheet.Pitch());
-    DrawFaceListWire(list, BeginCell(g, "wires", DepthRule::W), g->sheet.Pitch());
-    ResetDisplayState();
+    const Rect cell{0, 0, kCellWidth, kCellHeight};
+    DrawFaceListDots(list, {BeginCell(g, "dots", DepthRule::W), g->sheet.Pitch(), cell});
+    DrawFaceListWire(list, {BeginCell(g, "wires", DepthRule::W), g->sheet.Pitch(), cell});
 }
 
 } // namespace

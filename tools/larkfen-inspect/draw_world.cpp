@@ -164,9 +164,9 @@ void DrawTurntable(Stage* stage, Mesh* mesh, bool sky) {
         Gather(mesh);
         RunPipeline(stage);
         if (wires) {
-            display.clip2d = {0, 0, kCell, kCell};
-            DrawFaceListWire(&sceneFaces, stage->sheet->At(area.x, area.y), stage->sheet->Pitch());
-            ResetDisplayState();
+            DrawFaceListWire(
+                &sceneFaces,
+                {stage->sheet->At(area.x, area.y), stage->sheet->Pitch(), {0, 0, kCell, kCell}});
         } else {
             DrawFilled(stage, area);
         }

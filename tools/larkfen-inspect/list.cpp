@@ -148,7 +148,7 @@ void LoadFixed() {
     for (const FixedObject& object : kFixedObjects) {
         Mesh* const mesh = &(world.*object.mesh);
         loadObject(mesh, object.path,
-                   LoadRequest{object.scale, &object.position, nullptr, kFixedOptions, 0});
+                   LoadRequest{object.scale, &object.position, kFixedOptions, 0});
         MeshRotate(mesh, 0.0F, 0.0F, 90.0F, 0);
     }
 }
@@ -163,7 +163,7 @@ std::vector<bool> LoadOneByOne(const std::vector<Entry>& entries) {
     for (const Entry& entry : entries) {
         Mesh mesh;
         loaded.push_back(loadObject(&mesh, entry.line.path,
-                                    LoadRequest{nullptr, nullptr, nullptr, kListOptions, 0}) != 0);
+                                    LoadRequest{nullptr, nullptr, kListOptions, 0}) != 0);
         releaseObject(&mesh);
     }
     return loaded;
@@ -231,7 +231,7 @@ void ListTable(const std::vector<Entry>& entries, Report* report) {
 
 void ResetWorldOfTool() {
     if (worldLoaded) {
-        ResetDemo();
+        ResetSceneWorld();
     }
     worldLoaded = false;
     ResetMaterials();
@@ -242,7 +242,7 @@ void LoadWorld(const std::string& listPath) {
     ResetWorldOfTool();
     worldLoaded = true;
     LoadFixed();
-    LoadSceneList(&world, listPath.c_str());
+    LoadSceneList(&world, listPath.c_str(), kFormat565);
 }
 
 void InspectList(const std::string& path, Report* report) {

@@ -28,7 +28,6 @@ class FaceViews : public testing::Test {
 protected:
     void SetUp() override {
         ResetWorld();
-        display.clip2d = {0, 0, kWidth, kHeight};
         FaceListClear(list.get());
     }
     RenderFace* Add(Corner a, Corner b, Corner c, std::uint32_t color = 0x0707) {
@@ -44,8 +43,12 @@ protected:
         }
         return face;
     }
-    void Dots() { DrawFaceListDots(list.get(), pixels.data(), kWidth * 2); }
-    void Wire() { DrawFaceListWire(list.get(), pixels.data(), kWidth * 2); }
+    void Dots() {
+        DrawFaceListDots(list.get(), {pixels.data(), kWidth * 2, {0, 0, kWidth, kHeight}});
+    }
+    void Wire() {
+        DrawFaceListWire(list.get(), {pixels.data(), kWidth * 2, {0, 0, kWidth, kHeight}});
+    }
     Points Drawn() const {
         Points points;
         for (int i = 0; i < kWidth * kHeight; ++i) {

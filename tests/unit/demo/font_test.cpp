@@ -48,7 +48,7 @@ protected:
         return count;
     }
     GlyphSet* Load() {
-        EXPECT_EQ(LoadGlyphSet("./data/2d/font.bmp", &fonts.big), 1);
+        EXPECT_EQ(LoadGlyphSet("./data/2d/font.bmp", &fonts.big, kFormat565), 1);
         return &fonts.big;
     }
     DataFolderForTest folder;
@@ -60,7 +60,7 @@ TEST_F(Font, RecordAfterLoading) {
     const GlyphSet* const set = Load();
     EXPECT_EQ(set->width, 48);
     EXPECT_EQ(set->height, 42);
-    EXPECT_EQ(set->frameCount, 256);
+    EXPECT_EQ(set->glyphCount, 256);
     EXPECT_EQ(set->attributes, 17U | 0x80U);
     EXPECT_EQ(set->x, 0.0F);
     EXPECT_EQ(set->y, 0.0F);
@@ -70,14 +70,14 @@ TEST_F(Font, EveryFrameIsItsCell) {
     GlyphSet* const set = Load();
     for (std::int32_t code = 0; code < 256; ++code) {
         FrameBuffer memory{};
-        ASSERT_EQ(LockSurface(set->frames[code], &memory), 1);
+        ASSERT_EQ(LockSurface(set->glyphs[code], &memory), 1);
         for (std::int32_t y = 0; y < 42; ++y) {
             for (std::int32_t x = 0; x < 48; ++x) {
                 const int expected = x == kMarkX && y == kMarkY ? kBigMark + code : 0;
                 ASSERT_EQ(memory.pixels[y * (memory.pitch / 2) + x], expected) << code;
             }
         }
-        UnlockSurface(set->frames[code]);
+        UnlockSurface(set->glyphs[code]);
     }
 }
 
@@ -152,7 +152,7 @@ TEST_F(Font, InvisibleSetDrawsNothingAndReportsItsWidth) {
 }
 
 TEST_F(Font, MissingSheetLeavesTheSetEmpty) {
-    EXPECT_EQ(LoadGlyphSet("./data/2d/none.bmp", &fonts.small), 0);
+    EXPECT_EQ(LoadGlyphSet("./data/2d/none.bmp", &fonts.small, kFormat565), 0);
     EXPECT_EQ(fonts.small.attributes, 0U);
     EXPECT_EQ(DrawGlyphText(&fonts.small, {0, 0, 12}, "abc", target), 36);
     EXPECT_EQ(CountDrawn(), 0);
@@ -161,7 +161,7 @@ TEST_F(Font, MissingSheetLeavesTheSetEmpty) {
 TEST_F(Font, SheetThatIsTooSmallGivesWhatItHas) {
     std::string sheet = BmpText(52, 20, 255, 255, 255);
     folder.Write("2d/tiny.bmp", sheet);
-    ASSERT_EQ(LoadGlyphSet("./data/2d/tiny.bmp", &fonts.small), 1);
+    ASSERT_EQ(LoadGlyphSet("./data/2d/tiny.bmp", &fonts.small, kFormat565), 1);
     DrawGlyphText(&fonts.small, {0, 0, 100}, std::string("\x01\x02\x40", 3).c_str(), target);
     EXPECT_EQ(At(0, 0), 0xFFFF); // second cell: columns 50 and 51 of rows 1 to 19
     EXPECT_EQ(At(1, 18), 0xFFFF);
@@ -174,7 +174,7 @@ TEST_F(Font, SheetOf8BitsIsRefused) {
     std::string sheet = FontSheet(kBigMark);
     sheet[28] = 8;
     folder.Write("2d/eight.bmp", sheet);
-    EXPECT_EQ(LoadGlyphSet("./data/2d/eight.bmp", &fonts.small), 0);
+    EXPECT_EQ(LoadGlyphSet("./data/2d/eight.bmp", &fonts.small, kFormat565), 0);
 }
 
 // Where whole numbers end, a width wraps and a glyph that would reach further is not drawn.

@@ -26,7 +26,6 @@ protected:
     void SetUp() override {
         ResetWorld();
         ResetOffscreen();
-        display.clip2d = {0, 0, kWidth, kHeight};
     }
     // Every pixel that is not 0, the padding of the rows included.
     Points Drawn() const {
@@ -39,6 +38,7 @@ protected:
         return points;
     }
     std::vector<Pixel16> pixels = std::vector<Pixel16>(kPitch / 2 * kHeight, 0);
+    Canvas canvas{pixels.data(), kPitch, {0, 0, kWidth, kHeight}};
 };
 
 TEST_F(Primitives, HorizontalLineIsShallowAndWritesDxPlusOne) {
@@ -125,7 +125,7 @@ TEST_F(Primitives, LineInsideTheClipRectangleIsDrawnUnchanged) {
     for (int i = 0; i < 500; ++i) {
         const Line2d line{i * 7 % kWidth, i * 3 % kHeight, i * 11 % kWidth, i * 5 % kHeight};
         std::fill(pixels.begin(), pixels.end(), Pixel16{0});
-        EXPECT_EQ(DrawClippedLine(line, 1, pixels.data(), kPitch), 1);
+        EXPECT_EQ(DrawClippedLine(line, 1, canvas), 1);
         ASSERT_EQ(Drawn(), Reference(line));
     }
 }
@@ -134,7 +134,7 @@ TEST_F(Primitives, LineOutsideIsRejectedAndStillReturns1) {
     for (const Line2d line : {Line2d{-5, 3, -1, 20}, Line2d{kWidth, 3, kWidth + 9, 20},
                               Line2d{3, -9, 20, -1}, Line2d{3, kHeight, 20, kHeight + 4},
                               Line2d{-10, 5, 5, -10}, Line2d{kWidth + 5, 0, kWidth - 1, -9}}) {
-        EXPECT_EQ(DrawClippedLine(line, 1, pixels.data(), kPitch), 1);
+        EXPECT_EQ(DrawClippedLine(line, 1, canvas), 1);
         EXPECT_EQ(Drawn(), Points{});
     }
 }
@@ -142,30 +142,30 @@ TEST_F(Primitives, LineOutsideIsRejectedAndStillReturns1) {
 TEST_F(Primitives, NothingIsInsideAClipRectangleWithoutPixels) {
     for (const Rect& clip : {Rect{5, 5, 5, 20}, Rect{5, 5, 20, 5}, Rect{20, 5, 5, 20},
                              Rect{5, 20, 20, 5}, Rect{0, 0, 0, 0}}) {
-        display.clip2d = clip;
-        EXPECT_EQ(DrawClippedLine({0, 0, kWidth - 1, kHeight - 1}, 1, pixels.data(), kPitch), 1);
-        EXPECT_EQ(DrawClippedLine({5, 5, 5, 5}, 1, pixels.data(), kPitch), 1);
-        EXPECT_EQ(PlotPixel(5, 5, 1, pixels.data(), kPitch), 1);
+        canvas.clip = clip;
+        EXPECT_EQ(DrawClippedLine({0, 0, kWidth - 1, kHeight - 1}, 1, canvas), 1);
+        EXPECT_EQ(DrawClippedLine({5, 5, 5, 5}, 1, canvas), 1);
+        EXPECT_EQ(PlotPixel(5, 5, 1, canvas), 1);
         EXPECT_EQ(Drawn(), Points{});
     }
 }
 
 TEST_F(Primitives, CutLinesReachTheEdgesExactly) {
-    DrawClippedLine({-100, 7, 100, 7}, 1, pixels.data(), kPitch);
+    DrawClippedLine({-100, 7, 100, 7}, 1, canvas);
     Points row;
     for (int x = 0; x < kWidth; ++x) {
         row.insert({x, 7});
     }
     EXPECT_EQ(Drawn(), row);
     std::fill(pixels.begin(), pixels.end(), Pixel16{0});
-    DrawClippedLine({7, 100, 7, -100}, 1, pixels.data(), kPitch);
+    DrawClippedLine({7, 100, 7, -100}, 1, canvas);
     Points column;
     for (int y = 0; y < kHeight; ++y) {
         column.insert({7, y});
     }
     EXPECT_EQ(Drawn(), column);
     std::fill(pixels.begin(), pixels.end(), Pixel16{0});
-    DrawClippedLine({-10, -10, 100, 100}, 1, pixels.data(), kPitch);
+    DrawClippedLine({-10, -10, 100, 100}, 1, canvas);
     Points diagonal;
     for (int i = 0; i < kHeight; ++i) {
         diagonal.insert({i, i});
@@ -186,7 +186,7 @@ TEST_F(Primitives, WildLinesStayInsideAndOnTheLine) {
         };
         const Line2d line{any(), any(), any(), any()};
         std::fill(pixels.begin(), pixels.end(), Pixel16{0});
-        ASSERT_EQ(DrawClippedLine(line, 1, pixels.data(), kPitch), 1);
+        ASSERT_EQ(DrawClippedLine(line, 1, canvas), 1);
         for (const auto& [x, y] : Drawn()) {
             ASSERT_LT(x, kWidth);
             if (reach <= 5000) {
@@ -204,28 +204,28 @@ TEST_F(Primitives, WildLinesStayInsideAndOnTheLine) {
 TEST_F(Primitives, FarthestCoordinatesAreHarmless) {
     for (const int x : {INT32_MIN, INT32_MAX, 0}) {
         for (const int y : {INT32_MIN, INT32_MAX, 5}) {
-            EXPECT_EQ(DrawClippedLine({x, y, 10, 10}, 1, pixels.data(), kPitch), 1);
-            EXPECT_EQ(DrawClippedLine({10, 10, x, y}, 1, pixels.data(), kPitch), 1);
-            EXPECT_EQ(PlotPixel(x, y, 1, pixels.data(), kPitch), 1);
+            EXPECT_EQ(DrawClippedLine({x, y, 10, 10}, 1, canvas), 1);
+            EXPECT_EQ(DrawClippedLine({10, 10, x, y}, 1, canvas), 1);
+            EXPECT_EQ(PlotPixel(x, y, 1, canvas), 1);
         }
     }
 }
 
 TEST_F(Primitives, PlotPixelKeepsInsideTheClipRectangle) {
-    EXPECT_EQ(PlotPixel(kWidth, 5, 1, pixels.data(), kPitch), 1);
-    PlotPixel(5, kHeight, 1, pixels.data(), kPitch);
-    PlotPixel(-1, 5, 1, pixels.data(), kPitch);
-    PlotPixel(5, -1, 1, pixels.data(), kPitch);
+    EXPECT_EQ(PlotPixel(kWidth, 5, 1, canvas), 1);
+    PlotPixel(5, kHeight, 1, canvas);
+    PlotPixel(-1, 5, 1, canvas);
+    PlotPixel(5, -1, 1, canvas);
     EXPECT_EQ(Drawn(), Points{});
-    PlotPixel(0, 0, 1, pixels.data(), kPitch);
-    PlotPixel(kWidth - 1, kHeight - 1, 1, pixels.data(), kPitch);
+    PlotPixel(0, 0, 1, canvas);
+    PlotPixel(kWidth - 1, kHeight - 1, 1, canvas);
     EXPECT_EQ(Drawn(), (Points{{0, 0}, {kWidth - 1, kHeight - 1}}));
 }
 
 TEST_F(Primitives, NothingIsDrawnWithoutPixels) {
     EXPECT_EQ(DrawLine({0, 0, 5, 5}, 1, nullptr, 0), 1);
-    EXPECT_EQ(DrawClippedLine({0, 0, 5, 5}, 1, nullptr, 0), 1);
-    EXPECT_EQ(PlotPixel(1, 1, 1, nullptr, 0), 1);
+    EXPECT_EQ(DrawClippedLine({0, 0, 5, 5}, 1, {nullptr, 0, canvas.clip}), 1);
+    EXPECT_EQ(PlotPixel(1, 1, 1, {nullptr, 0, canvas.clip}), 1);
     EXPECT_EQ(FillSurfaceRect({0, 0, 5, 5}, 1, nullptr), 1);
 }
 

@@ -143,13 +143,12 @@ protected:
     void SetUp() override {
         ResetWorld();
         InitTrigTables();
-        displayFormat.bitsPerPixel = 16;
         folder.Write("3d/box.cob", BoxCob(1, false, {1, 1, 1, "constant", -1, nullptr}));
     }
     void TearDown() override { ResetWorld(); }
     void Load(const std::string& list) {
         folder.Write("scene1.po", list);
-        LoadSceneList(&world, "./data/scene1.po");
+        LoadSceneList(&world, "./data/scene1.po", kFormat565);
     }
     DataFolderForTest folder;
     ScopedFloatMode chop{FloatMode::Chop};
@@ -253,7 +252,7 @@ TEST_F(SceneListFile, LongListEndsAtTheEndOfTheTable) {
 }
 
 TEST_F(SceneListFile, MissingListLoadsNothing) {
-    LoadSceneList(&world, "./data/scene1.po");
+    LoadSceneList(&world, "./data/scene1.po", kFormat565);
     EXPECT_EQ(world.objectCounter, 11);
 }
 

@@ -10,6 +10,7 @@
 #include "base/shell_state.h"
 #include "demo/font.h"
 #include "demo/reset.h"
+#include "demo/scenes.h"
 #include "demo/startup.h"
 #include "demo/texts.h"
 #include "platform/offscreen/offscreen.h"
@@ -65,7 +66,7 @@ TEST_F(SceneOneTest, FirstCallSetsUp) {
     StartUp();
     switches.blur = 1;
     switches.lightCount = 5;
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_EQ(switches.blur, -1);
     EXPECT_EQ(switches.lightCount, 2);
     EXPECT_EQ(switches.cameraRunning, 1);
@@ -79,7 +80,7 @@ TEST_F(SceneOneTest, WithoutATrackTheCameraStaysWithItsFirstField) {
     folder.Remove("cam/scene1.trk");
     StartUp();
     for (int i = 0; i < 50; ++i) {
-        SceneOne();
+        PlayScene(kScenes[0]);
     }
     EXPECT_EQ(sceneOne.keyCount, 0);
     EXPECT_EQ(world.camera.fov, 146.5F);
@@ -94,7 +95,7 @@ TEST_F(SceneOneTest, TracksOfOneAndTwoKeysLeaveTheCameraToo) {
         folder.Write("cam/scene1.trk", PlainTrack(keys, "1"));
         StartUp();
         for (int i = 0; i < 40; ++i) {
-            SceneOne();
+            PlayScene(kScenes[0]);
         }
         EXPECT_EQ(sceneOne.keyCount, keys);
         EXPECT_EQ(world.camera.position.y, 0.0F);
@@ -105,7 +106,7 @@ TEST_F(SceneOneTest, TracksOfOneAndTwoKeysLeaveTheCameraToo) {
 TEST_F(SceneOneTest, LongTrackIsCutToTheTable) {
     folder.Write("cam/scene1.trk", PlainTrack(kMaxTrackKeys + 100, "1"));
     StartUp();
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_EQ(sceneOne.keyCount, kMaxTrackKeys);
 }
 
@@ -135,7 +136,7 @@ TEST_F(SceneOneTest, FadeValuesFrameByFrame) {
         {700, {144, 128, 144, 231, 219, 173}},
     };
     for (int f = 0; f <= 700; ++f) {
-        SceneOne();
+        PlayScene(kScenes[0]);
         if (expected.count(f) != 0) {
             const auto& e = expected.at(f);
             EXPECT_EQ(world.lights[0].ambientColor, PackLightColor(e[0], e[1], e[2])) << f;
@@ -160,7 +161,7 @@ TEST_F(SceneOneTest, TitlesKeepTheirPixelsAtEveryResolution) {
         shell.screenWidth = width;
         shell.screenHeight = height;
         StartUp();
-        SceneOne();
+        PlayScene(kScenes[0]);
         EXPECT_TRUE(TitleStands()) << width;
     }
 }
@@ -170,7 +171,7 @@ TEST_F(SceneOneTest, SmallResolutionCutsTheTitles) {
     shell.screenWidth = 320;
     shell.screenHeight = 240;
     StartUp();
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_EQ(At(210 + kMarkX, 200 + kMarkY), kBigMark + 0xAB);
 }
 
@@ -181,17 +182,17 @@ TEST_F(SceneOneTest, R43_OutsideTheBoxTheGroundIsWhiteAFrameLate) {
                                               {0, 200, 0, 0, 0, 0, 90, "1"},
                                               {0, 200, 0, 0, 0, 0, 90, "1"}}));
     StartUp();
-    SceneOne(); // the eye goes to z 3600, the test saw the origin
+    PlayScene(kScenes[0]); // the eye goes to z 3600, the test saw the origin
     EXPECT_TRUE(sceneOne.insideBox);
     EXPECT_EQ(sceneOne.gridSize, 8);
     EXPECT_EQ(At(5, 5), 0);
-    SceneOne(); // the eye comes back, the test sees 3600
+    PlayScene(kScenes[0]); // the eye comes back, the test sees 3600
     EXPECT_FALSE(sceneOne.insideBox);
     EXPECT_EQ(sceneOne.gridSize, 6);
     EXPECT_EQ(At(5, 5), 0xFFFF);
     EXPECT_EQ(At(639, 479), 0xFFFF);
     EXPECT_EQ(world.camera.position.z, 0.0F);
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_TRUE(sceneOne.insideBox);
     EXPECT_EQ(At(5, 5), 0xFFFF); // nothing clears it inside
 }
@@ -210,7 +211,7 @@ TEST_F(SceneOneTest, BoxIsStrictOnEverySide) {
     };
     for (const auto& c : cases) {
         world.camera.position = c.eye;
-        SceneOne();
+        PlayScene(kScenes[0]);
         EXPECT_EQ(sceneOne.insideBox, c.inside) << c.eye.x << " " << c.eye.y << " " << c.eye.z;
     }
 }
@@ -233,13 +234,13 @@ TEST_F(SceneOneTest, InsideTheSkyOutsideTheStandAndTheVeil) {
     folder.Remove("cam/scene1.trk");
     StartUp();
     world.camera.position = {0, 200, 0, 1};
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_GT(FacesOf(world.sky), 0);
     EXPECT_EQ(FacesOf(world.skyAlpha0), 0);
     EXPECT_EQ(FacesOf(world.stay), 0);
     const float turned = world.sky.vertices[0].x;
     world.camera.position = {0, 5000, 0, 1};
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_EQ(FacesOf(world.sky), 0);
     EXPECT_GT(FacesOf(world.skyAlpha0), 0);
     EXPECT_GT(FacesOf(world.stay), 0);
@@ -258,7 +259,7 @@ TEST_F(SceneOneTest, ViewsBySwitch) {
         switches.renderMode1 = c.mode1;
         switches.renderMode2 = c.mode2;
         world.depth[0] = 0xDEAD;
-        SceneOne();
+        PlayScene(kScenes[0]);
         // Only the filled view clears the depth buffer.
         EXPECT_EQ(world.depth[0] == 0, c.filled) << c.mode1 << " " << c.mode2;
     }
@@ -272,12 +273,12 @@ TEST_F(SceneOneTest, DotsAndWiresReachThePicture) {
         switches.renderMode2 = view == 1 ? 0 : 1;
         FillSurface(display.backSurface, 0, nullptr);
         for (int i = 0; i < 60; ++i) {
-            SceneOne();
+            PlayScene(kScenes[0]);
         }
         FillSurface(display.backSurface, 0, nullptr);
         sceneOne.titleDone = true;
         sceneOne.ambientFade[1] = 200;
-        SceneOne();
+        PlayScene(kScenes[0]);
         LockFrame();
         for (int i = 0; i < 640 * 480; ++i) {
             lit[view] += display.back.pixels[i] != 0 ? 1 : 0;
@@ -292,14 +293,14 @@ TEST_F(SceneOneTest, DotsAndWiresReachThePicture) {
 TEST_F(SceneOneTest, BlurRunsWhenItsSwitchIs1) {
     RemoveObjects();
     StartUp();
-    SceneOne();
+    PlayScene(kScenes[0]);
     FillSurface(display.backSurface, 0, nullptr);
     const Rect dot{100, 100, 101, 101};
     FillSurface(display.backSurface, 0xFFFF, &dot);
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_EQ(At(100, 100), 0xFFFF);
     switches.blur = 1;
-    SceneOne();
+    PlayScene(kScenes[0]);
     // A quarter goes to the row above, and of two such quarters comes back.
     EXPECT_EQ(At(98, 99), 7 << 11 | 15 << 5 | 7);
     EXPECT_EQ(At(100, 100), 3 << 11 | 7 << 5 | 3);
@@ -309,10 +310,10 @@ TEST_F(SceneOneTest, HandsOverInTheCallThatPassesKey31) {
     folder.Write("cam/scene1.trk", PlainTrack(35, "1"));
     StartUp();
     for (int f = 0; f < 32; ++f) {
-        SceneOne();
+        PlayScene(kScenes[0]);
         EXPECT_EQ(frame.sceneIndex, 0) << f;
     }
-    SceneOne();
+    PlayScene(kScenes[0]);
     EXPECT_EQ(frame.sceneIndex, 1);
     EXPECT_EQ(trackSegment, 32);
     EXPECT_EQ(world.camera.position.z, 330.0F); // exactly at key 33
@@ -322,7 +323,7 @@ TEST_F(SceneOneTest, With34KeysItLoopsForEver) {
     folder.Write("cam/scene1.trk", PlainTrack(34, "1"));
     StartUp();
     for (int f = 0; f < 200; ++f) {
-        SceneOne();
+        PlayScene(kScenes[0]);
     }
     EXPECT_EQ(frame.sceneIndex, 0);
 }
@@ -332,7 +333,7 @@ TEST_F(SceneOneTest, DisplayThatDidNotOpenIsHarmless) {
     StartUp();
     for (int f = 0; f < 5; ++f) {
         world.camera.position.y = 9000; // outside: the white fill too
-        SceneOne();
+        PlayScene(kScenes[0]);
     }
     EXPECT_EQ(display.back.pixels, nullptr);
 }

@@ -11,6 +11,7 @@
 #include "base/shell_state.h"
 #include "demo/font.h"
 #include "demo/reset.h"
+#include "demo/scenes.h"
 #include "demo/startup.h"
 #include "platform/offscreen/offscreen.h"
 #include "support/hand_made_data.h"
@@ -40,7 +41,7 @@ protected:
     }
     // One frame as the frame driver makes it.
     static void Frame() {
-        SceneTwo();
+        PlayScene(kScenes[1]);
         UnlockFrame();
         ++frame.frameCounter;
     }
@@ -82,7 +83,7 @@ TEST_F(SceneTwoTest, FirstCallSetsUp) {
 
 TEST_F(SceneTwoTest, ReturnsWithTheBackSurfaceLocked) {
     StartUp();
-    SceneTwo();
+    PlayScene(kScenes[1]);
     EXPECT_NE(display.back.pixels, nullptr);
     EXPECT_EQ(UnlockFrame(), 1);
 }
@@ -327,7 +328,7 @@ TEST_F(SceneTwoTest, SixtyFramesBehindTheEndFlagItQuitsAndDrawsNothing) {
     EXPECT_EQ(SeamLog().find("PostQuit"), std::string::npos);
     FillSurface(display.backSurface, 0x1234, nullptr);
     const float phase = sceneTwo.lightPhase;
-    SceneTwo();
+    PlayScene(kScenes[1]);
     EXPECT_NE(SeamLog().find("PostQuit 0"), std::string::npos);
     EXPECT_EQ(display.back.pixels, nullptr);
     EXPECT_EQ(At(0, 0), 0x1234);

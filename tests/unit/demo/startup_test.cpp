@@ -91,7 +91,7 @@ void LookInside(const char* text, MessageKind kind, void* user) {
     seen->skyFaces = world.sky.faceCount;
     seen->listObjects = world.objectCounter - kFirstSceneObject;
     seen->markerFaces = world.lightMarker.faceCount;
-    seen->fonts = fonts.big.frames[255] != nullptr && fonts.small.frames[255] != nullptr;
+    seen->fonts = fonts.big.glyphs[255] != nullptr && fonts.small.glyphs[255] != nullptr;
     seen->depth = world.depth != nullptr;
     seen->chop = CurrentFloatMode() == FloatMode::Chop;
     seen->startTick = frame.demoStartTick;
@@ -248,7 +248,7 @@ TEST_F(StartUpTest, WithoutAnyDataEverythingIsEmptyAndItStillReturns1) {
     EXPECT_EQ(StartUp(), 1);
     EXPECT_EQ(world.sky.faceCount, 0);
     EXPECT_EQ(world.objectCounter, 11);
-    EXPECT_EQ(fonts.big.frames[65], nullptr);
+    EXPECT_EQ(fonts.big.glyphs[65], nullptr);
     EXPECT_NE(world.depth, nullptr);
     EXPECT_EQ(soundtrack.stream, 0U);
 }
