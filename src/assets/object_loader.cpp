@@ -101,17 +101,27 @@ bool ReadFrame(Load* load) {
     return true;
 }
 
-// The most vertices that the rest of the file can hold.
-std::int64_t VerticesThatFit(std::FILE* file) {
+// Bytes from the file's place to its end, which keeps its place; -1 when that cannot be told.
+std::int64_t BytesLeft(std::FILE* file) {
     const long here = std::ftell(file);
     if (here < 0 || std::fseek(file, 0, SEEK_END) != 0) {
-        return 0;
+        return -1;
     }
     const long end = std::ftell(file);
-    if (std::fseek(file, here, SEEK_SET) != 0) {
-        return 0;
+    if (std::fseek(file, here, SEEK_SET) != 0 || end < here) {
+        return -1;
     }
-    return (end - here + 1) / kShortestVertexLine;
+    return std::int64_t{end} - here;
+}
+
+// The most vertices that the rest of the file can hold.
+std::int64_t VerticesThatFit(std::FILE* file) {
+    return (BytesLeft(file) + 1) / kShortestVertexLine;
+}
+
+bool IsOfAllowedSize(std::FILE* file) {
+    const std::int64_t size = BytesLeft(file);
+    return size >= 0 && size <= static_cast<std::int64_t>(kMaxObjectFile);
 }
 
 Vec3 PlaceVertex(const Load& load, Vec3 position) {
@@ -553,7 +563,7 @@ int loadObject(Mesh* mesh, const char* path, const LoadRequest& request) {
     if (!open(&load.reader, path)) {
         return 0;
     }
-    const bool whole = ReadObject(&load);
+    const bool whole = IsOfAllowedSize(load.reader.file) && ReadObject(&load);
     if (whole) {
         FinishObject(&load);
     }

@@ -2,6 +2,7 @@
 // it once for each object, after the floating-point mode has been set: colours and texels are cut.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "assets/bmp.h"
@@ -33,17 +34,18 @@ struct LoadRequest {
 // Another mip mode marks the faces mip-mapped and makes no chain: they must not be drawn.
 
 inline constexpr std::int32_t kMaxTextureSize = 1024; // wider or higher ones count as unreadable
+inline constexpr std::size_t kMaxObjectFile = std::size_t{16} << 20; // bytes; larger ones fail
 
 // The image the loader reads textures through. After a load it keeps the headers of the last image
 // read, without pixels. Written and read by the loader alone.
 extern BmpImage loaderImage;
 void ResetObjectLoader(); // as if no image was ever read
 
-// 1 on success; 0 when the file cannot be opened, ends early, or does not hold what it must: counts
-// that are negative or more than the file or the limits allow, a face without three corners, an
-// index outside its array, a material number that does not fit the table. What was filled and
-// allocated so far stays in the mesh (faceCount counts the faces filled); materialBase is then
-// unchanged. The mesh is cleared first, whatever it held: release it before loading again.
+// 1 on success; 0 when the file cannot be opened, is too large, ends early, or does not hold what
+// it must: counts that are negative or more than the file or the limits allow, a face without three
+// corners, an index outside its array, a material number that does not fit the table. What was
+// filled and allocated so far stays in the mesh (faceCount counts the faces filled); materialBase
+// is then unchanged. The mesh is cleared first, whatever it held: release it before loading again.
 int loadObject(Mesh* mesh, const char* path, const LoadRequest& request);
 
 // Frees the texture or mip chain of a mesh, then the mesh as ReleaseMesh does.

@@ -24,7 +24,6 @@ using namespace ombrel;
 
 namespace {
 
-constexpr std::size_t kMaxObjectFile = std::size_t{64} << 20;
 constexpr float kRootOfTwo = 1.41421356F;
 constexpr float kLightReach = 2097151.0F;    // largest coordinate the lights can take
 constexpr float kLargestCoordinate = 1.0e9F; // beyond it faces are dropped
@@ -347,9 +346,9 @@ int LoadAsProduction(Mesh* mesh, const std::string& path, const ObjectRole& role
 }
 
 void InspectObject(const std::string& path, Report* report) {
-    std::string bytes;
+    FileBytes file;
     std::string problem;
-    if (!ReadFile(path, kMaxObjectFile, &bytes, &problem)) {
+    if (!ReadFile(path, kMaxObjectFile, &file, &problem)) {
         Refuse(report, 1, nullptr,
                {problem, "the object is not drawn", "give a file that can be read"});
         return;
@@ -357,7 +356,7 @@ void InspectObject(const std::string& path, Report* report) {
     ObjectFacts facts{};
     const std::int32_t baseBefore = materialBase;
     const ObjectRole role = RoleOf(path);
-    const bool accepted = WalkObject(path, bytes, report, &facts);
+    const bool accepted = WalkObject(path, file.text, report, &facts);
     Mesh mesh;
     const bool loaded = LoadAsProduction(&mesh, path, role) != 0;
     if (accepted != loaded) {

@@ -5,7 +5,9 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <string>
+#include <utility>
 
 #include "assets/object_loader.h"
 
@@ -181,6 +183,19 @@ TEST_F(BrokenObject, LimitsThatStillLoad) {
     EXPECT_EQ(Load(small), 1) << "three faces and nine texture vertices for each vertex";
     small.faces.push_back(small.faces[0]);
     EXPECT_EQ(Load(small), 0);
+}
+
+// Holes in the file, which take no room on the disk.
+TEST_F(BrokenObject, LargerFilesThanAllowedAreNotRead) {
+    const std::string path = Write("3d/long.cob", CobFile().Text());
+    for (const auto& [size, result] : {std::pair<std::uintmax_t, int>{kMaxObjectFile, 1},
+                                       {kMaxObjectFile + 1, 0},
+                                       {std::uintmax_t{3} << 30, 0}}) {
+        std::filesystem::resize_file(FindDataFile(path.c_str()), size);
+        OwnedMesh mesh;
+        EXPECT_EQ(loadObject(&mesh, path.c_str(), PlainRequest()), result) << size;
+        EXPECT_EQ(mesh.vertices != nullptr, result == 1) << size;
+    }
 }
 
 TEST_F(BrokenObject, ShortestVertexLinesAreNotRefused) {
