@@ -92,11 +92,6 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
     if (!options->picture.empty() && options->files.size() != 1) {
         return "--picture: one file is drawn, not " + std::to_string(options->files.size());
     }
-    for (const std::string& file : options->files) {
-        if (!fs::exists(file, error)) {
-            return file + ": no such file";
-        }
-    }
     return "";
 }
 

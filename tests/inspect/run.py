@@ -3,6 +3,7 @@
 what is expected, letter by letter. Usage: run.py BUILD_FOLDER [WORDS OF A CASE]"""
 import pathlib
 import random
+import resource
 import shutil
 import struct
 import subprocess
@@ -43,6 +44,21 @@ class Folder:
     def run(self, *arguments):
         done = subprocess.run([str(self.inspector), *arguments], cwd=self.root, check=False,
                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=60)
+        return done.returncode, done.stdout.decode("latin-1")
+
+    def hole(self, name, size, head=b""):
+        """A file of a size that takes no room on the disk."""
+        with open(self.root / name, "wb") as file:
+            file.write(head)
+            file.truncate(size)
+        return name
+
+    def run_in(self, memory, *arguments):
+        """With so many bytes of memory at most."""
+        done = subprocess.run([str(self.inspector), *arguments], cwd=self.root, check=False,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=60,
+                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS,
+                                                                    (memory, memory)))
         return done.returncode, done.stdout.decode("latin-1")
 
     def finds(self, name, content, lines, code):
@@ -169,6 +185,26 @@ def object_cases():
     yield ("the table full", changed(23, "Face verts 3 flags 0 mat 255"),
            ["23: material number 255, and the table has room for 255 more; %s; use fewer materials, "
             "numbered from 0" % FAILS], BROKEN)
+    unknown = files.OBJECT.replace("mat 0", "mat 256").replace("mat 1", "mat 300")
+    yield ("nothing but material numbers outside", unknown,
+           ["23: material number 256; %s; write 0, 1, 2 and so on (and 3 more like this)" % FAILS],
+           BROKEN)
+    yield ("one material number outside", files.OBJECT.replace("mat 1", "mat 300"),
+           ["27: material number 300; %s; write 0, 1, 2 and so on (and 1 more like this)" % FAILS],
+           BROKEN)
+    blocks = "".join(files.OBJECT.splitlines(True)[30:40])
+    many = "".join("mat# %d\nrgb 2,0,0\n" % (i % 250) + blocks[blocks.index("alpha"):].replace(
+        "texture map", "plain color").replace("plastic", "matte") for i in range(250))
+    used = "".join("Face verts 3 flags 0 mat %d\n<0,0> <1,1> <2,2>\n" % i for i in range(250))
+    helpers = "0 0 1.5\n" * 100
+    text = files.OBJECT.replace("World Vertices 5", "World Vertices 105").replace(
+        "0 0 1.5\n", "0 0 1.5\n" + helpers)
+    text = text[:text.index("Faces 4")] + "Faces 250\n" + used + many
+    first = text[:text.index("rgb")].count("\n") + 1
+    yield ("more than a hundred warnings of one kind", text,
+           ["%d: colour 2 lies outside 0..1; it is cut to its low 8 bits: 254 of 255; write a number "
+            "from 0 to 1%s" % (first + 10 * i, " (and 150 more like this)" if i == 99 else "")
+            for i in range(100)], WARNINGS)
     yield ("a block is missing", "".join(files.OBJECT.splitlines(True)[:40]),
            ["40: no line 'mat# M' follows; %s; add the line" % FAILS], BROKEN)
     yield ("a line of a block is missing", changed(33, None),
@@ -547,9 +583,48 @@ def test_files(folder):
         run("sound: " + name, "sfx/bad.mp3", text, lines, code)
 
 
+def test_sizes(folder):
+    """Files that no data folder holds: each is refused with its reason, whatever memory there is."""
+    small = 160 << 20
+    for name, size, head, words in (
+            ("3d/hole.cob", 3 << 30, files.OBJECT.encode(),
+             "1: 3221225472 bytes, 16777216 are allowed; the object is not drawn; "),
+            ("3d/lines.cob", 16 << 20, b"\n" * (16 << 20), "1: no line 'Name NAME' follows; "),
+            ("texture/hole.bmp", 200 << 20, b"BM", "0: no memory for its 209715200 bytes; "),
+            ("texture/huge.bmp", 257 << 20, b"BM", "0: 269484032 bytes, 268435456 are allowed; "),
+            ("sfx/hole.mp3", 1 << 30, files.mp3(), "0: no memory for its 1073741824 bytes; the "
+             "production is silent; "),
+            ("cam/hole.trk", 1 << 34, b"", "1: 17179869184 bytes, 16777216 are allowed; "),
+            ("cam/lines.trk", 16 << 20, b"\n" * (16 << 20), "1: 0 keys, a track needs 3; "),
+            ("hole.po", 1 << 21, b"", "1: 2097152 bytes, 1048576 are allowed; ")):
+        folder.hole(name, size, head)
+        code, text = folder.run_in(small, name)
+        (folder.root / name).unlink()
+        check("size: " + name, code == BROKEN and "\n%s:%s" % (name, words) in text and
+              text.endswith("1 broken, 0 warnings\n"), text[-500:])
+
+
+def test_missing(folder):
+    """A file that is not there is a broken one, as --help says."""
+    for ending, then in (("cob", "the object is not drawn; give a file that can be read"),
+                         ("trk", "the camera stays where it is; give a file that can be read"),
+                         ("mp3", "the production is silent; give a file that can be read"),
+                         ("txt", "it is not opened; give a .cob, .bmp, .trk, .po or .mp3")):
+        name = "absent." + ending
+        code, text = folder.run(name)
+        place = 0 if ending == "mp3" else 1
+        check("missing " + name, code == BROKEN and
+              "\n%s:%d: no such file; %s\n" % (name, place, then) in text, text)
+    code, text = folder.run("absent.cob", "3d/thing.cob")
+    check("what is behind a missing file is inspected", code == BROKEN and
+          "3d/thing.cob: object" in text and text.endswith("1 broken, 0 warnings\n"), text)
+    code, text = folder.run("absent.cob", "--picture", "out.png")
+    check("no picture of a missing file", code == BROKEN and not (folder.root / "out.png").exists(),
+          text)
+
+
 def test_usage(folder):
     for arguments, words in (([], "no file to inspect"), (["--colour", "x"], "unknown argument"),
-                             (["absent.cob"], "absent.cob: no such file"),
                              (["--picture"], "--picture: a value is missing"),
                              (["--picture", "a.png", "3d/thing.cob", "texture/wall.bmp"],
                               "--picture: one file is drawn, not 2"),
@@ -650,6 +725,8 @@ def main():
         folder = Folder(inspector, root)
         test_files(folder)
         if not sys.argv[2:]:
+            test_sizes(folder)
+            test_missing(folder)
             test_usage(folder)
             test_tables(folder)
             test_folder(folder)

@@ -26,7 +26,8 @@ constexpr std::uint32_t kBitFields = 3; // a value of the compression field
 constexpr std::uint32_t kMasks565[3] = {0xF800, 0x07E0, 0x001F};
 
 struct Image {
-    std::string bytes;
+    FileBytes content;
+    std::string_view bytes; // of content
     BmpFileHeader file;
     BmpInfoHeader info;
     const char* lost; // what a refusal means
@@ -190,9 +191,10 @@ bool LoadImage(const std::string& path, const char* lost, Report* report, Image*
                BmpImage* loaded) {
     image->lost = lost;
     std::string problem;
-    if (!ReadFile(path, kMaxImageFile, &image->bytes, &problem)) {
+    if (!ReadFile(path, kMaxImageFile, &image->content, &problem)) {
         return Fail(report, 0, *image, problem, "give a file that can be read");
     }
+    image->bytes = image->content.text;
     if (image->bytes.size() >= sizeof image->file + sizeof image->info) {
         std::memcpy(&image->file, image->bytes.data(), sizeof image->file);
         std::memcpy(&image->info, image->bytes.data() + sizeof image->file, sizeof image->info);

@@ -31,8 +31,8 @@ struct Entry {
 };
 
 struct ListText {
-    const std::string& text;
-    LineEnds ends;
+    std::string_view text;
+    LineCounter lines;
     Report* report;
     std::int64_t commentLine; // a comment whose rest is read as entries
 };
@@ -51,7 +51,7 @@ bool IsThere(const SceneLine& line) {
 }
 
 // What stands where a read stopped, up to the end of the line.
-std::string RestAt(const std::string& text, std::size_t offset) {
+std::string RestAt(std::string_view text, std::size_t offset) {
     return Quote(text.substr(offset, text.find('\n', offset) - offset));
 }
 
@@ -60,7 +60,7 @@ void CheckComment(ListText* t, std::int64_t line, std::size_t end, std::int32_t 
         return;
     }
     t->commentLine = line;
-    if (LineOf(t->ends, end) == line && t->text.find_first_not_of(" \t\r", end) <
+    if (t->lines.LineOf(end) == line && t->text.find_first_not_of(" \t\r", end) <
                                             std::min(t->text.find('\n', end), t->text.size())) {
         Warn(t->report, line, nullptr,
              {"a comment that is no entry",
@@ -70,28 +70,28 @@ void CheckComment(ListText* t, std::int64_t line, std::size_t end, std::int32_t 
     }
 }
 
-void CheckNumbers(const ListText& t, const Entry& entry, std::size_t end, std::int32_t read) {
+void CheckNumbers(ListText* t, const Entry& entry, std::size_t end, std::int32_t read) {
     if (read < 10) {
-        Warn(t.report, LineOf(t.ends, end), nullptr,
+        Warn(t->report, t->lines.LineOf(end), nullptr,
              {Format("%d of 9 numbers of ", read - 1) + PathOf(entry.line) + " fit: here stands " +
-                  RestAt(t.text, end),
+                  RestAt(t->text, end),
               "the others are those of the entry before, and the next read goes on here",
               "write 'PATH sx, sy, sz; px, py, pz; ax, ay, az;'"});
     }
     const float* const v = entry.line.values;
     if (std::any_of(v, v + 9, [](float value) { return !std::isfinite(value); })) {
-        Warn(t.report, entry.place, nullptr,
+        Warn(t->report, entry.place, nullptr,
              {"a number beyond the range of singles", "the object is not drawn",
               "write a smaller number"});
         return;
     }
     const float product = v[0] * v[1] * v[2];
     if (v[0] == 0.0F || v[1] == 0.0F || v[2] == 0.0F) {
-        Warn(t.report, entry.place, nullptr,
+        Warn(t->report, entry.place, nullptr,
              {"a scale of 0", "the object is flat and not seen",
               "write 10 for the file's own size"});
     } else if (product < 0.0F) {
-        Warn(t.report, entry.place, nullptr,
+        Warn(t->report, entry.place, nullptr,
              {"a negative scale", "the object is mirrored: its faces look the other way",
               "mirror the object in its file"});
     }
@@ -108,7 +108,7 @@ std::vector<Entry> ReadEntries(ListText* t) {
         const std::size_t start = std::min(
             t->text.find_first_not_of(" \t\n\v\f\r", static_cast<std::size_t>(reading.at - first)),
             t->text.size());
-        entry.place = LineOf(t->ends, start);
+        entry.place = t->lines.LineOf(start);
         if (start < t->text.size() && entries.size() >= kRoom) {
             Warn(t->report, entry.place, nullptr,
                  {Format("more than %zu objects", kRoom), "the rest is not read", "remove them"});
@@ -137,7 +137,7 @@ std::vector<Entry> ReadEntries(ListText* t) {
                  {PathOf(entry.line) + " stands behind a # with a blank",
                   "it is loaded all the same", "glue # to the path"});
         }
-        CheckNumbers(*t, entry, end, read);
+        CheckNumbers(t, entry, end, read);
         entries.push_back(entry);
     }
     return entries;
@@ -246,16 +246,16 @@ void LoadWorld(const std::string& listPath) {
 }
 
 void InspectList(const std::string& path, Report* report) {
-    std::string text;
+    FileBytes file;
     std::string problem;
-    if (!ReadFile(path, kMaxListFile, &text, &problem)) {
+    if (!ReadFile(path, kMaxListFile, &file, &problem)) {
         Refuse(
             report, 1, nullptr,
             {problem, "the world is empty but for sky and ground", "give a file that can be read"});
         report->summary = "broken";
         return;
     }
-    ListText t{text, LineEndsOf(text), report, 0};
+    ListText t{file.text, LineCounter(file.text), report, 0};
     const std::vector<Entry> entries = ReadEntries(&t);
     const std::vector<bool> loads = LoadOneByOne(entries);
     LoadWorld(path);

@@ -23,8 +23,8 @@ constexpr char kFails[] = "the load fails and the object is not drawn";
 struct Walk {
     LineReader reader;
     LineReader scratch; // for trials, so that the reader keeps what the loader would have
-    const std::string* bytes;
-    LineEnds lineEnds;
+    std::string_view bytes;
+    LineCounter lines;
     Report* report;
     ObjectFacts* facts;
     std::int64_t line;     // of the text read last
@@ -45,7 +45,7 @@ bool NextLine(Walk* walk) {
         return false;
     }
     const auto last = static_cast<std::size_t>(std::ftell(walk->reader.file)) - 1;
-    walk->line = LineOf(walk->lineEnds, last);
+    walk->line = walk->lines.LineOf(last);
     return true;
 }
 
@@ -306,7 +306,7 @@ bool WalkVertices(Walk* walk) {
         return false;
     }
     const std::int32_t count = walk->reader.ints[0];
-    const auto rest = static_cast<std::int64_t>(walk->bytes->size()) -
+    const auto rest = static_cast<std::int64_t>(walk->bytes.size()) -
                       static_cast<std::int64_t>(std::ftell(walk->reader.file));
     if (count > (rest + 1) / kShortestVertexLine) {
         Fail(walk, walk->line, nullptr,
@@ -667,7 +667,7 @@ void CheckNumbering(Walk* walk) {
 
 // --- the text as such --------------------------------------------------------------------------
 void CheckText(Walk* walk) {
-    const std::string& bytes = *walk->bytes;
+    const std::string_view bytes = walk->bytes;
     std::size_t start = 0;
     for (std::int64_t line = 1; start < bytes.size(); ++line) {
         const std::size_t end = std::min(bytes.find('\n', start), bytes.size());
@@ -676,8 +676,7 @@ void CheckText(Walk* walk) {
                  {Format("a line of %zu characters", end - start),
                   Format("it is read in pieces of %d", kMaxLine - 1), "break it"});
         }
-        const std::size_t zero = bytes.find('\0', start);
-        if (zero < end) {
+        if (bytes.substr(start, end - start).find('\0') != std::string_view::npos) {
             Warn(walk->report, line, "zero byte",
                  {"a zero byte in a text", "the line ends there", "save it as plain text"});
         }
@@ -692,20 +691,21 @@ void CheckText(Walk* walk) {
 
 } // namespace
 
-bool WalkObject(const std::string& path, const std::string& bytes, Report* report,
+bool WalkObject(const std::string& path, std::string_view bytes, Report* report,
                 ObjectFacts* facts) {
     Walk walk{};
-    walk.bytes = &bytes;
+    walk.bytes = bytes;
     walk.report = report;
     walk.facts = facts;
-    walk.lineEnds = LineEndsOf(bytes);
+    walk.lines = LineCounter(bytes);
     if (!open(&walk.reader, path.c_str())) {
         Fail(&walk, 1, nullptr, "the loader cannot open it", "make it readable");
         return false;
     }
     CheckText(&walk);
+    // Which materials are in use is only known when every face was taken.
     const bool whole = WalkFrame(&walk) && WalkVertices(&walk) && WalkTexCoords(&walk) &&
-                       WalkFaces(&walk) && WalkMaterials(&walk);
+                       WalkFaces(&walk) && !walk.refused && WalkMaterials(&walk);
     if (whole) {
         WalkRest(&walk);
         CheckNumbering(&walk);

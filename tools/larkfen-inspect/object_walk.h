@@ -41,7 +41,7 @@ struct ObjectFacts {
 };
 
 // Adds findings to the report. False when the loader refuses the file.
-bool WalkObject(const std::string& path, const std::string& bytes, Report* report,
+bool WalkObject(const std::string& path, std::string_view bytes, Report* report,
                 ObjectFacts* facts);
 
 } // namespace inspect

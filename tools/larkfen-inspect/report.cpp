@@ -12,20 +12,43 @@ namespace inspect {
 
 namespace {
 
-void Add(Report* report, Finding finding) {
-    if (!finding.kind.empty()) {
-        for (Finding& known : report->findings) {
-            if (known.kind == finding.kind) {
-                ++known.more;
-                return;
-            }
+constexpr std::int32_t kMostOfAKind = 100;
+
+// A text without its numbers and its pieces in quotes.
+std::string WordsOf(const std::string& text) {
+    std::string words;
+    bool quoted = false;
+    for (const char c : text) {
+        quoted = (c == '"') != quoted;
+        if (!quoted && std::strchr("0123456789", c) == nullptr) {
+            words += c;
         }
+    }
+    return words;
+}
+
+void Add(Report* report, Finding finding, std::int32_t most) {
+    std::int32_t count = 0;
+    Finding* last = nullptr;
+    for (Finding& known : report->findings) {
+        if (known.kind == finding.kind) {
+            ++count;
+            last = &known;
+        }
+    }
+    if (count >= most) {
+        ++last->more;
+        return;
     }
     report->findings.push_back(std::move(finding));
 }
 
-std::string TextOf(const Trouble& trouble) {
-    return trouble.what + "; " + trouble.then + "; " + trouble.mend;
+void Tell(Report* report, Weight weight, std::int64_t place, const char* kind,
+          const Trouble& trouble) {
+    Add(report,
+        {weight, place, kind != nullptr ? kind : WordsOf(trouble.what),
+         trouble.what + "; " + trouble.then + "; " + trouble.mend, 0},
+        kind != nullptr ? 1 : kMostOfAKind);
 }
 
 } // namespace
@@ -39,9 +62,9 @@ std::string Format(const char* format, ...) {
     return text;
 }
 
-std::string Quote(const std::string& text) {
+std::string Quote(std::string_view text) {
     constexpr std::size_t kMost = 40;
-    std::string quoted = "\"" + text.substr(0, kMost);
+    std::string quoted = "\"" + std::string(text.substr(0, kMost));
     for (char& c : quoted) {
         c = c >= ' ' && c <= '~' ? c : '?';
     }
@@ -49,11 +72,11 @@ std::string Quote(const std::string& text) {
 }
 
 void Warn(Report* report, std::int64_t place, const char* kind, const Trouble& trouble) {
-    Add(report, {Weight::Warning, place, kind == nullptr ? "" : kind, TextOf(trouble), 0});
+    Tell(report, Weight::Warning, place, kind, trouble);
 }
 
 void Refuse(Report* report, std::int64_t place, const char* kind, const Trouble& trouble) {
-    Add(report, {Weight::Broken, place, kind == nullptr ? "" : kind, TextOf(trouble), 0});
+    Tell(report, Weight::Broken, place, kind, trouble);
 }
 
 bool IsBroken(const Report& report) {
@@ -80,11 +103,26 @@ std::string FindingLines(const Report& report) {
     return lines;
 }
 
-bool ReadFile(const std::string& path, std::size_t limit, std::string* bytes,
-              std::string* problem) {
+bool ReadFile(const std::string& path, std::size_t limit, FileBytes* bytes, std::string* problem) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
         *problem = std::filesystem::exists(path, error) ? "no file of bytes" : "no such file";
+        return false;
+    }
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (error) {
+        *problem = error.message();
+        return false;
+    }
+    if (size > limit) {
+        *problem = Format("%ju bytes, %zu are allowed", size, limit);
+        return false;
+    }
+    // One block of the right size, which may be more than there is.
+    const auto room = static_cast<std::size_t>(size);
+    bytes->block.reset(static_cast<char*>(std::malloc(room + 1)));
+    if (bytes->block == nullptr) {
+        *problem = Format("no memory for its %zu bytes", room);
         return false;
     }
     std::FILE* file = std::fopen(path.c_str(), "rb");
@@ -92,31 +130,26 @@ bool ReadFile(const std::string& path, std::size_t limit, std::string* bytes,
         *problem = std::strerror(errno);
         return false;
     }
-    bytes->clear();
-    char block[65536];
-    std::size_t length = 0;
-    while (bytes->size() <= limit && (length = std::fread(block, 1, sizeof block, file)) > 0) {
-        bytes->append(block, length);
-    }
+    const std::size_t length = std::fread(bytes->block.get(), 1, room, file);
     const bool failed = std::ferror(file) != 0;
     std::fclose(file);
-    if (failed || bytes->size() > limit) {
-        *problem = failed ? "cannot be read" : Format("larger than %zu bytes", limit);
+    if (failed) {
+        *problem = "cannot be read";
         return false;
     }
+    bytes->block.get()[length] = '\0';
+    bytes->text = {bytes->block.get(), length};
     return true;
 }
 
-LineEnds LineEndsOf(const std::string& text) {
-    LineEnds ends;
-    for (std::size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i + 1)) {
-        ends.push_back(i);
+std::int64_t LineCounter::LineOf(std::size_t offset) {
+    if (offset < place_) {
+        place_ = 0;
+        line_ = 1;
     }
-    return ends;
-}
-
-std::int64_t LineOf(const LineEnds& ends, std::size_t offset) {
-    return 1 + (std::lower_bound(ends.begin(), ends.end(), offset) - ends.begin());
+    line_ += std::count(text_.data() + place_, text_.data() + offset, '\n');
+    place_ = offset;
+    return line_;
 }
 
 } // namespace inspect

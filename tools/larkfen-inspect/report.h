@@ -4,7 +4,10 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace inspect {
@@ -14,9 +17,9 @@ enum class Weight { Warning, Broken }; // drawn otherwise than the file says; re
 struct Finding {
     Weight weight;
     std::int64_t place;
-    std::string kind; // findings of one kind are told once, with their number; empty: always told
+    std::string kind;
     std::string text;
-    std::int32_t more; // findings of this kind behind the first
+    std::int32_t more; // findings of this kind behind it that are not told
 };
 
 struct Report {
@@ -29,9 +32,11 @@ struct Report {
 [[gnu::format(printf, 1, 2)]] std::string Format(const char* format, ...);
 
 // A piece of a file for a message: at most 40 characters, in quotes, unprintable ones as "?".
-std::string Quote(const std::string& text);
+std::string Quote(std::string_view text);
 
-// What is wrong, what the production does with it, and how to mend it.
+// What is wrong, what the production does with it, and how to mend it. Findings of one kind are
+// told once, with their number; without a kind, those that differ in numbers and names alone are
+// told a hundred times.
 struct Trouble {
     std::string what, then, mend;
 };
@@ -45,12 +50,29 @@ void Row(Report* report, const char* name, const std::string& value);
 // "file:place: what; what the production does; how to mend it", by place, a line each.
 std::string FindingLines(const Report& report);
 
-// The file's bytes; false when it cannot be read or is larger than limit (the text then says so).
-bool ReadFile(const std::string& path, std::size_t limit, std::string* bytes, std::string* problem);
+// A file in memory: one block, and a zero byte behind the file's own.
+struct FreeBlock {
+    void operator()(char* block) const { std::free(block); }
+};
+struct FileBytes {
+    std::unique_ptr<char, FreeBlock> block;
+    std::string_view text; // all of the file
+};
 
-// Where the lines of a text end, and the number of the line that holds a byte of it, from 1.
-using LineEnds = std::vector<std::size_t>;
-LineEnds LineEndsOf(const std::string& text);
-std::int64_t LineOf(const LineEnds& ends, std::size_t offset);
+// False when the file cannot be read, is larger than limit, or finds no memory; problem says which.
+bool ReadFile(const std::string& path, std::size_t limit, FileBytes* bytes, std::string* problem);
+
+// Which line of a text a byte stands in, from 1. Quick where the places asked for go forward.
+class LineCounter {
+public:
+    LineCounter() = default;
+    explicit LineCounter(std::string_view text) : text_(text) {}
+    std::int64_t LineOf(std::size_t offset); // offset up to the size of the text
+
+private:
+    std::string_view text_;
+    std::size_t place_ = 0; // of the last answer
+    std::int64_t line_ = 1;
+};
 
 } // namespace inspect

@@ -48,7 +48,7 @@ bool ReadHeader(const unsigned char* p, SoundFrame* frame) {
 }
 
 // Behind a tag at the start.
-std::size_t StartOf(const std::string& bytes) {
+std::size_t StartOf(std::string_view bytes) {
     if (bytes.size() < kTagHeader || bytes.compare(0, 3, "ID3") != 0) {
         return 0;
     }
@@ -62,14 +62,15 @@ std::size_t StartOf(const std::string& bytes) {
 } // namespace
 
 double InspectSound(const std::string& path, Report* report) {
-    std::string bytes;
+    FileBytes file;
     std::string problem;
     report->summary = "broken";
-    if (!ReadFile(path, kMaxSoundFile, &bytes, &problem)) {
+    if (!ReadFile(path, kMaxSoundFile, &file, &problem)) {
         Refuse(report, 0, nullptr,
                {problem, "the production is silent", "give a file that can be read"});
         return 0.0;
     }
+    const std::string_view bytes = file.text;
     const std::size_t start = StartOf(bytes);
     std::size_t end = bytes.size();
     if (end >= kTagAtEnd && bytes.compare(end - kTagAtEnd, 3, "TAG") == 0) {

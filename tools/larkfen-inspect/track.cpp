@@ -33,8 +33,8 @@ constexpr const char* kNumberNames[kTrackColumns] = {
 // clang-format on
 
 struct TrackText {
-    const std::string& text;
-    const LineEnds ends;
+    std::string_view text;
+    LineCounter* lines;
     Report* report;
     std::vector<KeyText>* keys;
 };
@@ -42,7 +42,7 @@ struct TrackText {
 void CheckKeyText(const TrackText& t, std::size_t start, std::size_t end, std::int32_t read) {
     const auto number = static_cast<int>(t.keys->size()) - 1;
     if (read < kTrackColumns) {
-        Warn(t.report, LineOf(t.ends, end), "short key",
+        Warn(t.report, t.lines->LineOf(end), "short key",
              {Format("key %d has %d of %d numbers: here %s must follow, not ", number, read,
                      kTrackColumns, kNumberNames[read]) +
                   Quote(t.text.substr(end, t.text.find('\n', end) - end)),
@@ -50,17 +50,17 @@ void CheckKeyText(const TrackText& t, std::size_t start, std::size_t end, std::i
               "write 'b, c, t;<tab>x, y, z;<tab>ax, ay, az;<tab>fov;<tab>step;'"});
         return;
     }
-    const std::string body = t.text.substr(start, end - start);
+    const std::string_view body = t.text.substr(start, end - start);
     const std::size_t last = body.find_last_not_of(kBlanks);
     if (body.find('\n') < last) {
-        Warn(t.report, LineOf(t.ends, start), "key over lines",
+        Warn(t.report, t.lines->LineOf(start), "key over lines",
              {Format("key %d takes numbers from the next line", number),
               "the keys are shifted from here on", "write eleven numbers on each line"});
     }
 }
 
 void ReadKeys(const TrackText& t) {
-    const char* const first = t.text.c_str();
+    const char* const first = t.text.data();
     const char* p = first;
     float columns[kTrackColumns] = {};
     for (;;) {
@@ -70,7 +70,7 @@ void ReadKeys(const TrackText& t) {
             break;
         }
         if (t.keys->size() >= static_cast<std::size_t>(kMaxTrackKeys)) {
-            Warn(t.report, LineOf(t.ends, start), nullptr,
+            Warn(t.report, t.lines->LineOf(start), nullptr,
                  {Format("more than %d keys", kMaxTrackKeys), "the rest is not read",
                   "remove them"});
             return;
@@ -78,19 +78,19 @@ void ReadKeys(const TrackText& t) {
         const char* const before = p;
         const std::int32_t read = ReadTrackColumns(&p, columns);
         if (p == before) {
-            Warn(t.report, LineOf(t.ends, start), nullptr,
+            Warn(t.report, t.lines->LineOf(start), nullptr,
                  {"here a key must begin, not " +
                       Quote(t.text.substr(start, t.text.find('\n', start) - start)),
                   Format("reading ends after %zu keys", t.keys->size()),
                   "leave nothing but keys in the file"});
             return;
         }
-        t.keys->push_back({LineOf(t.ends, start)});
+        t.keys->push_back({t.lines->LineOf(start)});
         CheckKeyText(t, start, static_cast<std::size_t>(p - first), read);
     }
     const std::size_t zero = t.text.find('\0');
     if (zero != std::string::npos) {
-        Warn(t.report, LineOf(t.ends, zero), nullptr,
+        Warn(t.report, t.lines->LineOf(zero), nullptr,
              {"a zero byte in a text", "reading ends there", "save it as plain text"});
     }
 }
@@ -299,16 +299,17 @@ std::vector<Camera> FlightOf(const std::vector<Camera>& keys, std::size_t limit)
 }
 
 void InspectTrack(const std::string& path, Report* report) {
-    std::string text;
+    FileBytes file;
     std::string problem;
-    if (!ReadFile(path, kMaxTrackFile, &text, &problem)) {
+    if (!ReadFile(path, kMaxTrackFile, &file, &problem)) {
         Refuse(report, 1, nullptr,
                {problem, "the camera stays where it is", "give a file that can be read"});
         report->summary = "broken";
         return;
     }
     std::vector<KeyText> texts;
-    const TrackText t{text, LineEndsOf(text), report, &texts};
+    LineCounter lines(file.text);
+    const TrackText t{file.text, &lines, report, &texts};
     ReadKeys(t);
     const std::vector<Camera> keys = KeysOf(path);
     if (keys.size() != texts.size()) {
