@@ -55,6 +55,45 @@ void OnInterrupt(int) {
     interrupted = 1;
 }
 
+// What ends a recording leaves no half file. A signal that whoever started us ignores stays
+// ignored.
+void TakeSignals() {
+    for (const int number : {
+             SIGINT,
+             SIGTERM,
+#ifdef SIGHUP
+             SIGHUP,
+#endif
+         }) {
+        if (std::signal(number, OnInterrupt) == SIG_IGN) {
+            std::signal(number, SIG_IGN);
+        }
+    }
+#ifdef SIGPIPE
+    std::signal(SIGPIPE, SIG_IGN); // a pipe that breaks is a write that fails
+#endif
+}
+
+// Empty, or why there is nothing to play.
+std::string ChooseDataFolder(const Options& options) {
+    const bool told = !options.dataFolder.empty();
+    const std::string folder =
+        told ? options.dataFolder : ombrel::DataFolderOf(ombrel::ProgramFolder());
+    const std::string name = (told ? "--data: " : "") + folder;
+    std::error_code error;
+    if (!std::filesystem::is_directory(folder, error)) {
+        return name + " is no folder" + (told ? "" : "; --data names the one to play");
+    }
+    ombrel::SetDataFolder(folder);
+    for (const char* const file :
+         {"./data/scene1.po", "./data/cam/scene1.trk", "./data/2d/font-48.bmp"}) {
+        if (!ombrel::FindDataFile(file).empty()) {
+            return "";
+        }
+    }
+    return name + " holds no data of the production";
+}
+
 // The first problem counts; the run ends with the frame.
 void Note(Recorder* recorder, const std::string& problem) {
     if (recorder->problem.empty() && !problem.empty()) {
@@ -260,14 +299,12 @@ int main(int argc, char** argv) {
         std::fputs(HelpText().c_str(), stdout);
         return 0;
     }
-    std::signal(SIGINT, OnInterrupt);
-    std::signal(SIGTERM, OnInterrupt);
-#ifdef SIGPIPE
-    std::signal(SIGPIPE, SIG_IGN); // a pipe that breaks is a write that fails
-#endif
-    ombrel::SetDataFolder(recorder.options.dataFolder.empty()
-                              ? ombrel::DataFolderOf(ombrel::ProgramFolder())
-                              : recorder.options.dataFolder);
+    TakeSignals();
+    const std::string noData = ChooseDataFolder(recorder.options);
+    if (!noData.empty()) {
+        std::fprintf(stderr, "larkfen-capture: %s\n", noData.c_str());
+        return 2;
+    }
     // The production chooses again, and says nothing.
     bool understood = true;
     const ombrel::VectorPath path = ombrel::ChooseVectorPath(&understood);

@@ -3,6 +3,7 @@
 // disk is a limit on the size of files, which every program of the recording has.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -13,7 +14,9 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -25,6 +28,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr rlim_t kNoLimit = RLIM_INFINITY;
+constexpr int kLongestSilence = 120000; // ms
 
 struct Result {
     int code; // -1: died of a signal
@@ -43,28 +47,29 @@ protected:
         fs::remove_all(place_, error);
     }
 
-    // Runs the recorder on 320 x 240 pictures in a working folder, its files limited in size.
-    Result Record(const std::vector<std::string>& arguments, rlim_t limit,
-                  const std::string& folder) const {
-        std::vector<std::string> words = {OMBREL_BINARY_DIR "/larkfen-capture",
-                                          "-w",
-                                          "-ns",
-                                          "-resolution=320x240",
-                                          "--data",
-                                          data_.Root()};
+    // Starts the recorder on 320 x 240 pictures in a working folder, its files limited in size, as
+    // the head of a group of programs. It is silent and takes the data of the test unless the
+    // arguments say --data.
+    void Start(const std::vector<std::string>& arguments, rlim_t limit, const std::string& folder) {
+        std::vector<std::string> words = {OMBREL_BINARY_DIR "/larkfen-capture", "-w",
+                                          "-resolution=320x240"};
+        if (std::find(arguments.begin(), arguments.end(), "--data") == arguments.end()) {
+            words.insert(words.end(), {"-ns", "--data", data_.Root()});
+        }
         words.insert(words.end(), arguments.begin(), arguments.end());
         std::vector<char*> argv;
         for (std::string& word : words) {
             argv.push_back(word.data());
         }
         argv.push_back(nullptr);
-        int ends[2];
-        if (pipe(ends) != 0) {
-            return {-1, "no pipe"};
-        }
-        const pid_t child = fork();
-        if (child == 0) {
+        int ends[2] = {-1, -1};
+        ASSERT_EQ(pipe(ends), 0);
+        child_ = fork();
+        if (child_ == 0) {
+            setpgid(0, 0);
             std::signal(SIGXFSZ, SIG_IGN); // a full disk sends none
+            std::signal(SIGINT, SIG_DFL);  // which whoever starts the tests may ignore
+            std::signal(SIGHUP, SIG_DFL);
             const rlimit size{limit, limit};
             if (chdir(folder.c_str()) == 0 && setrlimit(RLIMIT_FSIZE, &size) == 0) {
                 dup2(ends[1], 1);
@@ -75,21 +80,38 @@ protected:
             _exit(99);
         }
         close(ends[1]);
+        saying_ = ends[0];
+    }
+
+    // Waits for its end; a group that hangs is killed.
+    Result End() {
         Result result{-1, ""};
         char block[512];
-        for (ssize_t n = 0; (n = read(ends[0], block, sizeof block)) > 0;) {
-            result.said.append(block, static_cast<std::size_t>(n));
+        pollfd waiting{saying_, POLLIN, 0};
+        for (ssize_t n = 1; n > 0;) {
+            if (poll(&waiting, 1, kLongestSilence) == 0) {
+                kill(-child_, SIGKILL);
+                ADD_FAILURE() << "it hangs";
+            }
+            n = read(saying_, block, sizeof block);
+            result.said.append(block, static_cast<std::size_t>(n > 0 ? n : 0));
         }
-        close(ends[0]);
+        close(saying_);
         int status = 0;
-        waitpid(child, &status, 0);
+        waitpid(child_, &status, 0);
         result.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
         // A sanitized recorder ends with 1 as well when it has something to report.
         EXPECT_EQ(result.said.find("Sanitizer: "), std::string::npos) << result.said;
         EXPECT_EQ(result.said.find("runtime error"), std::string::npos) << result.said;
         return result;
     }
-    Result Record(const std::vector<std::string>& arguments, rlim_t limit = kNoLimit) const {
+
+    Result Record(const std::vector<std::string>& arguments, rlim_t limit,
+                  const std::string& folder) {
+        Start(arguments, limit, folder);
+        return End();
+    }
+    Result Record(const std::vector<std::string>& arguments, rlim_t limit = kNoLimit) {
         return Record(arguments, limit, place_);
     }
 
@@ -106,6 +128,8 @@ protected:
 
     DataFolderForTest data_;
     std::string place_;
+    pid_t child_ = -1;
+    int saying_ = -1; // what it says
 };
 
 using Names = std::vector<std::string>;
@@ -181,6 +205,72 @@ TEST_F(CaptureFaults, NowhereToWrite) {
     EXPECT_EQ(Record({"--frames", "0:3", "--hashes", Place("h"), "--video", "/proc/none/v"}).code,
               1);
     EXPECT_EQ(Left(), Names());
+}
+
+TEST_F(CaptureFaults, DataFolderThatIsNone) {
+    std::ofstream(Place("file")) << "no folder\n";
+    for (const std::string& folder : {Place("absent"), Place("file"), std::string("/proc/none")}) {
+        const Result r = Record({"--frames", "0:3", "--hashes", Place("h"), "--data", folder});
+        EXPECT_EQ(r.code, 2) << r.said;
+        EXPECT_NE(r.said.find("larkfen-capture: --data: " + folder + " is no folder\n"),
+                  std::string::npos)
+            << r.said;
+        EXPECT_EQ(Left(), Names{"file"});
+    }
+}
+
+TEST_F(CaptureFaults, DataFolderWithoutOneFileOfTheProduction) {
+    const Result r = Record({"--frames", "0:3", "--hashes", Place("h"), "--data", place_});
+    EXPECT_EQ(r.code, 2) << r.said;
+    EXPECT_NE(
+        r.said.find("larkfen-capture: --data: " + place_ + " holds no data of the production"),
+        std::string::npos)
+        << r.said;
+    EXPECT_EQ(Left(), Names());
+}
+
+TEST_F(CaptureFaults, SoundtrackThatIsAPipe) {
+    data_.Remove("sfx/soundtrack.mp3");
+    ASSERT_EQ(mkfifo(data_.PathOf("sfx/soundtrack.mp3").c_str(), 0600), 0);
+    const Result r =
+        Record({"--frames", "0:10", "--video", Place("v.mp4"), "--data", data_.Root()});
+    EXPECT_EQ(r.code, 0) << r.said;
+    EXPECT_NE(r.said.find("soundtrack.mp3: no sound in it; the video is silent\n"),
+              std::string::npos)
+        << r.said;
+    EXPECT_EQ(Left(), Names{"v.mp4"});
+}
+
+// A terminal that goes away sends it to the recorder, and to the encoder as well.
+TEST_F(CaptureFaults, EndedWhileItRecords) {
+    for (const int reason : {SIGHUP, SIGTERM, SIGINT}) {
+        for (const bool both : {false, true}) {
+            Start({"--hashes", Place("h.txt"), "--video", Place("v.mp4")}, kNoLimit, place_);
+            for (int tries = 0; tries < 1200 && Left().size() < 2; ++tries) {
+                usleep(50000);
+            }
+            EXPECT_EQ(Left().size(), 2U) << "it does not begin";
+            kill(both ? -child_ : child_, reason);
+            const Result r = End();
+            EXPECT_EQ(r.code, 1) << r.said;
+            EXPECT_EQ(Left(), Names()) << "after signal " << reason;
+        }
+    }
+}
+
+TEST_F(CaptureFaults, OptionsGivenTwice) {
+    for (const char* const option : {"--hashes", "--video", "--png"}) {
+        const Result r = Record({"--frames", "0:3", option, Place("a"), option, Place("b")});
+        EXPECT_EQ(r.code, 2) << r.said;
+        EXPECT_NE(r.said.find(std::string(option) + " is given twice\n"), std::string::npos)
+            << r.said;
+    }
+    EXPECT_EQ(Record({"--frames", "0:3", "--frames=0:4", "--hashes", Place("h")}).code, 2);
+    EXPECT_EQ(Record({"--hashes", Place("h"), "--frames", "0:3", "--switch", "crosshair=1",
+                      "--switch", "crosshair=0"})
+                  .code,
+              0);
+    EXPECT_EQ(Left(), Names{"h"});
 }
 
 // From a folder that is not ours and where nothing can be written, and by another way.

@@ -1,6 +1,7 @@
 // Reading the arguments, and the help text.
 #include "options.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -131,6 +132,7 @@ bool IsProductionSwitch(const std::string& text) {
 } // namespace
 
 std::string ReadOptions(int argc, char** argv, Options* options) {
+    std::vector<std::string> given;
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];
         if (argument == "--help" || argument == "-h") {
@@ -154,6 +156,10 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
             }
             value = argv[++i];
         }
+        if (name != "--switch" && std::count(given.begin(), given.end(), name) != 0) {
+            return name + " is given twice";
+        }
+        given.push_back(name);
         std::string problem = ReadOption(name, value, options);
         if (!problem.empty()) {
             return problem;

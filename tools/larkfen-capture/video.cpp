@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 #if __has_include(<sys/wait.h>)
 #include <sys/wait.h>
@@ -48,7 +50,10 @@ std::string SecondsOf(std::int64_t frame) {
 } // namespace
 
 bool CanDecode(const std::string& soundtrack) {
-    return Runs("ffmpeg -nostdin -v quiet -t 1 -i " + FileName(soundtrack) +
+    // A pipe might never begin.
+    std::error_code error;
+    return std::filesystem::is_regular_file(soundtrack, error) &&
+           Runs("ffmpeg -nostdin -v quiet -t 1 -i " + FileName(soundtrack) +
                 " -vn -f null - >/dev/null 2>&1");
 }
 
