@@ -45,7 +45,9 @@ def fuzz(name, build, seconds):
     learnt = build / "learnt" / name
     for folder in (found, learnt):
         folder.mkdir(parents=True, exist_ok=True)
-    files = sorted(path for path in seeds.iterdir() if path.is_file())
+    # Long inputs are only replayed: what is made from them would be slow for its length alone.
+    files = sorted(path for folder in (seeds, ROOT / "fuzz" / "long" / name)
+                   if folder.is_dir() for path in folder.iterdir() if path.is_file())
     common = [program, f"-artifact_prefix={found}/", *LIMITS]
     replay, code, _ = run([*common, *files])
     lines = []

@@ -1,6 +1,6 @@
 // The line reader and its pattern matcher. A pattern is compiled at every match into tokens that
-// point into it; a match walks the words of the line in place, so a call touches each character a
-// few times.
+// point into it. A match may come to a word once for every token; it finds each word of the line
+// and scans it as a number only once, so a call touches each character a few times.
 #include "assets/line_reader.h"
 
 #include <cstring>
@@ -118,11 +118,80 @@ bool FitsLength(const Token& token, std::int32_t length) {
     }
 }
 
-// Tests a word (closed by a zero) against a token and keeps what it captures.
-bool TestWord(LineReader* reader, const Token& token, const char* word, std::int32_t length) {
+// The words of a line, found as far as a match has come.
+struct Word {
+    std::int16_t start;
+    std::int8_t length; // at most 79 count
+    bool knowsInt, knowsFloat;
+    std::int32_t intValue; // of scanInt and scanFloat, once they are known
+    double floatValue;
+};
+struct Words {
+    const char* line;
+    std::int32_t length;
+    std::int32_t count, end; // words found, and the end of the last one
+    Word words[kMaxLine / 2];
+};
+
+// Word number index of the line, which is one of those found or the next; null behind the last.
+Word* FindWord(Words* words, std::int32_t index) {
+    if (index < words->count) {
+        return &words->words[index];
+    }
+    const char* const line = words->line;
+    std::int32_t p = words->end;
+    while (p < words->length && IsBlank(line[p])) {
+        ++p;
+    }
+    const std::int32_t start = p;
+    while (p < words->length && !IsBlank(line[p])) {
+        ++p;
+    }
+    words->end = p;
+    if (p == start) {
+        return nullptr;
+    }
+    const std::int32_t length = p - start < kMaxWord ? p - start : kMaxWord - 1;
+    Word* const word = &words->words[words->count++];
+    word->start = static_cast<std::int16_t>(start);
+    word->length = static_cast<std::int8_t>(length);
+    word->knowsInt = false;
+    word->knowsFloat = false;
+    return word;
+}
+
+// A copy that ends with a zero.
+struct WordText {
+    char text[kMaxWord];
+};
+WordText TextOf(const Words& words, const Word& word) {
+    WordText copy;
+    std::memcpy(copy.text, words.line + word.start, static_cast<std::size_t>(word.length));
+    copy.text[word.length] = '\0';
+    return copy;
+}
+
+std::int32_t IntOf(const Words& words, Word* word) {
+    if (!word->knowsInt) {
+        word->intValue = scanInt(TextOf(words, *word).text);
+        word->knowsInt = true;
+    }
+    return word->intValue;
+}
+
+double FloatOf(const Words& words, Word* word) {
+    if (!word->knowsFloat) {
+        word->floatValue = scanFloat(TextOf(words, *word).text);
+        word->knowsFloat = true;
+    }
+    return word->floatValue;
+}
+
+// Tests a word against a token and keeps what it captures.
+bool TestWord(LineReader* reader, const Token& token, const Words& words, Word* word) {
     switch (token.kind) {
     case 'f': {
-        const double value = scanFloat(word);
+        const double value = FloatOf(words, word);
         if (value == kNotAFloat) {
             return false;
         }
@@ -132,7 +201,7 @@ bool TestWord(LineReader* reader, const Token& token, const char* word, std::int
         return true;
     }
     case 'i': {
-        const std::int32_t value = scanInt(word);
+        const std::int32_t value = IntOf(words, word);
         if (value == kNotAnInt) {
             return false;
         }
@@ -142,13 +211,14 @@ bool TestWord(LineReader* reader, const Token& token, const char* word, std::int
         return true;
     }
     default: {
+        const char* const text = words.line + word->start;
         const bool fits =
             token.kind == 's'
-                ? FitsLength(token, length)
-                : length == token.length &&
-                      std::memcmp(word, token.literal, static_cast<std::size_t>(length)) == 0;
+                ? FitsLength(token, word->length)
+                : word->length == token.length &&
+                      std::memcmp(text, token.literal, static_cast<std::size_t>(token.length)) == 0;
         if (fits) {
-            KeepWord(reader, word, length);
+            KeepWord(reader, text, word->length);
         }
         return fits;
     }
@@ -224,43 +294,28 @@ int match(LineReader* reader, const char* line, const char* pattern) {
     reader->floatCount = 0;
     reader->intCount = 0;
 
+    Words words;
     const std::size_t whole = std::strlen(line);
-    const std::int32_t length = whole < kMaxLine ? static_cast<std::int32_t>(whole) : kMaxLine - 1;
-    std::int32_t position = 0;
-    std::int32_t restart = 0; // end of the first word of this attempt
+    words.line = line;
+    words.length = whole < kMaxLine ? static_cast<std::int32_t>(whole) : kMaxLine - 1;
+    words.count = 0;
+    words.end = 0;
+    std::int32_t first = 0; // word of this attempt
     std::int32_t token = 0;
-    bool first = true;
     while (token < compiled.count) {
-        // Take the next word.
-        while (position < length && IsBlank(line[position])) {
-            ++position;
-        }
-        const std::int32_t start = position;
-        while (position < length && !IsBlank(line[position])) {
-            ++position;
-        }
-        std::int32_t size = position - start;
-        if (size == 0) {
+        Word* const word = FindWord(&words, first + token);
+        if (word == nullptr) {
             return 0;
         }
-        size = size < kMaxWord ? size : kMaxWord - 1;
-        char word[kMaxWord];
-        std::memcpy(word, line + start, static_cast<std::size_t>(size));
-        word[size] = '\0';
-        if (first) {
-            restart = position;
-        }
-
-        // Go on with the next token, or try again one word further.
-        if (TestWord(reader, compiled.tokens[token], word, size)) {
+        // Go on with the next token, or try again one word further; not behind the end of the line.
+        const bool last = first + token == words.count - 1 && words.end >= words.length;
+        if (TestWord(reader, compiled.tokens[token], words, word)) {
             ++token;
-            first = false;
-        } else if (position >= length) {
+        } else if (last) {
             return 0;
         } else {
+            ++first;
             token = 0;
-            position = restart;
-            first = true;
         }
     }
     return 1;
