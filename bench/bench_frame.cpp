@@ -29,7 +29,7 @@ void StartOver() {
     shell.noSound = true;
     ChooseVectorPath(nullptr);
     StartUp();
-    frame.frameCapSwitch = 0;
+    driver.frameCapSwitch = 0;
 }
 
 // The first stretch of a scene, over and over; its lights go on fading in.
@@ -37,16 +37,16 @@ void PlayScene(benchmark::State& state, std::int32_t scene) {
     StartOver();
     std::uint32_t last = 0;
     for (auto _ : state) {
-        if (frame.frameCounter == last) {
+        if (driver.frameCounter == last) {
             state.PauseTiming();
             trackSegment = 0;
             trackT = 0.0F;
-            frame.sceneIndex = scene;
-            last = frame.frameCounter + kFramesOfAStretch;
+            driver.sceneIndex = scene;
+            last = driver.frameCounter + kFramesOfAStretch;
             state.ResumeTiming();
         }
         RenderFrame();
-        frame.sceneIndex = scene;
+        driver.sceneIndex = scene;
     }
     state.counters["frames"] =
         benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);

@@ -194,7 +194,7 @@ struct PlayState {
     SceneOneState one;
     SceneTwoState two;
     SceneSwitches set;
-    FrameState clock;
+    DriverState clock;
 };
 
 void StartFlight(const Flight& flight, PlayState* state) {
@@ -206,19 +206,19 @@ void StartFlight(const Flight& flight, PlayState* state) {
     shell.screenHeight = flight.height;
     StartUp();
     // The first frame sets the scene up; then its light shines in full.
-    frame.frameCapSwitch = 0;
-    frame.sceneIndex = flight.scene;
+    driver.frameCapSwitch = 0;
+    driver.sceneIndex = flight.scene;
     RenderFrame();
     std::fill_n(sceneOne.ambientFade, 3, 128.0F);
     std::fill_n(sceneOne.lightFade, 3, 200.0F);
-    *state = {sceneOne, sceneTwo, switches, frame};
+    *state = {sceneOne, sceneTwo, switches, driver};
 }
 
 double FlyOnce(const Flight& flight, const PlayState& state, VectorPath path) {
     sceneOne = state.one;
     sceneTwo = state.two;
     switches = state.set;
-    frame = state.clock;
+    driver = state.clock;
     SetRenderFloatMode();
     UseFillers(path);
     UseFrontEnd(path);
@@ -228,7 +228,7 @@ double FlyOnce(const Flight& flight, const PlayState& state, VectorPath path) {
     for (int i = 0; i < kFramesOfARound; ++i) {
         trackSegment = keys * i / kFramesOfARound;
         trackT = 0.5F;
-        frame.sceneIndex = flight.scene;
+        driver.sceneIndex = flight.scene;
         const double start = ProcessorSeconds();
         RenderFrame();
         seconds += ProcessorSeconds() - start;

@@ -199,7 +199,7 @@ void HoldSwitches(const Recorder& recorder) {
 void OnTurn(std::int64_t, void* user) {
     auto* recorder = static_cast<Recorder*>(user);
     HoldSwitches(*recorder);
-    recorder->scene = std::clamp(ombrel::frame.sceneIndex, 0, 6);
+    recorder->scene = std::clamp(ombrel::driver.sceneIndex, 0, 6);
 }
 
 void OnMessage(const char* text, ombrel::MessageKind kind, void*) {

@@ -57,16 +57,16 @@ float RateOf(double numerator, std::uint32_t ms) {
 // REQUIRED R12: the counter restarts at 1 and is tested against more than 10, so that a period
 // is 11 frames while the figure is made for 10.
 void MeasureAverageRate() {
-    if (!frame.averagingStarted) {
-        frame.averagingStarted = true;
-        frame.averagingStartTick = TickNow();
+    if (!driver.averagingStarted) {
+        driver.averagingStarted = true;
+        driver.averagingStartTick = TickNow();
     }
-    if (frame.averagingCounter > kAveragedFrames) {
-        frame.averagingCounter = 0;
-        frame.averageFrameRate = RateOf(10000.0, TickNow() - frame.averagingStartTick);
-        frame.averagingStartTick = TickNow();
+    if (driver.averagingCounter > kAveragedFrames) {
+        driver.averagingCounter = 0;
+        driver.averageFrameRate = RateOf(10000.0, TickNow() - driver.averagingStartTick);
+        driver.averagingStartTick = TickNow();
     }
-    ++frame.averagingCounter;
+    ++driver.averagingCounter;
 }
 
 } // namespace
@@ -76,30 +76,30 @@ std::uint32_t TickNow() {
 }
 
 void FrameClockStart() {
-    frame.frameStartTick = TickNow();
+    driver.frameStartTick = TickNow();
 }
 
 std::uint32_t FrameClockWait(std::uint32_t ms) {
-    while (TickNow() - frame.frameStartTick < ms) {
+    while (TickNow() - driver.frameStartTick < ms) {
     }
     return TickNow();
 }
 
 int RenderFrame() {
     // Hold the scene index inside its range.
-    frame.sceneIndex = std::clamp(frame.sceneIndex, 0, kLastScene);
+    driver.sceneIndex = std::clamp(driver.sceneIndex, 0, kLastScene);
 
     // Start the clock of the frame.
     FrameClockStart();
 
     // Draw the scene; where there is none the back surface stays as it is.
-    if (frame.sceneIndex < kSceneCount) {
-        PlayScene(kScenes[frame.sceneIndex]);
+    if (driver.sceneIndex < kSceneCount) {
+        PlayScene(kScenes[driver.sceneIndex]);
     }
 
     // Draw the crosshair over it, for development only.
     LockFrame();
-    if (frame.crosshairSwitch == 1) {
+    if (driver.crosshairSwitch == 1) {
         DrawCrosshair();
     }
     (void)UnlockFrame();
@@ -108,15 +108,15 @@ int RenderFrame() {
     (void)PresentFrame();
 
     // Let the frame last its time.
-    if (frame.frameCapSwitch == 1) {
+    if (driver.frameCapSwitch == 1) {
         FrameClockWait(kFrameMs);
     }
 
     // Take the figures.
     MeasureAverageRate();
-    ++frame.frameCounter;
-    frame.instantFrameRate = RateOf(1000.0, TickNow() - frame.frameStartTick);
-    frame.demoTime = TickNow() - frame.demoStartTick;
+    ++driver.frameCounter;
+    driver.instantFrameRate = RateOf(1000.0, TickNow() - driver.frameStartTick);
+    driver.demoTime = TickNow() - driver.demoStartTick;
 
     // Let Escape close the window.
     if (EscapeKeyDown()) {

@@ -1,5 +1,5 @@
 // One turn of the picture: scene, crosshair, presentation, frame cap, counters, Escape. Works on
-// `frame` and `display`. Caller: the message loop.
+// `driver` and `display`. Caller: the message loop.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@ namespace ombrel {
 inline constexpr std::uint32_t kFrameMs = 25; // 40 frames per second at most
 
 std::uint32_t TickNow(); // ms, wraps at 2^32
-void FrameClockStart();  // stores the tick in frame.frameStartTick
+void FrameClockStart();  // stores the tick in driver.frameStartTick
 // Spins until at least ms have passed since FrameClockStart; returns a fresh tick. Never sleeps.
 std::uint32_t FrameClockWait(std::uint32_t ms);
 

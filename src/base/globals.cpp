@@ -9,14 +9,14 @@ namespace {
 
 constexpr Rect kInitialClip{0, 0, 640, 480};
 constexpr ShellState kInitialShell{640, 480, 0, false, 0, 0, 0, 0, 0};
-constexpr FrameState kInitialFrame{0, -1, 1, 0, 0, 0, 0, 10, 0, false, 0.0F, 0.0F};
+constexpr DriverState kInitialDriver{0, -1, 1, 0, 0, 0, 0, 10, 0, false, 0.0F, 0.0F};
 
 } // namespace
 
 constinit DisplayFormat displayFormat = kFormat565;
 constinit Rect clipRect = kInitialClip;
 constinit ShellState shell = kInitialShell;
-constinit FrameState frame = kInitialFrame;
+constinit DriverState driver = kInitialDriver;
 
 void ResetDisplayFormat() {
     displayFormat = kFormat565;
@@ -26,7 +26,7 @@ void ResetClipRect() {
 }
 void ResetShellState() {
     shell = kInitialShell;
-    frame = kInitialFrame;
+    driver = kInitialDriver;
 }
 
 } // namespace ombrel

@@ -24,7 +24,7 @@ struct ShellState {
 extern ShellState shell;
 
 // Written by the frame driver (and sceneIndex by the scenes); read by the scenes.
-struct FrameState {
+struct DriverState {
     std::int32_t sceneIndex;      // 0 scene one, 1 scene two, 2..6 nothing
     std::int32_t crosshairSwitch; // drawn only when 1
     std::int32_t frameCapSwitch;  // 1: a frame lasts at least 25 ms
@@ -38,7 +38,7 @@ struct FrameState {
     float averageFrameRate;           // frames per second, about 10/11 of the true rate
     float instantFrameRate;           // frames per second of the last frame; infinite for 0 ms
 };
-extern FrameState frame;
+extern DriverState driver;
 
 void ResetShellState(); // both records
 

@@ -65,7 +65,7 @@ void MoveCamera() {
     if (switches.cameraRunning != 0) {
         const std::int32_t segment = TrackSample(&world.camera, sceneOne.keys, sceneOne.keyCount);
         if (segment > kLastSegment) {
-            ++frame.sceneIndex;
+            ++driver.sceneIndex;
         }
     }
     CameraBuildView(&world.camera, kBuildOrder);

@@ -25,7 +25,7 @@ extern SceneOneState sceneOne;
 
 void ResetSceneOne();
 
-// Its row of the scene table. The step raises frame.sceneIndex when the track passes key 31.
+// Its row of the scene table. The step raises driver.sceneIndex when the track passes key 31.
 void StartSceneOne();
 bool StepSceneOne();
 void GatherSceneOne(FrontEnd* front);

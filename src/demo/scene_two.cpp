@@ -70,7 +70,7 @@ float Cosine(float radians) {
 
 // The dots replace the filled view. False when the production is over.
 bool KeepTime() {
-    if (frame.frameCounter > sceneTwo.startFrame + kFilledFrames) {
+    if (driver.frameCounter > sceneTwo.startFrame + kFilledFrames) {
         switches.renderMode1 = 0;
         switches.backFace = 1;
         world.lights[0].ambientColor = kDotAmbient;
@@ -261,7 +261,7 @@ void StartSceneTwo() {
     for (int i = 0; i < 5; ++i) {
         world.lights[1 + i].lightColor = kFirstColors[i];
     }
-    sceneTwo.startFrame = frame.frameCounter;
+    sceneTwo.startFrame = driver.frameCounter;
     switches.lightCount = kLights;
 }
 

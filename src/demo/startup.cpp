@@ -113,7 +113,7 @@ void LoadLightMarker() {
 
 void ParkCursor() {
     MoveMouseCursor(shell.screenCenterX, shell.screenCenterY);
-    frame.sceneIndex = 0;
+    driver.sceneIndex = 0;
     world.pitchPixels = display.back.pitch / 2;
     ReadMouseCursor(&startUp.cursorX, &startUp.cursorY);
     if (switches.hideCursor == 1) {
@@ -176,7 +176,7 @@ int StartUp() {
     if (!shell.noSound) {
         StartSoundtrack();
     }
-    frame.demoStartTick = TickCount();
+    driver.demoStartTick = TickCount();
     return 1;
 }
 

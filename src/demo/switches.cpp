@@ -29,9 +29,9 @@ constexpr SwitchRow kSwitches[] = {
     {"lightCount",    &switches.lightCount,    0,         kMaxLights, "lights in use (set by each scene)"},
     {"hideCursor",    &switches.hideCursor,    INT32_MIN, INT32_MAX, "1 hides the cursor (1)"},
     {"cameraRunning", &switches.cameraRunning, INT32_MIN, INT32_MAX, "1 follows the track (set by each scene)"},
-    {"sceneIndex",    &frame.sceneIndex,       INT32_MIN, INT32_MAX, "0 scene one, 1 scene two, 2..6 none"},
-    {"crosshair",     &frame.crosshairSwitch,  INT32_MIN, INT32_MAX, "1 draws it (-1)"},
-    {"frameCap",      &frame.frameCapSwitch,   INT32_MIN, INT32_MAX, "1 holds a frame for 25 ms (1)"},
+    {"sceneIndex",    &driver.sceneIndex,       INT32_MIN, INT32_MAX, "0 scene one, 1 scene two, 2..6 none"},
+    {"crosshair",     &driver.crosshairSwitch,  INT32_MIN, INT32_MAX, "1 draws it (-1)"},
+    {"frameCap",      &driver.frameCapSwitch,   INT32_MIN, INT32_MAX, "1 holds a frame for 25 ms (1)"},
 };
 // clang-format on
 

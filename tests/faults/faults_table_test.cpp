@@ -57,8 +57,8 @@ void LookAtShown(const PresentedFrame& shown, void* user) {
 
 void BeforeTurn(std::int64_t turn, void* user) {
     auto* const run = static_cast<Run*>(user);
-    run->outcome.averageRate = frame.averageFrameRate;
-    run->outcome.demoTime = frame.demoTime;
+    run->outcome.averageRate = driver.averageFrameRate;
+    run->outcome.demoTime = driver.demoTime;
     if (run->onTurn) {
         run->onTurn(turn);
     }
@@ -108,7 +108,7 @@ void PlaysWhole(const Outcome& o) {
     EXPECT_EQ(o.drawn, kAll);
     EXPECT_EQ(o.shown, kAll);
     EXPECT_EQ(o.lit, kAll);
-    EXPECT_EQ(frame.sceneIndex, 1);
+    EXPECT_EQ(driver.sceneIndex, 1);
 }
 void PlaysWholeInSilence(const Outcome& o) {
     PlaysWhole(o);
@@ -121,8 +121,8 @@ void NothingHappens(const Outcome& o) {
 }
 void PlaysUnseen(const Outcome& o) {
     EXPECT_EQ(o.shown, 0);
-    EXPECT_EQ(frame.frameCounter, static_cast<std::uint32_t>(kAll));
-    EXPECT_EQ(frame.sceneIndex, 1);
+    EXPECT_EQ(driver.frameCounter, static_cast<std::uint32_t>(kAll));
+    EXPECT_EQ(driver.sceneIndex, 1);
 }
 
 const char* const kPlain = "-w -resolution=320x240";
@@ -184,7 +184,7 @@ std::vector<Fault> Faults() {
          },
          [](const Outcome& o) {
              EXPECT_EQ(o.shown, 7);
-             EXPECT_EQ(frame.frameCounter, static_cast<std::uint32_t>(kAll));
+             EXPECT_EQ(driver.frameCounter, static_cast<std::uint32_t>(kAll));
          }},
         {"no sound device", kPlain, [] { script.soundDevices = 0; }, nullptr,
          [](const Outcome& o) {
@@ -248,7 +248,7 @@ std::vector<Fault> Faults() {
          [](const Outcome& o) {
              EXPECT_EQ(o.drawn, kAll);
              EXPECT_EQ(o.lit, 0);
-             EXPECT_EQ(frame.sceneIndex, 0); // no track to lead out of scene one
+             EXPECT_EQ(driver.sceneIndex, 0); // no track to lead out of scene one
          }},
         {"every third read fails", kPlain,
          [] {
@@ -274,7 +274,7 @@ std::vector<Fault> Faults() {
          [](const Outcome& o) {
              EXPECT_EQ(o.drawn, kAll);
              EXPECT_EQ(o.lit, 0);
-             EXPECT_EQ(frame.sceneIndex, 1);
+             EXPECT_EQ(driver.sceneIndex, 1);
          }},
     };
 }
@@ -323,7 +323,7 @@ TEST_F(FaultTable, EachFileUnreadable) {
         EXPECT_EQ(o.said, "");
         // The second scene has not begun or has: its track is read then. The sound is not ours.
         EXPECT_GE(failing.failed, name == "sfx/soundtrack.mp3" ? 0 : 1);
-        EXPECT_EQ(frame.sceneIndex, name == "cam/scene1.trk" ? 0 : 1);
+        EXPECT_EQ(driver.sceneIndex, name == "cam/scene1.trk" ? 0 : 1);
         ExpectPutBack(name.c_str());
     }
 }
@@ -348,7 +348,7 @@ TEST_F(FaultTable, EachFileBreaksOff) {
             EXPECT_EQ(o.drawn, kAll);
             EXPECT_GT(o.lit, 0);
             EXPECT_EQ(o.said, "");
-            EXPECT_EQ(frame.sceneIndex, name == "cam/scene1.trk" && first == 0 ? 0 : 1);
+            EXPECT_EQ(driver.sceneIndex, name == "cam/scene1.trk" && first == 0 ? 0 : 1);
             reads += failing.failed;
             ExpectPutBack(name.c_str());
         }

@@ -219,8 +219,8 @@ void AddFaces(Digest* digest) {
 
 std::uint64_t DigestState() {
     Digest digest;
-    digest.Add(frame.sceneIndex);
-    digest.Add(frame.frameCounter);
+    digest.Add(driver.sceneIndex);
+    digest.Add(driver.frameCounter);
     AddCamera(&digest);
     AddLights(&digest);
     AddSceneOne(&digest);

@@ -27,7 +27,7 @@ std::vector<FrameLine> PlayAndRecord(const std::string& commandLine, WorldFindin
     std::vector<FrameLine> lines;
     RunProductionForTest(commandLine, [&](const RunFrame& f) {
         lines.push_back(
-            {f.number, frame.sceneIndex, sceneFaces.count, DigestState(),
+            {f.number, driver.sceneIndex, sceneFaces.count, DigestState(),
              HashPicture(f.shown.pixels, f.shown.pitch, f.shown.width, f.shown.height)});
         LookAtWorld(findings, f);
     });
@@ -92,7 +92,7 @@ TEST(FrameRecord, TwoRunsAreTheSameAndADifferentTrackIsNot) {
         std::vector<FrameLine> lines;
         RunProductionForTest("-w -ns", [&lines](const RunFrame& f) {
             lines.push_back(
-                {f.number, frame.sceneIndex, sceneFaces.count, DigestState(),
+                {f.number, driver.sceneIndex, sceneFaces.count, DigestState(),
                  HashPicture(f.shown.pixels, f.shown.pitch, f.shown.width, f.shown.height)});
             if (f.number == 120) {
                 EndRunAfterThisFrame();

@@ -77,7 +77,7 @@ std::vector<DrawnFrame> FlyThrough(VectorPath path) {
             std::fill_n(sceneOne.ambientFade, 3, 128.0F);
             std::fill_n(sceneOne.lightFade, 3, 220.0F);
         }
-        frame.sceneIndex = first ? 0 : 1;
+        driver.sceneIndex = first ? 0 : 1;
         const std::int32_t keys = first ? 31 : std::max(sceneTwo.keyCount - 3, 1);
         trackSegment = static_cast<std::int32_t>(next % kFramesOfAScene * keys / kFramesOfAScene);
         trackT = 0.3F;

@@ -35,9 +35,9 @@ protected:
     }
     static std::int64_t FramesOfSceneOne() {
         std::int64_t frames = 0;
-        while (frame.sceneIndex == 0 && frames < 100000) {
+        while (driver.sceneIndex == 0 && frames < 100000) {
             PlayScene(kScenes[0]);
-            ++frame.frameCounter;
+            ++driver.frameCounter;
             ++frames;
         }
         return frames;

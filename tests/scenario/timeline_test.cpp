@@ -91,7 +91,7 @@ protected:
     static FrameLog Look(const RunFrame& f, std::int32_t page) {
         FrameLog l{};
         const PresentedFrame& shown = f.shown;
-        l.scene = frame.sceneIndex;
+        l.scene = driver.sceneIndex;
         l.tick = offscreen.tick;
         l.ambient = world.lights[0].ambientColor;
         l.light = world.lights[1].lightColor;

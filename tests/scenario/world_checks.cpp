@@ -198,7 +198,7 @@ void LookAtWorld(WorldFindings* findings, const RunFrame& f) {
     }
     // Scene two blends with the picture before, so that only scene one can start on a marker; a
     // frame outside the box clears it away.
-    if (frame.sceneIndex == 0) {
+    if (driver.sceneIndex == 0) {
         FillSurface(display.backSurface, kMarker, nullptr);
     }
 }

@@ -49,7 +49,7 @@ protected:
 };
 
 void HandOver() {
-    frame.sceneIndex = 1;
+    driver.sceneIndex = 1;
 }
 
 Mesh* BusiestObject() {

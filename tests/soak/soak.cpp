@@ -47,14 +47,14 @@ void OnFrame(const PresentedFrame&, void* user) {
     auto* const pace = static_cast<Pace*>(user);
     const Options& options = *pace->options;
     ++pace->frames;
-    pace->begun += frame.sceneIndex == 1 ? 1 : 0;
+    pace->begun += driver.sceneIndex == 1 ? 1 : 0;
     if (options.fast) {
         trackT = 1.0F;
         LeaveOutTheMiddle();
     }
     if (options.scenes > 0) {
         if (pace->frames == options.scenes) {
-            frame.sceneIndex = 1;
+            driver.sceneIndex = 1;
         }
         if (pace->begun == options.scenes + 1) {
             PostQuit(0);

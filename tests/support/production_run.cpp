@@ -57,7 +57,7 @@ void EndRunAfterThisFrame() {
 }
 
 void LeaveOutTheMiddle() {
-    if (!sceneTwo.started || frame.frameCounter != sceneTwo.startFrame + 60) {
+    if (!sceneTwo.started || driver.frameCounter != sceneTwo.startFrame + 60) {
         return;
     }
     sceneTwo.startFrame -= 1780;

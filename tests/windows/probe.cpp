@@ -282,9 +282,9 @@ SHORT WINAPI WatchedKey(int key) {
 
 // A turn of the loop begins: the scene that will draw is known.
 BOOL WINAPI WatchedPeek(MSG* message, HWND window, UINT from, UINT to, UINT remove) {
-    watch.scene = frame.sceneIndex;
+    watch.scene = driver.sceneIndex;
     if (watch.hashes) {
-        frame.frameCapSwitch = 0;
+        driver.frameCapSwitch = 0;
     }
     return PeekMessageA(message, window, from, to, remove);
 }

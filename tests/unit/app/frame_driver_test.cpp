@@ -28,18 +28,18 @@ protected:
         shell.screenHeight = height;
         ASSERT_EQ(OpenDisplay(width, height, 16, 1, 0), 1);
         FillSurface(display.backSurface, kGrey, nullptr);
-        frame.sceneIndex = 2;
+        driver.sceneIndex = 2;
     }
 };
 
 TEST_F(FrameDriverTest, InitialValues) {
-    EXPECT_EQ(frame.sceneIndex, 0);
-    EXPECT_EQ(frame.crosshairSwitch, -1);
-    EXPECT_EQ(frame.frameCapSwitch, 1);
-    EXPECT_EQ(frame.frameCounter, 0U);
-    EXPECT_EQ(frame.averagingCounter, 10);
-    EXPECT_EQ(frame.averageFrameRate, 0.0F);
-    EXPECT_EQ(frame.instantFrameRate, 0.0F);
+    EXPECT_EQ(driver.sceneIndex, 0);
+    EXPECT_EQ(driver.crosshairSwitch, -1);
+    EXPECT_EQ(driver.frameCapSwitch, 1);
+    EXPECT_EQ(driver.frameCounter, 0U);
+    EXPECT_EQ(driver.averagingCounter, 10);
+    EXPECT_EQ(driver.averageFrameRate, 0.0F);
+    EXPECT_EQ(driver.instantFrameRate, 0.0F);
 }
 
 TEST_F(FrameDriverTest, TickNowReadsTheClock) {
@@ -49,7 +49,7 @@ TEST_F(FrameDriverTest, TickNowReadsTheClock) {
 
 TEST_F(FrameDriverTest, ClockWaitSpinsAndReturnsAFreshTick) {
     FrameClockStart(); // 5000
-    EXPECT_EQ(frame.frameStartTick, 5000U);
+    EXPECT_EQ(driver.frameStartTick, 5000U);
     EXPECT_EQ(FrameClockWait(25), 5026U); // the read of 5025 ends it
     EXPECT_EQ(FrameClockWait(0), 5028U);
 }
@@ -62,22 +62,22 @@ TEST_F(FrameDriverTest, ClockWaitSurvivesTheWrap) {
 
 TEST_F(FrameDriverTest, SceneIndexAboveSixIsSixAndTheFrameIsCounted) {
     Open();
-    frame.sceneIndex = 9;
+    driver.sceneIndex = 9;
     EXPECT_EQ(RenderFrame(), 1);
-    EXPECT_EQ(frame.sceneIndex, 6);
+    EXPECT_EQ(driver.sceneIndex, 6);
     EXPECT_EQ(offscreen.shown, 1);
     EXPECT_EQ(ShownPixel(100, 100), kGrey); // what the back surface held
-    EXPECT_EQ(frame.frameCounter, 1U);
-    EXPECT_EQ(frame.instantFrameRate, 1000.0F / 28.0F);
+    EXPECT_EQ(driver.frameCounter, 1U);
+    EXPECT_EQ(driver.instantFrameRate, 1000.0F / 28.0F);
     EXPECT_FALSE(sceneOne.started);
 }
 
 TEST_F(FrameDriverTest, SceneIndicesTwoToSixDrawNothing) {
     Open();
     for (std::int32_t index = 2; index <= 6; ++index) {
-        frame.sceneIndex = index;
+        driver.sceneIndex = index;
         RenderFrame();
-        EXPECT_EQ(frame.sceneIndex, index);
+        EXPECT_EQ(driver.sceneIndex, index);
         EXPECT_EQ(ShownPixel(320, 240), kGrey);
     }
     EXPECT_EQ(offscreen.shown, 5);
@@ -85,7 +85,7 @@ TEST_F(FrameDriverTest, SceneIndicesTwoToSixDrawNothing) {
 }
 
 void SetMinusFive(std::int64_t turn, void*) {
-    frame.sceneIndex = turn == 0 ? -5 : 2;
+    driver.sceneIndex = turn == 0 ? -5 : 2;
 }
 
 TEST_F(FrameDriverTest, SceneIndexBelowZeroIsSceneOne) {
@@ -100,33 +100,33 @@ TEST_F(FrameDriverTest, FrameLastsItsTimeFromItsStart) {
     RenderFrame();
     // Start 5000; the wait ends with 5025 and reads 5026; 5027 opens the averaging period; 5028 and
     // 5029 are the figures.
-    EXPECT_EQ(frame.frameStartTick, 5000U);
-    EXPECT_EQ(frame.averagingStartTick, 5027U);
-    EXPECT_EQ(frame.instantFrameRate, 1000.0F / 28.0F);
-    EXPECT_EQ(frame.demoTime, 5029U);
+    EXPECT_EQ(driver.frameStartTick, 5000U);
+    EXPECT_EQ(driver.averagingStartTick, 5027U);
+    EXPECT_EQ(driver.instantFrameRate, 1000.0F / 28.0F);
+    EXPECT_EQ(driver.demoTime, 5029U);
     EXPECT_EQ(offscreen.tick, 5030U);
 }
 
 TEST_F(FrameDriverTest, DemoTimeCountsFromTheDemoStart) {
     Open();
-    frame.demoStartTick = 4000;
+    driver.demoStartTick = 4000;
     RenderFrame();
-    EXPECT_EQ(frame.demoTime, 1029U);
-    frame.demoStartTick = 0xFFFFFFFF; // started before the wrap
+    EXPECT_EQ(driver.demoTime, 1029U);
+    driver.demoStartTick = 0xFFFFFFFF; // started before the wrap
     offscreen.tick = 10;
     RenderFrame();
-    EXPECT_EQ(frame.demoTime, frame.frameStartTick + 31);
+    EXPECT_EQ(driver.demoTime, driver.frameStartTick + 31);
 }
 
 TEST_F(FrameDriverTest, AnyOtherCapSwitchLetsFramesRun) {
     Open();
     for (const std::int32_t value : {0, 2, -1}) {
-        frame.frameCapSwitch = value;
+        driver.frameCapSwitch = value;
         const std::uint32_t before = offscreen.tick;
         RenderFrame();
         EXPECT_LT(offscreen.tick - before, 8U) << value;
     }
-    frame.frameCapSwitch = 1;
+    driver.frameCapSwitch = 1;
     const std::uint32_t before = offscreen.tick;
     RenderFrame();
     EXPECT_GE(offscreen.tick - before, 25U);
@@ -135,25 +135,25 @@ TEST_F(FrameDriverTest, AnyOtherCapSwitchLetsFramesRun) {
 TEST_F(FrameDriverTest, FrameOfNoTimeHasAnInfiniteRate) {
     Open();
     script.msPerRead = 0;
-    frame.frameCapSwitch = 0;
+    driver.frameCapSwitch = 0;
     RenderFrame();
-    EXPECT_TRUE(std::isinf(frame.instantFrameRate));
-    EXPECT_GT(frame.instantFrameRate, 0.0F);
+    EXPECT_TRUE(std::isinf(driver.instantFrameRate));
+    EXPECT_GT(driver.instantFrameRate, 0.0F);
     RenderFrame(); // the first measurement, over 0 ms
-    EXPECT_TRUE(std::isinf(frame.averageFrameRate));
+    EXPECT_TRUE(std::isinf(driver.averageFrameRate));
 }
 
 TEST_F(FrameDriverTest, R12_FirstAverageOnTheSecondFrameThenEveryEleventh) {
     Open();
     std::vector<int> measured;
-    float last = frame.averageFrameRate;
+    float last = driver.averageFrameRate;
     for (int number = 1; number <= 40; ++number) {
         // Make every period last differently, so that every measurement shows.
         offscreen.tick += static_cast<std::uint32_t>(number);
         RenderFrame();
-        if (frame.averageFrameRate != last) {
+        if (driver.averageFrameRate != last) {
             measured.push_back(number);
-            last = frame.averageFrameRate;
+            last = driver.averageFrameRate;
         }
     }
     EXPECT_EQ(measured, (std::vector<int>{2, 13, 24, 35}));
@@ -167,8 +167,8 @@ TEST_F(FrameDriverTest, R12_AverageIsTenElevenths) {
         RenderFrame();
     }
     // 11 frames of 25 ms, and a figure made for 10.
-    EXPECT_EQ(frame.averageFrameRate, static_cast<float>(10000.0 / 275.0));
-    EXPECT_EQ(frame.instantFrameRate, 40.0F);
+    EXPECT_EQ(driver.averageFrameRate, static_cast<float>(10000.0 / 275.0));
+    EXPECT_EQ(driver.instantFrameRate, 40.0F);
 }
 
 TEST_F(FrameDriverTest, R12_AverageReadsTheClockTwice) {
@@ -176,14 +176,14 @@ TEST_F(FrameDriverTest, R12_AverageReadsTheClockTwice) {
     RenderFrame();
     RenderFrame();
     // Frame 2 starts at 5030; 5057 is measured against 5027; 5058 opens the next period.
-    EXPECT_EQ(frame.averageFrameRate, 10000.0F / 30.0F);
-    EXPECT_EQ(frame.averagingStartTick, 5058U);
-    EXPECT_EQ(frame.averagingCounter, 1);
+    EXPECT_EQ(driver.averageFrameRate, 10000.0F / 30.0F);
+    EXPECT_EQ(driver.averagingStartTick, 5058U);
+    EXPECT_EQ(driver.averagingCounter, 1);
     for (int number = 3; number <= 13; ++number) {
         RenderFrame();
     }
     // Frame 3 starts at 5061, ten frames of 29 reads follow; 5378 is measured against 5058.
-    EXPECT_EQ(frame.averageFrameRate, 10000.0F / 320.0F);
+    EXPECT_EQ(driver.averageFrameRate, 10000.0F / 320.0F);
 }
 
 TEST_F(FrameDriverTest, FailedPresentIsNotLookedAt) {
@@ -192,7 +192,7 @@ TEST_F(FrameDriverTest, FailedPresentIsNotLookedAt) {
     script.failShowTo = 1;
     EXPECT_EQ(RenderFrame(), 1);
     EXPECT_EQ(offscreen.shown, 0);
-    EXPECT_EQ(frame.frameCounter, 1U);
+    EXPECT_EQ(driver.frameCounter, 1U);
     EXPECT_EQ(RenderFrame(), 1);
     EXPECT_EQ(offscreen.shown, 1);
 }
@@ -207,9 +207,9 @@ TEST_F(FrameDriverTest, SurfaceLeftLockedIsUnlockedBeforeThePresent) {
 
 TEST_F(FrameDriverTest, FrameCounterWraps) {
     Open();
-    frame.frameCounter = 0xFFFFFFFF;
+    driver.frameCounter = 0xFFFFFFFF;
     RenderFrame();
-    EXPECT_EQ(frame.frameCounter, 0U);
+    EXPECT_EQ(driver.frameCounter, 0U);
 }
 
 TEST_F(FrameDriverTest, EscapePostsTheDestroyMessage) {
@@ -254,14 +254,14 @@ void ExpectCrosshair(std::int32_t width, std::int32_t height, bool drawn) {
 TEST_F(FrameDriverTest, R11_CrosshairPixels) {
     softOptions.pitchPadding = 30;
     Open();
-    frame.crosshairSwitch = 1;
+    driver.crosshairSwitch = 1;
     RenderFrame();
     ExpectCrosshair(640, 480, true);
 }
 
 TEST_F(FrameDriverTest, R11_CrosshairOfAnOddFrame) {
     Open(31, 21);
-    frame.crosshairSwitch = 1;
+    driver.crosshairSwitch = 1;
     RenderFrame();
     ExpectCrosshair(31, 21, true);
 }
@@ -270,17 +270,17 @@ TEST_F(FrameDriverTest, CrosshairNeedsItsSwitchAtOne) {
     for (const std::int32_t value : {-1, 0, 2}) {
         SetUp();
         Open();
-        frame.crosshairSwitch = value;
+        driver.crosshairSwitch = value;
         RenderFrame();
         ExpectCrosshair(640, 480, false);
     }
 }
 
 TEST_F(FrameDriverTest, CrosshairWithoutADisplayIsHarmless) {
-    frame.sceneIndex = 3;
-    frame.crosshairSwitch = 1;
+    driver.sceneIndex = 3;
+    driver.crosshairSwitch = 1;
     EXPECT_EQ(RenderFrame(), 1);
-    EXPECT_EQ(frame.frameCounter, 1U);
+    EXPECT_EQ(driver.frameCounter, 1U);
 }
 
 } // namespace

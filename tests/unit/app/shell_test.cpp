@@ -198,7 +198,7 @@ TEST_F(ShellTest, DisplayThatDoesNotOpenDoesNotStopTheRun) {
         script.messageCount = 1;
         EXPECT_EQ(RunProduction(line), 0);
         EXPECT_EQ(offscreen.shown, 0);
-        EXPECT_EQ(frame.frameCounter, 6U);
+        EXPECT_EQ(driver.frameCounter, 6U);
         EXPECT_EQ(offscreen.screenSaver, 1);
     }
 }
@@ -220,7 +220,7 @@ TEST_F(ShellTest, R13_TurnsThatHandleAMessageDrawAFrameToo) {
     EXPECT_EQ(RunProduction("-w -ns"), 0);
     EXPECT_EQ(CountLines("Dispatch other"), 10);
     EXPECT_EQ(offscreen.shown, 11);
-    EXPECT_EQ(frame.frameCounter, 11U);
+    EXPECT_EQ(driver.frameCounter, 11U);
 }
 
 TEST_F(ShellTest, R13_HeldEscapePostsOnEveryFrameUntilTheEnd) {

@@ -133,8 +133,8 @@ TEST(Globals, ResetRestoresTheStart) {
     clipRect = {1, 2, 3, 4};
     shell.screenWidth = 1;
     shell.noSound = true;
-    frame.sceneIndex = 6;
-    frame.frameCounter = 77;
+    driver.sceneIndex = 6;
+    driver.frameCounter = 77;
     ResetDisplayFormat();
     ResetClipRect();
     ResetShellState();
@@ -147,10 +147,10 @@ TEST(Globals, ResetRestoresTheStart) {
     EXPECT_EQ(shell.screenWidth, 640);
     EXPECT_EQ(shell.screenHeight, 480);
     EXPECT_FALSE(shell.noSound);
-    EXPECT_EQ(frame.sceneIndex, 0);
-    EXPECT_EQ(frame.frameCounter, 0U);
-    EXPECT_EQ(frame.frameCapSwitch, 1);
-    EXPECT_EQ(frame.crosshairSwitch, -1);
+    EXPECT_EQ(driver.sceneIndex, 0);
+    EXPECT_EQ(driver.frameCounter, 0U);
+    EXPECT_EQ(driver.frameCapSwitch, 1);
+    EXPECT_EQ(driver.crosshairSwitch, -1);
 }
 
 } // namespace

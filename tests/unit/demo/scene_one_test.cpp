@@ -85,7 +85,7 @@ TEST_F(SceneOneTest, WithoutATrackTheCameraStaysWithItsFirstField) {
     EXPECT_EQ(sceneOne.keyCount, 0);
     EXPECT_EQ(world.camera.fov, 146.5F);
     EXPECT_EQ(world.camera.position.x, 0.0F);
-    EXPECT_EQ(frame.sceneIndex, 0);
+    EXPECT_EQ(driver.sceneIndex, 0);
 }
 
 TEST_F(SceneOneTest, TracksOfOneAndTwoKeysLeaveTheCameraToo) {
@@ -99,7 +99,7 @@ TEST_F(SceneOneTest, TracksOfOneAndTwoKeysLeaveTheCameraToo) {
         }
         EXPECT_EQ(sceneOne.keyCount, keys);
         EXPECT_EQ(world.camera.position.y, 0.0F);
-        EXPECT_EQ(frame.sceneIndex, 0);
+        EXPECT_EQ(driver.sceneIndex, 0);
     }
 }
 
@@ -311,10 +311,10 @@ TEST_F(SceneOneTest, HandsOverInTheCallThatPassesKey31) {
     StartUp();
     for (int f = 0; f < 32; ++f) {
         PlayScene(kScenes[0]);
-        EXPECT_EQ(frame.sceneIndex, 0) << f;
+        EXPECT_EQ(driver.sceneIndex, 0) << f;
     }
     PlayScene(kScenes[0]);
-    EXPECT_EQ(frame.sceneIndex, 1);
+    EXPECT_EQ(driver.sceneIndex, 1);
     EXPECT_EQ(trackSegment, 32);
     EXPECT_EQ(world.camera.position.z, 330.0F); // exactly at key 33
 }
@@ -325,7 +325,7 @@ TEST_F(SceneOneTest, With34KeysItLoopsForEver) {
     for (int f = 0; f < 200; ++f) {
         PlayScene(kScenes[0]);
     }
-    EXPECT_EQ(frame.sceneIndex, 0);
+    EXPECT_EQ(driver.sceneIndex, 0);
 }
 
 TEST_F(SceneOneTest, DisplayThatDidNotOpenIsHarmless) {

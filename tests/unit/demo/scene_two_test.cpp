@@ -43,7 +43,7 @@ protected:
     static void Frame() {
         PlayScene(kScenes[1]);
         UnlockFrame();
-        ++frame.frameCounter;
+        ++driver.frameCounter;
     }
     static Pixel16 At(std::int32_t x, std::int32_t y) {
         LockFrame();
@@ -65,7 +65,7 @@ protected:
 
 TEST_F(SceneTwoTest, FirstCallSetsUp) {
     StartUp();
-    frame.frameCounter = 1234;
+    driver.frameCounter = 1234;
     switches.lightCount = 2;
     Frame();
     EXPECT_EQ(switches.blur, 1);
@@ -267,9 +267,9 @@ TEST_F(SceneTwoTest, ColumnGoesOffBehindItsLastHandle) {
 TEST_F(SceneTwoTest, DotViewReplacesTheFilledViewBehindFrame1800) {
     RemoveObjects();
     StartUp();
-    frame.frameCounter = 500;
+    driver.frameCounter = 500;
     Frame();
-    frame.frameCounter = 500 + 1800;
+    driver.frameCounter = 500 + 1800;
     world.depth[0] = 7;
     Frame();
     EXPECT_EQ(switches.renderMode1, 1);

@@ -94,7 +94,7 @@ void LookInside(const char* text, MessageKind kind, void* user) {
     seen->fonts = fonts.big.glyphs[255] != nullptr && fonts.small.glyphs[255] != nullptr;
     seen->depth = world.depth != nullptr;
     seen->chop = CurrentFloatMode() == FloatMode::Chop;
-    seen->startTick = frame.demoStartTick;
+    seen->startTick = driver.demoStartTick;
     offscreen.tick += 7000; // a box takes its time
 }
 
@@ -103,7 +103,7 @@ TEST_F(StartUpTest, SoundComesLastAndTheStartTickBehindIt) {
     script.soundVersion = 0x02040000;
     script.onMessage = LookInside;
     script.user = &seen;
-    frame.sceneIndex = 5;
+    driver.sceneIndex = 5;
     switches.cameraRunning = 1;
     const std::uint32_t before = offscreen.tick;
     StartUp();
@@ -114,8 +114,8 @@ TEST_F(StartUpTest, SoundComesLastAndTheStartTickBehindIt) {
     EXPECT_TRUE(seen.depth);
     EXPECT_TRUE(seen.chop);
     EXPECT_EQ(seen.startTick, 0U);
-    EXPECT_EQ(frame.demoStartTick, before + 7000);
-    EXPECT_EQ(frame.sceneIndex, 0);
+    EXPECT_EQ(driver.demoStartTick, before + 7000);
+    EXPECT_EQ(driver.sceneIndex, 0);
     EXPECT_EQ(switches.cameraRunning, 0);
 }
 

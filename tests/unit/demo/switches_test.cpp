@@ -57,8 +57,8 @@ TEST(Switches, SetReachesTheVariable) {
     EXPECT_TRUE(SetSwitch("crosshair", 1));
     EXPECT_TRUE(SetSwitch("sceneIndex", 1));
     EXPECT_EQ(switches.renderMode1, 0);
-    EXPECT_EQ(frame.crosshairSwitch, 1);
-    EXPECT_EQ(frame.sceneIndex, 1);
+    EXPECT_EQ(driver.crosshairSwitch, 1);
+    EXPECT_EQ(driver.sceneIndex, 1);
     ResetWorld();
     EXPECT_EQ(switches.renderMode1, 1);
 }
