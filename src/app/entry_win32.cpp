@@ -16,7 +16,7 @@ void EnterProgramFolder() {
     while (end > 0 && path[end] != L'\\') {
         --end;
     }
-    path[end > 0 ? end + 1 : 0] = L'\0'; // the slash stays: it is the root of a drive, maybe
+    path[end > 0 ? end + 1 : 0] = L'\0'; // the backslash stays: it may be the root of a drive
     SetCurrentDirectoryW(path);
 }
 

@@ -1,4 +1,4 @@
-// The road of a whole run. Everything the system does for it is behind platform/system.h.
+// A whole run, step by step. Whatever it needs of the system is in platform/system.h.
 #include "app/shell.h"
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Asks the environment and the processor, and sets what has twins.
+// Asks the environment and the processor, and sets the functions of the path.
 #include "app/vector_choice.h"
 
 #include <cstdlib>

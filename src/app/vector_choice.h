@@ -8,8 +8,8 @@ namespace ombrel {
 // The environment variable that names a path: scalar, sse, avx2, avx512.
 inline constexpr char kPathVariable[] = "RASTER_USE";
 
-// Puts the fastest functions in their places: those of the path that the variable names, or of the
-// next one down that the processor runs. Returns it. understood, unless null: see PathFor.
+// Puts the functions of a path in their places: the one that the variable names, or the next one
+// below it that the processor runs. Returns it. understood, unless null: see PathFor.
 VectorPath ChooseVectorPath(bool* understood);
 
 } // namespace ombrel

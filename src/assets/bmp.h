@@ -63,7 +63,7 @@ void releaseTexture(Texture* texture); // frees the pixels with their guard, cle
 // Copies a rectangle of the texture's size out of the image and sets TEX_FILLED.
 // direct != 0: from pixel (x, y); 0: from cell (x, y) of a sheet with one-pixel lines.
 // Rows that leave the image on a side run on in the row next to it; what lies before its first or
-// behind its last pixel is not copied. 0 for a null texture, an image without pixels, or a texture
+// after its last pixel is not copied. 0 for a null texture, an image without pixels, or a texture
 // too small for pixels of that size.
 int copyPixels8(Texture* texture, const BmpImage* image, std::int32_t x, std::int32_t y,
                 std::int32_t direct);

@@ -51,7 +51,7 @@ struct Pattern {
     std::int32_t count;
 };
 
-// Reads the token behind a '['. Returns the place behind its ']', or null when it is malformed.
+// Reads the token after a '['. Returns the place after its ']', or null when it is malformed.
 const char* CompileToken(const char* p, Token* token) {
     token->kind = *p;
     switch (*p++) {
@@ -133,7 +133,7 @@ struct Words {
     Word words[kMaxLine / 2];
 };
 
-// Word number index of the line, which is one of those found or the next; null behind the last.
+// Word number index of the line, which is one of those found or the next; null after the last.
 Word* FindWord(Words* words, std::int32_t index) {
     if (index < words->count) {
         return &words->words[index];
@@ -307,7 +307,7 @@ int match(LineReader* reader, const char* line, const char* pattern) {
         if (word == nullptr) {
             return 0;
         }
-        // Go on with the next token, or try again one word further; not behind the end of the line.
+        // Go on with the next token, or try again one word further; not past the end of the line.
         const bool last = first + token == words.count - 1 && words.end >= words.length;
         if (TestWord(reader, compiled.tokens[token], words, word)) {
             ++token;

@@ -66,7 +66,7 @@ inline constexpr float kMipBrightness = 1.01F;
 inline constexpr float kFilterScale = 0.02745098F; // 7 / 255
 inline constexpr long kShortestVertexLine = 6;     // "0 0 0" and a line end
 
-// What stands behind the last slash, backslash or character beyond ASCII of a texture's name.
+// What follows the last slash, backslash or character beyond ASCII of a texture's name.
 const char* BaseName(const char* name);
 
 } // namespace ombrel::cob

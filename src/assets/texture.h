@@ -10,7 +10,7 @@ namespace ombrel {
 inline constexpr std::uint32_t TEX_FILLED = 0x80;
 
 // Rows of width pixels, top row first, no padding; 16-bit pixels are Pixel16.
-// The memory goes on for TextureGuardBytes() before the first and behind the last row, so that a
+// There are TextureGuardBytes() more before the first and after the last row, so that a
 // filler that reads a little past an edge reads memory of this texture.
 struct Texture {
     std::uint32_t valid;    // 1 once the pixels are allocated

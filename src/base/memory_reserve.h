@@ -13,7 +13,7 @@ namespace ombrel {
 inline constexpr std::int32_t kReservePieces = 256;
 inline constexpr std::size_t kReservePieceSize = 4096; // bytes
 
-// Fills the reserve up as far as there is memory, and puts it behind operator new.
+// Fills the reserve up as far as there is memory, and lets operator new draw on it.
 void KeepMemoryReserve();
 void ResetMemoryReserve(); // gives it back; operator new fails as it would without it
 std::int32_t ReservePieces();

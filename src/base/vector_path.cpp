@@ -41,13 +41,13 @@ bool ProcessorRuns(VectorPath path) {
 #endif
 }
 
-VectorPath PathFor(const char* wish, bool* understood) {
-    // Find the wish in the list; without one, start from the best that is taken unasked.
-    const bool wished = wish != nullptr && wish[0] != '\0';
+VectorPath PathFor(const char* request, bool* understood) {
+    // Find the request in the list; without one, start from the best that is taken by default.
+    const bool requested = request != nullptr && request[0] != '\0';
     int number = static_cast<int>(VectorPath::Avx2);
-    bool known = !wished;
-    for (int i = 0; wished && i < kVectorPathCount; ++i) {
-        if (std::strcmp(wish, kNames[i]) == 0) {
+    bool known = !requested;
+    for (int i = 0; requested && i < kVectorPathCount; ++i) {
+        if (std::strcmp(request, kNames[i]) == 0) {
             number = i;
             known = true;
         }
@@ -56,7 +56,7 @@ VectorPath PathFor(const char* wish, bool* understood) {
     bool met = known;
     while (!ProcessorRuns(static_cast<VectorPath>(number))) {
         --number;
-        met = met && !wished;
+        met = met && !requested;
     }
     if (understood != nullptr) {
         *understood = met;

@@ -1,5 +1,5 @@
-// Which of the family of code paths the processor can run: plain code, or twins of it in vector
-// instructions. Chosen once at start-up; every path gives the same bits.
+// Which code paths the processor can run: plain code, or the same code on vectors. Chosen once at
+// start-up; every path gives the same bits.
 #pragma once
 
 #include <cstdint>
@@ -17,9 +17,9 @@ const char* NameOf(VectorPath path);
 // operating system saves the registers that they need.
 bool ProcessorRuns(VectorPath path);
 
-// The path for a wish: the named one, or the nearest one below it that the processor runs. Null, an
-// empty or an unknown word wish for nothing: then the best one up to AVX2, since AVX-512 is taken
-// only when asked for. understood, unless null: whether the wish could be met as it stands.
-VectorPath PathFor(const char* wish, bool* understood);
+// The requested path, or the next one below it that the processor runs. For null, an empty or an
+// unknown name it is the best one up to AVX2; AVX-512 is taken only on request. understood, unless
+// null, becomes whether the request was met exactly; no request always is.
+VectorPath PathFor(const char* request, bool* understood);
 
 } // namespace ombrel

@@ -30,7 +30,7 @@ inline constexpr FixedObject kFixedObjects[] = {
 };
 // clang-format on
 
-// Loaded last, behind the scene list, with the same options; stands at the origin.
+// Loaded last, after the scene list, with the same options; stands at the origin.
 inline constexpr char kLightMarkerPath[] = "./data/3d/light_debug.cob";
 inline constexpr float kLightMarkerScale[3] = {100.0F, 100.0F, 100.0F};
 

@@ -1,4 +1,4 @@
-// The road of one frame, from objects to pixels.
+// One frame, from objects to pixels.
 #include "demo/scene_frame.h"
 
 #include <algorithm>

@@ -38,7 +38,7 @@ struct SceneListText {
 // Returns how many of the ten values were read (at least 1), or -1 at the end of the text.
 std::int32_t ReadSceneLine(SceneListText* text, SceneLine* line);
 
-// Loads every object of the list that exists into the entries behind world->objectCounter, which
+// Loads every object of the list that exists into the entries after world->objectCounter, which
 // then holds the index of the last; ends at the end of the table. The faces of the entry at the
 // counter become two-sided. A missing list loads nothing.
 void LoadSceneList(World* destination, const char* path, const DisplayFormat& format);

@@ -56,7 +56,7 @@ constexpr std::int32_t kScrollerStart = 1000; // frames
 constexpr float kScrollerStep = 0.03446879F;
 constexpr float kScrollerOutStep = 0.04684217F;
 constexpr std::int32_t kLastLine = kPageLines - 1;
-constexpr std::int32_t kPagesEnd = 48; // first slot behind the last page
+constexpr std::int32_t kPagesEnd = 48; // first slot after the last page
 
 constexpr std::int32_t kBorder = 8; // pixels
 

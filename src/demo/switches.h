@@ -14,7 +14,7 @@ namespace ombrel {
 bool SetSwitch(const char* name, std::int32_t value);
 // The current value; false for an unknown name.
 bool GetSwitch(const char* name, std::int32_t* value);
-// Name number i, from 0, or null behind the last; and what it means, for a help text.
+// Name number i, from 0, or null after the last; and what it means, for a help text.
 const char* SwitchName(std::int32_t i);
 const char* SwitchMeaning(std::int32_t i);
 

@@ -43,10 +43,10 @@ testing::AssertionResult SameAsGoldenIn(const GoldenPlace& place, const std::str
 }
 
 testing::AssertionResult SameAsGolden(const std::string& name, const PngPicture& actual) {
-    const char* wish = std::getenv("OMBREL_UPDATE_GOLDEN");
+    const char* request = std::getenv("OMBREL_UPDATE_GOLDEN");
     const GoldenPlace place = {OMBREL_SOURCE_DIR "/tests/golden/pictures",
                                OMBREL_BINARY_DIR "/golden-failures",
-                               wish != nullptr && std::string(wish) == "1"};
+                               request != nullptr && std::string(request) == "1"};
     return SameAsGoldenIn(place, name, actual);
 }
 

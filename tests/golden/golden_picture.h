@@ -17,7 +17,7 @@ namespace ombrel {
 // EXPECT_TRUE(SameAsGolden("name", picture)).
 testing::AssertionResult SameAsGolden(const std::string& name, const PngPicture& actual);
 
-// The same with the folders and the wish to update given; SameAsGolden takes them from the build
+// The same with the folders and the request to update given; SameAsGolden takes them from the build
 // and the environment.
 struct GoldenPlace {
     std::string pictures;

@@ -92,8 +92,8 @@ std::vector<DrawnFrame> FlyThrough(VectorPath path) {
 
 TEST(FrontEndFrames, ShippedWorldHasTheBitsOfThePlainCodeOnEveryPath) {
     const std::string dataBefore = DataFolder();
-    const char* const wish = std::getenv(kPathVariable);
-    const std::string wishBefore = wish != nullptr ? wish : "";
+    const char* const request = std::getenv(kPathVariable);
+    const std::string requestBefore = request != nullptr ? request : "";
     SetDataFolder(OMBREL_SOURCE_DIR "/data");
 
     const std::vector<DrawnFrame> plain = FlyThrough(VectorPath::Scalar);
@@ -116,7 +116,7 @@ TEST(FrontEndFrames, ShippedWorldHasTheBitsOfThePlainCodeOnEveryPath) {
         }
     }
 
-    setenv(kPathVariable, wishBefore.c_str(), 1);
+    setenv(kPathVariable, requestBefore.c_str(), 1);
     SetDataFolder(dataBefore);
 }
 

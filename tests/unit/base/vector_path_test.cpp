@@ -1,4 +1,4 @@
-// Which path a wish leads to, on whatever processor this is.
+// Which path a request leads to, on whatever processor this is.
 #include <string>
 
 #include <gtest/gtest.h>
@@ -11,8 +11,8 @@ namespace {
 constexpr VectorPath kPaths[] = {VectorPath::Scalar, VectorPath::Sse, VectorPath::Avx2,
                                  VectorPath::Avx512};
 
-// The best that is taken unasked.
-VectorPath BestUnasked() {
+// The best that is taken by default.
+VectorPath BestByDefault() {
     return ProcessorRuns(VectorPath::Avx2)  ? VectorPath::Avx2
            : ProcessorRuns(VectorPath::Sse) ? VectorPath::Sse
                                             : VectorPath::Scalar;
@@ -25,7 +25,7 @@ TEST(VectorPaths, EveryProcessorRunsTheScalarOneAndThoseBelowItsBest) {
     }
 }
 
-TEST(VectorPaths, AWishIsMetOrTheNextOneDownIsTaken) {
+TEST(VectorPaths, ARequestIsMetOrTheNextOneDownIsTaken) {
     for (const VectorPath path : kPaths) {
         bool understood = false;
         const VectorPath taken = PathFor(NameOf(path), &understood);
@@ -37,19 +37,19 @@ TEST(VectorPaths, AWishIsMetOrTheNextOneDownIsTaken) {
     }
 }
 
-TEST(VectorPaths, NoWishNeverMeansTheWidest) {
+TEST(VectorPaths, NoRequestNeverMeansTheWidest) {
     for (const char* nothing : {static_cast<const char*>(nullptr), ""}) {
         bool understood = false;
-        EXPECT_EQ(PathFor(nothing, &understood), BestUnasked());
+        EXPECT_EQ(PathFor(nothing, &understood), BestByDefault());
         EXPECT_TRUE(understood);
-        EXPECT_EQ(PathFor(nothing, nullptr), BestUnasked());
+        EXPECT_EQ(PathFor(nothing, nullptr), BestByDefault());
     }
 }
 
-TEST(VectorPaths, AnUnknownWordIsToldFromAWish) {
+TEST(VectorPaths, AnUnknownWordIsNoRequest) {
     for (const char* word : {"AVX2", "avx", "avx2 ", " sse", "scalarr", "0", "mmx"}) {
         bool understood = true;
-        EXPECT_EQ(PathFor(word, &understood), BestUnasked()) << word;
+        EXPECT_EQ(PathFor(word, &understood), BestByDefault()) << word;
         EXPECT_FALSE(understood) << word;
     }
 }
