@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -19,12 +20,15 @@
 #include "base/float_mode.h"
 #include "base/hash.h"
 #include "base/shell_state.h"
+#include "base/version.h"
 #include "demo/scene_one.h"
 #include "demo/switches.h"
 #include "demo/world.h"
 #include "larkfen-capture/options.h"
 #include "larkfen-capture/picture.h"
+#include "larkfen-capture/processor.h"
 #include "larkfen-capture/progress.h"
+#include "larkfen-capture/published.h"
 #include "larkfen-capture/video.h"
 #include "platform/offscreen/offscreen.h"
 
@@ -42,6 +46,7 @@ struct Recorder {
     Video video;
     std::FILE* hashes = nullptr;
     std::string hashPart; // name of the hash file while it grows; empty: written in place
+    Verification verification;
     std::vector<std::uint8_t> rgb;
     std::int64_t played = 0;
     std::int64_t recorded = 0;
@@ -85,13 +90,14 @@ std::string ChooseDataFolder(const Options& options) {
         return name + " is no folder" + (told ? "" : "; --data names the one to play");
     }
     ombrel::SetDataFolder(folder);
-    for (const char* const file :
-         {"./data/scene1.po", "./data/cam/scene1.trk", "./data/2d/font-48.bmp"}) {
-        if (!ombrel::FindDataFile(file).empty()) {
-            return "";
-        }
+    // The production plays without any of them; nobody wants that without knowing.
+    constexpr const char* kSome[] = {"./data/scene1.po", "./data/cam/scene1.trk",
+                                     "./data/2d/font-48.bmp"};
+    if (std::all_of(std::begin(kSome), std::end(kSome),
+                    [](const char* file) { return ombrel::FindDataFile(file).empty(); })) {
+        std::fprintf(stderr, "%s: no data of the production is in it\n", folder.c_str());
     }
-    return name + " holds no data of the production";
+    return "";
 }
 
 // The first problem counts; the run ends with the frame.
@@ -137,9 +143,7 @@ std::int32_t DrawnFaces() {
     return count;
 }
 
-void WriteHashLine(Recorder* recorder, const ombrel::PresentedFrame& shown) {
-    const std::uint64_t hash =
-        ombrel::HashPicture(shown.pixels, shown.pitch, shown.width, shown.height);
+void WriteHashLine(Recorder* recorder, const ombrel::PresentedFrame& shown, std::uint64_t hash) {
     if (std::fprintf(recorder->hashes, "frame %" PRId64 " scene %d faces %d hash %016" PRIx64 "\n",
                      shown.number, recorder->scene, DrawnFaces(), hash) < 0) {
         Note(recorder, recorder->options.hashFile + ": " + std::strerror(errno));
@@ -158,8 +162,15 @@ void WritePicture(Recorder* recorder, const ombrel::PresentedFrame& shown) {
 void RecordFrame(Recorder* recorder, const ombrel::PresentedFrame& shown) {
     const Options& options = recorder->options;
     const bool picked = (shown.number - options.first) % options.every == 0;
-    if (!options.hashFile.empty() && picked) {
-        WriteHashLine(recorder, shown);
+    if (options.verify || (!options.hashFile.empty() && picked)) {
+        const std::uint64_t hash =
+            ombrel::HashPicture(shown.pixels, shown.pitch, shown.width, shown.height);
+        if (options.verify) {
+            CompareFrame(&recorder->verification, shown.number, hash);
+        }
+        if (!options.hashFile.empty() && picked) {
+            WriteHashLine(recorder, shown, hash);
+        }
     }
     const bool wantsPicture = !options.pngFolder.empty() && picked;
     if (wantsPicture || recorder->video.pipe != nullptr) {
@@ -206,10 +217,6 @@ void OnMessage(const char* text, ombrel::MessageKind kind, void*) {
     if (kind != ombrel::MessageKind::YesNo) {
         std::printf("%s\n", text);
     }
-}
-
-bool Records(const Options& options) {
-    return !options.pngFolder.empty() || !options.videoFile.empty() || !options.hashFile.empty();
 }
 
 std::string OpenOutputs(Recorder* recorder) {
@@ -276,14 +283,107 @@ void CloseOutputs(Recorder* recorder) {
     if (recorder->hashes != nullptr) {
         CloseHashes(recorder);
     }
-    if (recorder->video.pipe == nullptr) {
-        return;
-    }
     if (!recorder->problem.empty()) {
         DropVideo(&recorder->video);
-        return;
+    } else if (recorder->video.pipe != nullptr) {
+        Note(recorder, CloseVideo(&recorder->video));
     }
-    Note(recorder, CloseVideo(&recorder->video));
+}
+
+constexpr int kDone = 0, kFailed = 1, kUsage = 2;
+
+int Refuse(const std::string& why) {
+    std::fprintf(stderr, "larkfen-capture: %s\n", why.c_str());
+    return kUsage;
+}
+
+// The production chooses again, and says nothing.
+ombrel::VectorPath ChoosePath() {
+    bool understood = true;
+    const ombrel::VectorPath path = ombrel::ChooseVectorPath(&understood);
+    if (!understood) {
+        std::fprintf(stderr, "larkfen-capture: %s=%s cannot be had here; taking %s\n",
+                     ombrel::kPathVariable, std::getenv(ombrel::kPathVariable),
+                     ombrel::NameOf(path));
+    }
+    return path;
+}
+
+// Reads the list to compare with, and ends the run behind its last frame. Empty, or what is wrong.
+std::string PrepareVerification(Recorder* recorder, std::int64_t whole) {
+    Options& options = recorder->options;
+    const std::string file = !options.publishedFile.empty()
+                                 ? options.publishedFile
+                                 : FindPublished(ombrel::DataFolder(), ombrel::ProgramFolder());
+    const bool all = options.first == 0 && options.end == INT64_MAX;
+    const std::string problem =
+        ReadPublished(file, options.first, options.end, &recorder->verification);
+    if (!problem.empty()) {
+        return problem +
+               (options.publishedFile.empty() ? "; --hashes-file names another list" : "");
+    }
+    options.end = recorder->verification.frames.back().number + 1;
+    if (all && whole > options.end) {
+        return file + ": ends with frame " + std::to_string(options.end - 1) +
+               ", the production has " + std::to_string(whole);
+    }
+    return "";
+}
+
+// Empty when the run may begin, else why not.
+std::string Prepare(Recorder* recorder, std::int64_t whole) {
+    const Options& options = recorder->options;
+    if (options.verify) {
+        const std::string problem = PrepareVerification(recorder, whole);
+        if (!problem.empty()) {
+            return problem;
+        }
+    }
+    // Without a whole first track nobody would end the run.
+    if (whole == 0 && options.end == INT64_MAX && options.settings.empty() && Records(options)) {
+        return "data/cam/scene1.trk has fewer than 35 keys, so the production never ends; give "
+               "--frames A:B";
+    }
+    return "";
+}
+
+// As fast as it goes; the clock moves by exactly one frame a frame.
+int Play(Recorder* recorder, std::int64_t whole) {
+    const Options& options = recorder->options;
+    const bool bounded = whole == 0 || options.end < whole;
+    recorder->progress = StartProgress(bounded && options.end != INT64_MAX ? options.end : whole);
+    HoldSwitches(*recorder);
+    ombrel::script.msPerRead = 0;
+    ombrel::script.msPerPresent = kMsPerFrame;
+    ombrel::script.onFrame = OnFrame;
+    ombrel::script.onTurn = OnTurn;
+    ombrel::script.onMessage = OnMessage;
+    ombrel::script.user = recorder;
+    return ombrel::RunProduction(options.production.c_str());
+}
+
+// Says how the frames compare; the exit code.
+int TellVerdict(const Recorder& recorder, ombrel::VectorPath path) {
+    bool same = false;
+    const std::string verdict = Verdict(recorder.verification, &same);
+    std::printf("%s (%s, path %s)\n", verdict.c_str(), ProcessorName().c_str(),
+                ombrel::NameOf(path));
+    return same ? kDone : kFailed;
+}
+
+// Puts the files in their places and says how it went; the exit code.
+int Finish(Recorder* recorder, ombrel::VectorPath path) {
+    CloseOutputs(recorder);
+    if (!recorder->problem.empty()) {
+        std::fprintf(stderr, "%slarkfen-capture: %s\n", recorder->progress.terminal ? "\n" : "",
+                     recorder->problem.c_str());
+        return kFailed;
+    }
+    if (recorder->played == 0) { // its help
+        return kDone;
+    }
+    EndProgress(recorder->progress, recorder->played, recorder->recorded);
+    return recorder->options.verify ? TellVerdict(*recorder, path) : kDone;
 }
 
 } // namespace
@@ -292,69 +392,37 @@ int main(int argc, char** argv) {
     Recorder recorder;
     const std::string wrong = ReadOptions(argc, argv, &recorder.options);
     if (!wrong.empty()) {
-        std::fprintf(stderr, "larkfen-capture: %s\n", wrong.c_str());
-        return 2;
+        return Refuse(wrong);
     }
     if (recorder.options.help) {
         std::fputs(HelpText().c_str(), stdout);
-        return 0;
+        return kDone;
+    }
+    if (recorder.options.version) {
+        std::printf("larkfen-capture %s\n", ombrel::kVersion);
+        return kDone;
     }
     TakeSignals();
     const std::string noData = ChooseDataFolder(recorder.options);
     if (!noData.empty()) {
-        std::fprintf(stderr, "larkfen-capture: %s\n", noData.c_str());
-        return 2;
+        return Refuse(noData);
     }
-    // The production chooses again, and says nothing.
-    bool understood = true;
-    const ombrel::VectorPath path = ombrel::ChooseVectorPath(&understood);
-    if (!understood) {
-        std::fprintf(stderr, "larkfen-capture: %s=%s cannot be had here; taking %s\n",
-                     ombrel::kPathVariable, std::getenv(ombrel::kPathVariable),
-                     ombrel::NameOf(path));
-    }
-    // Without a whole first track nobody would end the run.
+    const ombrel::VectorPath path = ChoosePath();
     const std::int64_t whole = FramesOfProduction();
-    const Options& options = recorder.options;
-    if (whole == 0 && options.end == INT64_MAX && options.settings.empty() && Records(options)) {
-        std::fprintf(stderr, "larkfen-capture: data/cam/scene1.trk has fewer than 35 keys, so the "
-                             "production never ends; give --frames A:B\n");
-        return 2;
+    const std::string unready = Prepare(&recorder, whole);
+    if (!unready.empty()) {
+        return Refuse(unready);
     }
     const std::string unopened = OpenOutputs(&recorder);
     if (!unopened.empty()) {
-        DropVideo(&recorder.video);
-        if (!recorder.hashPart.empty()) {
-            std::remove(recorder.hashPart.c_str());
-        }
-        std::fprintf(stderr, "larkfen-capture: %s\n", unopened.c_str());
-        return 1;
+        Note(&recorder, unopened);
+        return Finish(&recorder, path);
     }
-
-    // Play as fast as it goes; the clock moves by exactly one frame a frame.
-    const bool bounded = whole == 0 || options.end < whole;
-    recorder.progress = StartProgress(bounded && options.end != INT64_MAX ? options.end : whole);
-    HoldSwitches(recorder);
-    ombrel::script.msPerRead = 0;
-    ombrel::script.msPerPresent = kMsPerFrame;
-    ombrel::script.onFrame = OnFrame;
-    ombrel::script.onTurn = OnTurn;
-    ombrel::script.onMessage = OnMessage;
-    ombrel::script.user = &recorder;
-    const int result = ombrel::RunProduction(recorder.options.production.c_str());
+    const int result = Play(&recorder, whole);
     const bool helped = recorder.played == 0 && result == 0;
-
     if (!helped && recorder.recorded == 0) {
-        Note(&recorder, "the production ended before frame " + std::to_string(options.first));
+        Note(&recorder,
+             "the production ended before frame " + std::to_string(recorder.options.first));
     }
-    CloseOutputs(&recorder);
-    if (!recorder.problem.empty()) {
-        std::fprintf(stderr, "%slarkfen-capture: %s\n", recorder.progress.terminal ? "\n" : "",
-                     recorder.problem.c_str());
-        return 1;
-    }
-    if (!helped) {
-        EndProgress(recorder.progress, recorder.played, recorder.recorded);
-    }
-    return 0;
+    return Finish(&recorder, path);
 }

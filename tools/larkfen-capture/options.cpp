@@ -102,11 +102,15 @@ std::string ReadOption(const std::string& name, const std::string& value, Option
     if (name == "--hashes") {
         return ReadPath("--hashes", value, &options->hashFile);
     }
+    if (name == "--hashes-file") {
+        return ReadPath("--hashes-file", value, &options->publishedFile);
+    }
     return ReadSwitch(value, options);
 }
 
-constexpr const char* kOptionNames[] = {"--data",  "--frames", "--every",  "--png",
-                                        "--video", "--scale",  "--hashes", "--switch"};
+constexpr const char* kOptionNames[] = {"--data",   "--frames",      "--every",
+                                        "--png",    "--video",       "--scale",
+                                        "--hashes", "--hashes-file", "--switch"};
 
 bool IsOption(const std::string& name) {
     for (const char* known : kOptionNames) {
@@ -129,6 +133,23 @@ bool IsProductionSwitch(const std::string& text) {
     return false;
 }
 
+// Empty, or why these frames cannot be those of the list.
+std::string CheckVerify(const Options& options) {
+    if (!options.verify) {
+        return options.publishedFile.empty() ? "" : "--hashes-file: give --verify with it";
+    }
+    if (!options.settings.empty()) {
+        return "--verify: the frames were published without --switch";
+    }
+    const ombrel::CommandLine line = ombrel::ParseCommandLine(options.production.c_str());
+    const ombrel::CommandLine usual = ombrel::ParseCommandLine("");
+    const bool published = line.width == usual.width && line.height == usual.height;
+    if (!published && options.publishedFile.empty()) {
+        return "--verify: the frames were published in 640x480; --hashes-file names another list";
+    }
+    return "";
+}
+
 } // namespace
 
 std::string ReadOptions(int argc, char** argv, Options* options) {
@@ -138,6 +159,14 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
         if (argument == "--help" || argument == "-h") {
             options->help = true;
             return "";
+        }
+        if (argument == "--version") {
+            options->version = true;
+            return "";
+        }
+        if (argument == "--verify") {
+            options->verify = true;
+            continue;
         }
         if (IsProductionSwitch(argument)) {
             options->production += options->production.empty() ? argument : " " + argument;
@@ -166,11 +195,15 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
         }
     }
     const bool asksHelp = options->production.find("-?") != std::string::npos;
-    if (options->pngFolder.empty() && options->videoFile.empty() && options->hashFile.empty() &&
-        !asksHelp) {
-        return "nothing to record: give --png, --video or --hashes; --help tells more";
+    if (!Records(*options) && !asksHelp) {
+        return "nothing to record: give --png, --video, --hashes or --verify; --help tells more";
     }
-    return "";
+    return CheckVerify(*options);
+}
+
+bool Records(const Options& options) {
+    return !options.pngFolder.empty() || !options.videoFile.empty() || !options.hashFile.empty() ||
+           options.verify;
 }
 
 std::string HelpText() {
@@ -189,6 +222,12 @@ std::string HelpText() {
         "  --hashes FILE      writes a line a frame: frame 123 scene 0 faces 4567 hash 0123...\n"
         "                     (scene that drew it, faces drawn, hash of its pixels); - is\n"
         "                     standard output\n"
+        "  --verify           compares every frame with the list of the published ones and says "
+        "how\n"
+        "                     many are the same, or names the first that differs, the processor\n"
+        "                     and its path of code\n"
+        "  --hashes-file FILE the list to compare with, as --hashes writes it; without it\n"
+        "                     frame-hashes.txt beside the data folder or beside the program\n"
         "  --every N          only every Nth frame as picture and hash line; a video is whole\n"
         "  --scale N          pictures and video N times as large, 1 to 16\n"
         "  --data DIR         takes the data files from DIR\n"
@@ -200,9 +239,12 @@ std::string HelpText() {
         line.append(39 > line.size() ? 39 - line.size() : 1, ' ');
         text += line + ombrel::SwitchMeaning(i) + "\n";
     }
-    text += "  --help             this text\n"
-            "\n"
-            "Exit code: 0 done, 1 something could not be written, 2 an argument is wrong.\n";
+    text +=
+        "  --help             this text\n"
+        "  --version          the version\n"
+        "\n"
+        "Exit code: 0 done, 1 something could not be written or a frame differs, 2 an argument is\n"
+        "wrong or the data is not there.\n";
     return text;
 }
 

@@ -15,14 +15,17 @@ struct SwitchSetting {
 
 struct Options {
     bool help = false;
+    bool version = false;
+    bool verify = false;
     std::string production; // "-w -ns ..."
     std::string dataFolder; // empty: found by the program
     std::int64_t first = 0; // frames first..end - 1
     std::int64_t end = INT64_MAX;
-    std::int64_t every = 1; // of pictures and hash lines
-    std::string pngFolder;  // empty: no pictures
-    std::string videoFile;  // empty: no video
-    std::string hashFile;   // empty: no hashes; "-": standard output
+    std::int64_t every = 1;    // of pictures and hash lines
+    std::string pngFolder;     // empty: no pictures
+    std::string videoFile;     // empty: no video
+    std::string hashFile;      // empty: no hashes; "-": standard output
+    std::string publishedFile; // list of frame hashes; empty: found by the program
     std::int32_t scale = 1;
     std::vector<SwitchSetting> settings;
 };
@@ -31,5 +34,8 @@ struct Options {
 std::string ReadOptions(int argc, char** argv, Options* options);
 
 std::string HelpText();
+
+// Whether there is anything to do with the frames.
+bool Records(const Options& options);
 
 } // namespace capture
