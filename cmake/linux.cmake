@@ -45,16 +45,7 @@ if(OMBREL_BENCH)
   endif()
 endif()
 
-# The list of frame hashes that larkfen-capture --verify compares with, beside the programs.
-find_package(Python3 COMPONENTS Interpreter)
-if(Python3_FOUND)
-  set(stored_frames ${CMAKE_SOURCE_DIR}/tests/scenario/frames.txt.gz)
-  add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/frame-hashes.txt
-                     COMMAND Python3::Interpreter ${CMAKE_SOURCE_DIR}/tools/frame_hashes.py
-                             ${stored_frames} ${PROJECT_VERSION} ${CMAKE_BINARY_DIR}/frame-hashes.txt
-                     DEPENDS ${stored_frames} ${CMAKE_SOURCE_DIR}/tools/frame_hashes.py VERBATIM)
-  add_custom_target(frame_hashes ALL DEPENDS ${CMAKE_BINARY_DIR}/frame-hashes.txt)
-endif()
+include(cmake/install.cmake)
 
 # --- the release: cmake --build --preset package makes the three archives in build/package/ ---------
 add_custom_target(packages COMMAND ${CMAKE_SOURCE_DIR}/tools/package.py DEPENDS larkfen USES_TERMINAL

@@ -11,7 +11,17 @@ if(NOT EXISTS ${CMAKE_BINARY_DIR}/data)
   file(CREATE_LINK ${CMAKE_SOURCE_DIR}/data ${CMAKE_BINARY_DIR}/data SYMBOLIC)
 endif()
 
-add_executable(larkfen WIN32 src/app/entry_win32.cpp src/platform/win32/larkfen.rc)
+# Its resources state the version in their own way.
+string(REPLACE "." ", " windows_version "${PROJECT_VERSION}.0")
+set(resources ${CMAKE_BINARY_DIR}/resources)
+foreach(file larkfen.rc larkfen.manifest)
+  configure_file(${CMAKE_SOURCE_DIR}/src/platform/win32/${file}.in ${resources}/${file} @ONLY)
+endforeach()
+set_property(SOURCE ${resources}/larkfen.rc PROPERTY OBJECT_DEPENDS
+             "${resources}/larkfen.manifest;${CMAKE_SOURCE_DIR}/src/platform/win32/larkfen.ico")
+
+add_executable(larkfen WIN32 src/app/entry_win32.cpp ${resources}/larkfen.rc)
+target_include_directories(larkfen PRIVATE ${resources}) # of the manifest
 target_link_libraries(larkfen PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_win32)
 
 # The recorder without pictures and video: writes the digest lines of the frames on Windows.

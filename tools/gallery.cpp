@@ -9,15 +9,20 @@
 
 #include <png.h>
 
+#include "base/version.h"
 #include "larkfen-gallery/sheet.h"
 
 namespace {
 
 constexpr char kHelp[] =
     "Usage: larkfen-gallery OUT.png\n"
+    "Draws every filler of the production into one picture.\n"
     "\n"
-    "Draws all 45 triangle fillers by name on the same textured, lit, overlapping triangles, and\n"
+    "All 45 triangle fillers stand by name on the same textured, lit, overlapping triangles, and\n"
     "under them the blend levels 0 to 7, a mip chain, the five lights, corner dots and wires.\n"
+    "\n"
+    "  --help     this text\n"
+    "  --version  the version\n"
     "\n"
     "Exit code: 0 done, 1 the picture could not be made or written, 2 an argument is wrong.\n";
 
@@ -53,6 +58,10 @@ bool WriteSheet(const char* path, const gallery::Sheet& sheet) {
 int main(int argc, char** argv) {
     if (argc == 2 && (std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0)) {
         std::fputs(kHelp, stdout);
+        return 0;
+    }
+    if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+        std::printf("larkfen-gallery %s\n", ombrel::kVersion);
         return 0;
     }
     if (argc != 2 || argv[1][0] == '-' || argv[1][0] == '\0') {

@@ -12,6 +12,7 @@
 #include "app/shell.h"
 #include "base/data_file.h"
 #include "base/float_mode.h"
+#include "base/version.h"
 #include "larkfen-capture/picture.h"
 #include "larkfen-inspect/draw.h"
 #include "larkfen-inspect/folder.h"
@@ -29,8 +30,10 @@ constexpr int kClean = 0, kWarnings = 1, kBroken = 2, kUsage = 64;
 
 constexpr char kHelp[] =
     "Usage: larkfen-inspect [--data DIR] [--picture OUT.png] FILE...\n"
-    "Says what data files of the production hold, and of everything that it would refuse, clamp,\n"
-    "cut or draw wrongly what is wrong, what the production does with it and how to mend it:\n"
+    "Says what data files of the production hold and what is wrong with them, line by line.\n"
+    "\n"
+    "Of everything that the production would refuse, clamp, cut or draw wrongly it tells what is\n"
+    "wrong, what the production does with it and how to mend it:\n"
     "    FILE:LINE: WHAT; WHAT HAPPENS; HOW TO MEND IT      (a byte offset in .bmp and .mp3 "
     "files)\n"
     "\n"
@@ -46,6 +49,7 @@ constexpr char kHelp[] =
     "the\n"
     "                     one around FILE, or the one beside the program\n"
     "  --help             this text\n"
+    "  --version          the version\n"
     "\n"
     "Exit code: 0 clean, 1 warnings (or the picture cannot be written), 2 broken: the production\n"
     "refuses a file or it is missing, 64 an argument is wrong.\n";
@@ -54,7 +58,7 @@ struct Options {
     std::vector<std::string> files;
     std::string dataFolder;
     std::string picture;
-    bool help;
+    bool help, version;
 };
 
 // Empty, or what is wrong.
@@ -63,6 +67,10 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
         const std::string argument = argv[i];
         if (argument == "--help" || argument == "-h") {
             options->help = true;
+            return "";
+        }
+        if (argument == "--version") {
+            options->version = true;
             return "";
         }
         const std::size_t sign = argument.find('=');
@@ -196,6 +204,10 @@ int main(int argc, char** argv) {
     }
     if (options.help) {
         std::fputs(kHelp, stdout);
+        return kClean;
+    }
+    if (options.version) {
+        std::printf("larkfen-inspect %s\n", ombrel::kVersion);
         return kClean;
     }
     // As at start-up: tables while rounding to nearest, then cut.

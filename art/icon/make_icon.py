@@ -1,8 +1,10 @@
 #!/usr/bin/python3
-"""Draws the icon of larkfen.exe: a parasol against an evening sky. Writes a Windows icon file with
-uncompressed pictures of 16, 24, 32, 48 and 64 pixels, which every Windows reads.
+"""Draws the icon: a parasol against an evening sky. Writes a Windows icon file with uncompressed
+pictures of 16, 24, 32, 48 and 64 pixels, which every Windows reads, or, for the menus of other
+desktops, a PNG file of each size up to 256 pixels.
 
     art/icon/make_icon.py [src/platform/win32/larkfen.ico] [--preview FILE.png]
+    art/icon/make_icon.py --png art/icon
 """
 import math
 import struct
@@ -11,6 +13,7 @@ import sys
 from PIL import Image, ImageDraw
 
 SIZES = (16, 24, 32, 48, 64)
+PNG_SIZES = (16, 32, 48, 64, 128, 256)
 BIG = 1024  # drawn at this size, then made smaller
 SKY_TOP, SKY_LOW = (28, 24, 66), (226, 112, 74)
 SEGMENTS = ((255, 236, 196), (231, 72, 60), (255, 236, 196), (231, 72, 60), (255, 236, 196))
@@ -65,6 +68,11 @@ def icon_image(picture):
 
 def main():
     arguments = sys.argv[1:]
+    if arguments[:1] == ["--png"]:
+        for size in PNG_SIZES:
+            draw().resize((size, size), Image.LANCZOS).save(f"{arguments[1]}/larkfen-{size}.png",
+                                                            optimize=True)
+        return
     preview = None
     if "--preview" in arguments:
         at = arguments.index("--preview")

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <initializer_list>
 #include <system_error>
 
 #include "app/command_line.h"
@@ -72,12 +73,14 @@ int RunProduction(const char* commandLine) {
 }
 
 std::string DataFolderOf(const std::string& programFolder) {
-    const std::filesystem::path beside = std::filesystem::path(programFolder) / "data";
-    const std::filesystem::path above = std::filesystem::path(programFolder) / ".." / ".." / "data";
-    std::error_code error;
-    const bool useAbove = !std::filesystem::is_directory(beside, error) &&
-                          std::filesystem::is_directory(above, error);
-    return (useAbove ? above : beside).string();
+    const std::filesystem::path folder = programFolder;
+    for (const char* const place : {"data", "../share/ombrel/data", "../../data"}) {
+        std::error_code error;
+        if (std::filesystem::is_directory(folder / place, error)) {
+            return (folder / place).lexically_normal().string();
+        }
+    }
+    return (folder / "data").string();
 }
 
 } // namespace ombrel

@@ -332,6 +332,8 @@ TEST_F(ShellTest, DataFolderIsBesideTheProgramElseTwoFoldersUp) {
     EXPECT_EQ(DataFolderOf(program), program + "/data"); // though it is not there
     fs::create_directories(root / "data");
     EXPECT_TRUE(fs::equivalent(DataFolderOf(program), root / "data"));
+    fs::create_directories(root / "build" / "share" / "ombrel" / "data");
+    EXPECT_EQ(DataFolderOf(program), (root / "build/share/ombrel/data").string());
     fs::create_directories(root / "build" / "release" / "data");
     EXPECT_EQ(DataFolderOf(program), program + "/data");
     fs::remove_all(root);
