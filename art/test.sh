@@ -1,7 +1,7 @@
 #!/bin/sh
-# Checks data/ against the renderer's limits, the checks against data broken on purpose, and data/
-# against what the sources give without Blender and without the soundtrack.
-# Usage: art/test.sh        (needs python3 with numpy and PIL, and the two fonts)
+# Checks data/ against the renderer's limits, the soundtrack against its measures, the checks against
+# data broken on purpose, and data/ against what the sources give without Blender and the soundtrack.
+# Usage: art/test.sh        (needs python3 with numpy and PIL, ffmpeg, and the two fonts)
 here=$(cd "$(dirname "$0")" && pwd)
 PYTHON=${PYTHON:-/usr/bin/python3}
 export PYTHONDONTWRITEBYTECODE=1
@@ -18,6 +18,9 @@ mkdir "$made/data" "$made/cache"
 "$PYTHON" "$here/world/make.py" "$made/data" "$made/cache" --plain || status=1
 "$PYTHON" "$here/compare.py" "$made/data" "$here/../data" --unbaked || status=1
 "$PYTHON" "$here/check_test.py" || status=1
+"$PYTHON" "$here/music/check_music.py" >"$made/music.txt" || status=1
+grep -E "^WRONG|^        |missed" "$made/music.txt"
+"$PYTHON" "$here/music/check_music_test.py" || status=1
 
 # A bake that fails, with or without saying so, stops the build before it makes a file.
 stops=0
