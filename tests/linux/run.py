@@ -11,16 +11,18 @@ import sys
 import tempfile
 import time
 import traceback
-import types
 
 import numpy
 from PIL import Image
 
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "tests/desktop"))
+
+# pylint: disable=wrong-import-position
 import x11
+from x11 import SLOW
 
 TITLE = "Ombrel - a fast prod from Quellant"
-ESCAPE, RETURN, F4, ALT = 0xFF1B, 0xFF0D, 0xFFC1, 0xFFE9
-ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 
 passed = 0
 failed = 0
@@ -48,7 +50,7 @@ class Program:
                                         stderr=subprocess.PIPE, text=True,
                                         start_new_session=True)
 
-    def end(self, seconds=30):
+    def end(self, seconds=SLOW):
         """Its exit code and what it wrote; kills it when it does not end by itself, and the process
         that shows its box as well."""
         try:
@@ -85,6 +87,19 @@ def press(screen, window, *keys):
     screen.keys(*keys)
 
 
+def seconds_to_vanish(folder, screen):
+    """How long the window stands after Escape."""
+    larkfen = Program(folder, screen, "-w", "-ns")
+    window, _ = screen.wait_for_window(is_main(640, 480))
+    time.sleep(0.4)
+    screen.focus(window)
+    time.sleep(0.1)
+    screen.keys("Escape")
+    taken = screen.wait_for_none()
+    larkfen.end()
+    return SLOW if taken is None else taken
+
+
 def window_tests(folder, screen):
     larkfen = Program(folder, screen, "-w", "-ns")
     window, facts = screen.wait_for_window(is_main(640, 480))
@@ -92,34 +107,24 @@ def window_tests(folder, screen):
           facts == (TITLE, 320, 272, 640, 480), facts)
     time.sleep(0.5)
     check("it plays on", larkfen.process.poll() is None)
-    press(screen, window, ESCAPE)
+    press(screen, window, "Escape")
     check("Escape ends it with 0", larkfen.end()[0] == 0)
 
-    best = 1e9
-    for _ in range(5):
-        larkfen = Program(folder, screen, "-w", "-ns")
-        window, _ = screen.wait_for_window(is_main(640, 480))
-        time.sleep(0.4)
-        screen.focus(window)
-        time.sleep(0.1)
-        start = time.monotonic()
-        screen.keys(ESCAPE)
-        while screen.windows() and time.monotonic() < start + 5:
-            time.sleep(0.001)
-        best = min(best, (time.monotonic() - start) * 1000)
-        larkfen.end()
-    check("Escape takes the window away within 100 ms", best < 100, f"{best:.0f} ms")
+    # (On a busy machine most of the time is waiting for the processor: the best of some counts.)
+    best = SLOW
+    for _ in range(20):
+        best = min(best, seconds_to_vanish(folder, screen))
+        if best < 0.1:
+            break
+    check("Escape takes the window away within 100 ms", best < 0.1, f"{best * 1000:.0f} ms")
 
     larkfen = Program(folder, screen, "-w", "-ns")
     screen.wait_for_window(is_main(640, 480))
     time.sleep(0.4)
     screen.focus(None)
-    code = screen.x.XKeysymToKeycode(screen.display, x11.ctypes.c_ulong(ESCAPE))
-    screen.xtst.XTestFakeKeyEvent(screen.display, code, 1, 0)
-    screen.x.XSync(screen.display, 0)
-    ended = larkfen.end(5)[0]
-    screen.xtst.XTestFakeKeyEvent(screen.display, code, 0, 0)
-    screen.x.XSync(screen.display, 0)
+    screen.key("Escape", True)
+    ended = larkfen.end()[0]
+    screen.key("Escape", False)
     check("Escape held without the focus ends it", ended == 0, ended)
 
     larkfen = Program(folder, screen, "-w", "-ns", "-resolution=800x600", "-resolution=320x240")
@@ -130,7 +135,7 @@ def window_tests(folder, screen):
 
     larkfen = Program(folder, screen, "-ns", "-w")
     window, _ = screen.wait_for_window(is_main(640, 480))
-    press(screen, window, ALT, F4)
+    press(screen, window, "Alt_L", "F4")
     check("Alt-F4 ends it with 0", larkfen.end()[0] == 0)
 
     for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
@@ -145,19 +150,19 @@ def window_tests(folder, screen):
         time.sleep(0.4)
         larkfen.process.send_signal(number)
         check(f"{number.name} still counts as a crash", larkfen.end()[0] == -number)
-        check("and leaves no window", not screen.windows())
+        check("and leaves no window", screen.wait_for_none() is not None)
 
 
 def box_tests(folder, screen):
     larkfen = Program(folder, screen, "-ns")
-    check("the question is asked", answer(screen, ESCAPE) is not None)
+    check("the question is asked", answer(screen, "Escape") is not None)
     window, facts = screen.wait_for_window(is_main(640, 480))
     check("a closed question means a window", facts is not None, facts)
-    press(screen, window, ESCAPE)
+    press(screen, window, "Escape")
     larkfen.end()
 
     larkfen = Program(folder, screen, "-w", "-?", "-resolution=800x600")
-    check("the help is a box", answer(screen, RETURN) is not None)
+    check("the help is a box", answer(screen, "Return") is not None)
     code, out, _ = larkfen.end()
     check("after it the program writes its word and returns 0", (code, out) == (0, "\nTEST\n"),
           (code, out))
@@ -165,12 +170,12 @@ def box_tests(folder, screen):
 
 def sound_tests(folder, screen, work):
     larkfen = Program(folder, screen, "-w", SDL_AUDIODRIVER="none-of-all")
-    facts = answer(screen, RETURN)
+    facts = answer(screen, "Return")
     check("a missing sound device is told in a box", facts is not None, facts)
     window, _ = screen.wait_for_window(is_main(640, 480))
     time.sleep(0.3)
     check("and the show goes on", window and larkfen.process.poll() is None)
-    press(screen, window, ESCAPE)
+    press(screen, window, "Escape")
     check("to its usual end", larkfen.end()[0] == 0)
 
     # One second of a loud tone; then nothing, and no second time.
@@ -182,10 +187,10 @@ def sound_tests(folder, screen, work):
     heard = play_to_file(folder, screen, work, 4)
     rate = 44100 * 2
     loud = numpy.abs(heard.astype(numpy.int32)) > 1000
-    last = int(loud.nonzero()[0][-1]) / rate if loud.any() else 0.0
+    first, last = (loud.nonzero()[0][[0, -1]] / rate) if loud.any() else (0.0, 0.0)
     check("the soundtrack is heard", loud.sum() > rate // 4, f"{loud.sum()} samples")
-    check("and not repeated", 0.9 < last < 1.6 and len(heard) / rate > 2.5,
-          f"loud until {last:.2f} s of {len(heard) / rate:.1f} s")
+    check("and not repeated", 0.9 < last - first < 1.1 and len(heard) / rate > last + 1.5,
+          f"loud from {first:.2f} to {last:.2f} s of {len(heard) / rate:.1f} s")
 
     for name, content in (("broken", b"no music at all" * 1000), ("empty", b"")):
         sound.write_bytes(content)
@@ -199,15 +204,20 @@ def sound_tests(folder, screen, work):
 
 
 def play_to_file(folder, screen, work, seconds, *more):
-    """Plays with the sound going to a file; its samples. Fails when a box comes up."""
+    """Plays until the sound in a file lasts so long (SLOW at most), or, with more switches, for so
+    long; its samples. Fails when a box comes up."""
     raw = work / "sound.raw"
     raw.unlink(missing_ok=True)
     larkfen = Program(folder, screen, "-w", *more, SDL_AUDIODRIVER="disk",
                       SDL_DISKAUDIOFILE=str(raw))
     window, _ = screen.wait_for_window(is_main(640, 480))
-    time.sleep(seconds)
+    end = time.monotonic() + (seconds if more else SLOW)
+    while time.monotonic() < end:
+        if raw.exists() and raw.stat().st_size >= seconds * 44100 * 4:
+            break
+        time.sleep(0.1)
     boxes = [f for f in screen.windows().values() if is_box(*f)]
-    press(screen, window, ESCAPE)
+    press(screen, window, "Escape")
     code, _, _ = larkfen.end()
     if code != 0 or boxes:
         check("playing to a file", False, (code, boxes))
@@ -220,19 +230,19 @@ def play_to_file(folder, screen, work, seconds, *more):
 def picture_tests(folder, capture, work, size, keep):
     """Full screen: the picture scaled by a whole factor in the middle, every pixel exact."""
     width, height = size
-    screen = x11.Screen(f"{width}x{height}x24", work)
+    screen = x11.Screen(f"{width}x{height}x24")
     try:
         factor = min(width // 640, height // 480)
         left, top = (width - 640 * factor) // 2, (height - 480 * factor) // 2
         frames = capture_frames(capture, folder, work / "frames", 400)
         larkfen = Program(folder, screen, "-ns")
-        answer(screen, RETURN)  # the button that Return presses is Yes
+        answer(screen, "Return")  # the button that Return presses is Yes
         window, facts = screen.wait_for_window(is_main(width, height))
         check(f"full screen covers {width} by {height}", facts == (TITLE, 0, 0, width, height),
               facts)
-        time.sleep(2.5)
         found = bars = sharp = None
-        for _ in range(5):
+        end = time.monotonic() + SLOW
+        while not found and time.monotonic() < end:
             shot = screen.picture()
             inner = shot[top:top + 480 * factor, left:left + 640 * factor]
             outer = shot.copy()
@@ -240,16 +250,14 @@ def picture_tests(folder, capture, work, size, keep):
             small = inner[::factor, ::factor]
             bars = not outer.any()
             sharp = bool((numpy.repeat(numpy.repeat(small, factor, 0), factor, 1) == inner).all())
-            found = frames.get(digest565(small))
-            if found is not None and found > 0:
-                break
+            found = frames.get(digest565(small)) if small.any() else None
         if keep:
             Image.fromarray(shot).save(keep / f"full-screen-{width}x{height}.png")
         check("the bars are black", bars)
         check(f"every pixel is a block of {factor} by {factor}", sharp)
         check("the picture is, pixel for pixel, one of the recorder's",
               found is not None and small.any(), f"frame {found}")
-        press(screen, window, ESCAPE)
+        press(screen, window, "Escape")
         check("Escape ends the full screen with 0", larkfen.end()[0] == 0)
     finally:
         screen.close()
@@ -280,16 +288,15 @@ def no_display_test(folder):
 
 
 def lost_display_test(folder):
-    """Here the server is killed, so no connection to it may be ours."""
-    server, name = x11.start_server("1280x1024x24")
-    larkfen = Program(folder, types.SimpleNamespace(name=name), "-w", "-ns")
-    shown = subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", TITLE],
-                           env={**os.environ, "DISPLAY": name}, stdout=subprocess.DEVNULL,
-                           timeout=60, check=False).returncode == 0
+    """The server is killed, as when it crashes."""
+    screen = x11.Screen("1280x1024x24")
+    larkfen = Program(folder, screen, "-w", "-ns")
+    shown = screen.wait_for_window(is_main(640, 480))[0] is not None
     time.sleep(0.5)
     plays = larkfen.process.poll() is None
-    server.kill()
-    server.wait()
+    screen.disconnect()
+    screen.server.kill()
+    screen.close()
     code, out, err = larkfen.end()
     check("a display that goes away ends it with 1 and one line",
           shown and plays and code == 1 and not out and len(err.splitlines()) == 1,
@@ -455,10 +462,13 @@ def video_tests(capture, data, work):
           bare.stderr.strip())
     run = subprocess.Popen([capture, "--data", data, "-ns", "--video", work / "cut.mp4"],
                            stderr=subprocess.PIPE, text=True)
-    time.sleep(1.5)
+    end = time.monotonic() + SLOW
+    while not list(work.glob("cut.mp4*")) and time.monotonic() < end:
+        time.sleep(0.1)
+    begun = bool(list(work.glob("cut.mp4*")))
     run.send_signal(signal.SIGINT)
-    _, err = run.communicate(timeout=60)
-    check("an interrupted video leaves no file", run.returncode == 1
+    _, err = run.communicate(timeout=SLOW)
+    check("an interrupted video leaves no file", begun and run.returncode == 1
           and not list(work.glob("cut.mp4*")), err.strip())
 
 
@@ -467,11 +477,12 @@ def main():
     keep = pathlib.Path(sys.argv[2]).resolve() if len(sys.argv) > 2 else None
     if keep:
         keep.mkdir(parents=True, exist_ok=True)
-    for tool in ("ffmpeg", "ffprobe", "import"):
+    for tool in ("ffmpeg", "ffprobe"):
         if not shutil.which(tool):
             print(f"{tool} is not installed")
             print("0 passed, 1 failed")
             return 1
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # what was started is ended
     with tempfile.TemporaryDirectory(prefix="larkfen-") as name:
         work = pathlib.Path(name)
         # One copy of the program without data, for speed; one beside the whole.
@@ -483,7 +494,7 @@ def main():
         shutil.copytree(ROOT / "data", full / "data", ignore=lambda d, names: ["sfx"])
         capture = build / "larkfen-capture"
         try:
-            screen = x11.Screen("1280x1024x24", work)
+            screen = x11.Screen("1280x1024x24")
             try:
                 window_tests(bare, screen)
                 box_tests(bare, screen)

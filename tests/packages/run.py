@@ -16,7 +16,7 @@ sys.path.insert(0, str(ROOT / "tests/windows"))
 # pylint: disable=wrong-import-position
 import pe_file
 from pictures import by_hash, find_frame, stored_frames
-from wine_desk import Desk, Failure, Stage, expect, windows_path
+from wine_desk import SLOW, Desk, Failure, Stage, expect, windows_path
 
 TITLE = "Ombrel - a fast prod from Quellant"
 NOON = (2026, 5, 1, 12, 0, 0)
@@ -141,7 +141,7 @@ def linux_start(desk, work):
             find_frame(desk, "linux", by_hash(stored_frames()), (320, 272, 640, 480))
             desk.focus(TITLE)
             desk.key("Escape")
-            expect(process.wait(60) == 0, f"exit code {process.returncode}")
+            expect(process.wait(SLOW) == 0, f"exit code {process.returncode}")
         finally:
             process.kill()
 

@@ -6,7 +6,7 @@ import time
 
 import numpy
 
-from wine_desk import WIDTH, Failure, expect
+from wine_desk import SLOW, WIDTH, expect
 
 MASK = (1 << 64) - 1
 STORED = pathlib.Path(__file__).resolve().parent.parent / "scenario/frames.txt.gz"
@@ -45,26 +45,24 @@ def by_hash(frames):
     return {picture: number for number, picture in reversed(frames)}
 
 
-def find_frame(desk, name, known, place, scale=1, tries=60):
+def find_frame(desk, name, known, place, scale=1):
     """Screenshots until the pixels at place (left, top, width, height) are a frame; its number.
-    A screenshot can fall between the parts of a frame, or before the first."""
+    While the production loads they are black, and a screenshot can fall between the parts of a
+    frame; so it looks again until its time is up."""
     left, top, width, height = place
-    black, tries_left = True, 8
-    for _ in range(tries):
+    end = time.monotonic() + SLOW
+    while True:
         screen = desk.screenshot(name)
         data = crop(screen, left, top, width, height, scale)
         frame = known.get(fnv(data)) if any(data) else None
         if frame is not None:
-            if scale > 1:
-                expect_sharp(screen, place, scale)
-            return frame
-        # While it loads the picture is black; later one try in eight must do.
-        black = black and not any(data)
-        tries_left = tries_left if black else tries_left - 1
-        if tries_left == 0:
             break
+        expect(time.monotonic() < end, f"no frame of the production at {left}, {top}"
+                                       f"{'' if any(data) else ' but black'}")
         time.sleep(0.3)
-    raise Failure(f"no frame of the production at {left}, {top}{' but black' if black else ''}")
+    if scale > 1:
+        expect_sharp(screen, place, scale)
+    return frame
 
 
 def expect_sharp(screen, place, scale):

@@ -10,6 +10,7 @@
 //     before | seen | after mode WxH saver 0|1   (Wine shows another program's depth to nobody)
 //     seen window L T R B client L T R B style 0xN visible 0|1 "TITLE"
 //     seen box "TITLE" "TEXT" [BUTTONS] icon 0|1
+//     gone box
 //     did WHAT
 //     exit CODE
 #include <windows.h>
@@ -24,6 +25,7 @@ std::FILE* out;
 DWORD child;
 std::string lastMode, lastWindow, lastBox, boxBefore;
 HWND mainWindow, boxWindow;
+bool boxSeen, boxThere; // one was written down and not yet that it is gone; one stands now
 
 void Say(const std::string& line) {
     std::fprintf(out, "%s\n", line.c_str());
@@ -111,6 +113,7 @@ BOOL CALLBACK Look(HWND window, LPARAM) {
     if (std::string(kind) == "BALTHERIUM -1.1") {
         LookAtWindow(window);
     } else if (std::string(kind) == "#32770" && IsWindowVisible(window)) {
+        boxThere = true;
         BoxParts parts{};
         EnumChildWindows(window, AddPart, reinterpret_cast<LPARAM>(&parts));
         const std::string title = TextOf(window);
@@ -123,6 +126,7 @@ BOOL CALLBACK Look(HWND window, LPARAM) {
             return TRUE;
         }
         boxWindow = window;
+        boxSeen = true;
         if (lastBox != line) {
             Say(lastBox = line);
         }
@@ -189,7 +193,12 @@ int main(int count, char** arguments) {
             Say("seen " + (lastMode = mode));
         }
         mainWindow = boxWindow = nullptr;
+        boxThere = false;
         EnumWindows(Look, 0);
+        if (boxSeen && !boxThere) {
+            boxSeen = false;
+            Say("gone box");
+        }
         if (closeBox && boxWindow) {
             closeBox = false;
             PostMessageA(boxWindow, WM_CLOSE, 0, 0);
@@ -216,6 +225,9 @@ int main(int count, char** arguments) {
             Say("did kill");
             TerminateProcess(process.hProcess, 99);
         }
+    }
+    if (boxSeen) {
+        Say("gone box");
     }
     DWORD code = 0;
     GetExitCodeProcess(process.hProcess, &code);
