@@ -1,229 +1,369 @@
 #!/usr/bin/python3
-"""Builds everything and runs every test, one line a step, a log a step in build/test-logs/.
-The last line counts the tests: "N passed, N failed". Exit code 0 only when none failed."""
+"""Builds what the tests need and runs them: one line a step, a log a step in build/test-logs/.
+  ./test --quick   checks of the sources and the unit tests of the release build
+  ./test           what ships: builds it, plays it, holds every frame to the stored one
+  ./test --all     everything: other compilers, sanitizers, every path, every case, the archives
+The last line counts the tests: "N passed, N failed"; behind it ", N skipped" where some were.
+Exit code 0 only when none failed."""
 import argparse
-import concurrent.futures
-import gzip
+import dataclasses
 import os
 import pathlib
+import queue
 import re
+import signal
 import subprocess
 import sys
 import threading
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-LOGS = ROOT / "build" / "test-logs"
-UNITS = ["base", "math", "assets", "scene", "raster", "platform", "demo", "app"]
+LOGS = ROOT / "build/test-logs"
+PROCESSORS = os.cpu_count() or 1
+
+# --- the words of the table ---------------------------------------------------------------------
+
+# The sizes of a run that a step belongs to.
+EVERY, DEFAULT, ALL = ("quick", "default", "all"), ("default", "all"), ("all",)
+SHORT = ("default",)  # the short form of a step that is whole with --all
+
+# How many processors a step keeps busy. Steps that wait for real time run beside all others.
+ONE, WHOLE, WAITS = "one", "whole", "waits"
+
+# What a step prints of its tests: their counts, or nothing (then it is one test). A build is none.
+COUNTS, IS_ONE, IS_BUILD = "counts", "is one", "is a build"
+
+
+@dataclasses.dataclass(frozen=True, eq=False)
+class Step:
+    """One row. The command stands as in a shell at the root of the sources. It waits for the steps
+    that it needs, and fails when one of them has; it is ended after so many seconds."""
+    name: str
+    sizes: tuple
+    command: str
+    needs: tuple = ()
+    tests: str = COUNTS
+    limit: int = 600
+    load: str = ONE
+    env: dict = dataclasses.field(default_factory=dict)
+
+
+def build(preset, sizes, targets="all", options=""):
+    """The step that configures a preset and builds targets of it."""
+    return Step(f"build {preset}", sizes, f"cmake --preset {preset} {options} && "
+                f"nice -n 5 cmake --build build/{preset} --target {targets}", tests=IS_BUILD,
+                limit=2400, load=WHOLE)
+
+
+def frames(name, program, sizes, needs, first=None, **env):
+    """The step that holds the frames which a build draws to the stored ones."""
+    some = f"--first {first} " if first else ""
+    return Step(f"frames: {name}", sizes, f"tools/check_frames.py {some}{program}", needs,
+                tests=IS_ONE, env=env)
+
+
+def programs(names, sizes, build_name, suffix="", options="", **env):
+    """A step for each test program of a build."""
+    return [Step(f"{name}{suffix}", sizes, f"build/{build_name}/{name} {options}".strip(),
+                 (f"build {build_name}",), env=env) for name in names]
+
+
+UNITS = [f"unit_{folder.name}" for folder in sorted((ROOT / "tests/unit").iterdir())
+         if folder.is_dir()]
 CAPTURE = "larkfen-capture"
-STORED_FRAMES = ROOT / "tests/scenario/frames.txt.gz"
-VECTOR_PATHS = ["scalar", "sse"]
+RELEASE, WIN64, WIN32 = ("build release",), ("build win64",), ("build win32",)
+FOR_SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
+                  "UBSAN_OPTIONS": "print_stacktrace=1", "OMBREL_RANDOM_SHARE": "0.05"}
+# The stored frames and the whole decision table are held to the release build; with sanitizers 200
+# frames and the smaller test of the table are enough.
+NOT_SANITIZED = "--gtest_filter=-Frames.*:Faults.*:DecisionTable.AllCombinations*"
 
-passed = 0
-failed = 0
-lock = threading.Lock()
+# --- the table ----------------------------------------------------------------------------------
+# Steps start in this order as soon as what they need is there and a processor is free: what others
+# wait for stands first, then what takes longest.
+
+STEPS = [
+    build("release", EVERY, options="-DOMBREL_TESTS=ON -DOMBREL_BENCH=ON"),
+    build("win64", DEFAULT),
+    build("sanitize", ALL),
+    build("fuzz", ALL, "fuzz_targets"),
+    build("clang", ALL, CAPTURE),
+    build("o0", ALL, CAPTURE),
+    build("win32", ALL),
+
+    # What is seen: in real time, beside everything else.
+    Step("Windows programs, quick", SHORT, "tests/windows/run.sh build/win64 --quick", WIN64,
+         load=WAITS),
+    # (The whole production on the real back end would take minutes more.)
+    Step("Windows programs", ALL,
+         "tests/windows/run.sh build/win64 --desks 2 --but 'whole production'",
+         RELEASE + WIN64 + WIN32, limit=1800, load=WAITS),
+    Step("Linux window", DEFAULT, "tests/linux/run.sh build/release", RELEASE, load=WAITS),
+
+    # The whole production, and what takes long beside it.
+    Step("scenario: every frame", DEFAULT, "build/release/scenario --gtest_filter='Frames.*'",
+         RELEASE),
+    Step("scenario", DEFAULT, "build/release/scenario --gtest_filter='-Frames.*'", RELEASE),
+    *programs(["faults", "golden"], DEFAULT, "release"),
+    Step("clang-tidy and cppcheck", ALL, "tools/check_static.py build/release", RELEASE,
+         tests=IS_ONE, limit=1200, load=WHOLE),
+    *programs(["unit_raster"], DEFAULT, "release"),
+    *programs(["unit_raster"], ("quick",), "release", ", fewer random triangles",
+              OMBREL_RANDOM_SHARE="0.1"),
+    *programs([name for name in UNITS if name != "unit_raster"], EVERY, "release"),
+    Step("six productions in one process", DEFAULT,
+         "build/release/soak --fast --size 320x240 6", RELEASE, tests=IS_ONE),
+    Step("inspector", DEFAULT, "tests/inspect/run.sh build/release", RELEASE),
+
+    # The sources and the programs as files.
+    Step("habits", EVERY, "tools/check_sources.py", tests=IS_ONE),
+    Step("format", EVERY, "find src tools tests bench fuzz -name '*.h' -o -name '*.cpp' | "
+         "xargs clang-format-14 --dry-run --Werror", tests=IS_ONE),
+    Step("the driver of the tests", EVERY, "tests/driver/run.py"),
+    Step("the world", DEFAULT, "art/test.sh"),
+    Step("objects of the twins", DEFAULT, "tools/check_twins.py build/release", RELEASE,
+         tests=IS_ONE),
+
+    # The same pictures from every path and compiler.
+    frames("plain path", f"build/release/{CAPTURE}", ALL, RELEASE, RASTER_USE="scalar"),
+    frames("SSE4.1 path", f"build/release/{CAPTURE}", ALL, RELEASE, RASTER_USE="sse"),
+    frames("AVX-512 path", f"build/release/{CAPTURE}", ALL, RELEASE, RASTER_USE="avx512"),
+    frames("clang", f"build/clang/{CAPTURE}", ALL, ("build clang",)),
+    frames("g++ -O0", f"build/o0/{CAPTURE}", ALL, ("build o0",), first=400),
+
+    # Sanitizers and fuzzing.
+    Step("scenario: faults sanitized", ALL, "build/sanitize/scenario --gtest_filter='Faults.*'",
+         ("build sanitize",), limit=1200, env=FOR_SANITIZERS),
+    frames("sanitized", f"build/sanitize/{CAPTURE}", ALL, ("build sanitize",), first=200,
+           **FOR_SANITIZERS),
+    *programs(["scenario", "golden", "faults", *UNITS], ALL, "sanitize", " sanitized",
+              f"'{NOT_SANITIZED}'", **FOR_SANITIZERS),
+    Step("fuzzing: the seeds, and 5 seconds each", ALL, "tools/fuzz.py", ("build fuzz",),
+         load=WHOLE),
+
+    # The archives.
+    Step("make the archives", ALL, "tools/package.py", RELEASE + WIN64 + WIN32, tests=IS_BUILD),
+    Step("archives, unpacked", ALL, "tests/packages/run.sh build", ("make the archives",),
+         load=WAITS),
+]
+
+# --- counting -----------------------------------------------------------------------------------
 
 
-def count_tests(output, code):
-    """(passed, failed) as the output of one step tells them; a step that counts nothing is one."""
-    good = sum(int(n) for n in re.findall(r"\[  PASSED  \] (\d+) test", output))
-    bad = sum(int(n) for n in re.findall(r"\[  FAILED  \] (\d+) test", output))
-    lines = re.findall(r"^(?:\S+: )?(\d+) passed, (\d+) failed", output, re.M)
-    good += sum(int(a) for a, _ in lines)
-    bad += sum(int(b) for _, b in lines)
-    if good + bad == 0:
-        return (1, 0) if code == 0 else (0, 1)
-    if code != 0 and bad == 0:
-        bad = 1  # it broke off: a crash or a sanitizer's report
-    return good, bad
+@dataclasses.dataclass
+class Result:
+    """How a step went. What it printed stands in its log."""
+    passed: int = 0
+    failed: int = 0
+    skipped: int = 0
+    seconds: float = 0.0
+    processor: float = 0.0  # seconds of it, of all that the step started and waited for
+    output: str = ""
 
 
-def step(name, command, env=None, counts=True, limit=900):
-    """Runs one command; tells how it went; returns whether it went well."""
-    global passed, failed
-    start = time.monotonic()
-    log = LOGS / (re.sub(r"[^a-z0-9]+", "-", name.lower()) + ".log")
+def count_tests(tests, output, code):
+    """(passed, failed, skipped) of a step's output and exit code. Understands the last lines of
+    test programs and lines `N passed, N failed[, N skipped]`."""
+    if tests == IS_BUILD:
+        return 0, int(code != 0), 0
+    if tests == IS_ONE:
+        return int(code == 0), int(code != 0), 0
+    totals = [0, 0, 0]
+    for place, word in enumerate(("PASSED", "FAILED", "SKIPPED")):
+        totals[place] += sum(map(int, re.findall(rf"^\[  {word} *\] (\d+) tests?\b", output, re.M)))
+    for line in re.findall(r"^(?:\S+: )?(\d+) passed, (\d+) failed(?:, (\d+) skipped)?", output,
+                           re.M):
+        totals = [total + int(number or 0) for total, number in zip(totals, line)]
+    passed, failed, skipped = totals
+    # Broken off (a crash, a sanitizer's report, the limit), or nothing counted at all.
+    if failed == 0 and (code != 0 or passed + skipped == 0):
+        failed = 1
+    return passed, failed, skipped
+
+
+def excerpt(output):
+    """What of a failed step's output is shown: from the first line that names a fault, and the end."""
+    lines = output.splitlines()
+    first = next((number for number, line in enumerate(lines)
+                  if re.search(r"FAILED|error|ERROR|fault|Traceback", line)), len(lines))
+    first = max(0, min(first - 3, len(lines) - 40))
+    shown = lines[first:first + 40]
+    if first + 40 < len(lines):
+        shown += ["..."] + lines[max(first + 40, len(lines) - 10):]
+    return "\n".join("      | " + line for line in shown)
+
+
+# --- the loop -----------------------------------------------------------------------------------
+
+class Runner:
+    """Starts steps as they become ready and takes their results."""
+
+    def __init__(self):
+        self.running = {}  # step: (process, when it was started)
+        self.finished = queue.SimpleQueue()
+
+    def fits(self, step):
+        """A processor is free for it. (A build may begin beside one last test: all the better.)"""
+        if step.load == WAITS:
+            return sum(other.load == WAITS for other in self.running) < PROCESSORS
+        busy = sum({ONE: 1, WHOLE: PROCESSORS, WAITS: 0}[other.load] for other in self.running)
+        return busy < PROCESSORS
+
+    def start(self, step):
+        """Starts a step in a process group of its own, with its log as output."""
+        log = log_of(step)
+        with log.open("wb") as file:
+            process = subprocess.Popen(["/bin/bash", "-c", step.command], cwd=ROOT, stdout=file,
+                                       stderr=subprocess.STDOUT, stdin=subprocess.DEVNULL,
+                                       env={**os.environ, **step.env}, start_new_session=True)
+        self.running[step] = (process, time.monotonic())
+        threading.Thread(target=self.watch, args=(step, process, time.monotonic()),
+                         daemon=True).start()
+
+    def watch(self, step, process, start):
+        """Waits for the end of a step, or ends it when its time is up."""
+        end, late, processor = start + step.limit, "", 0.0
+        while process.returncode is None:
+            pid, status, used = os.wait4(process.pid, os.WNOHANG)
+            if pid:
+                process.returncode = os.waitstatus_to_exitcode(status)
+                processor = used.ru_utime + used.ru_stime
+            elif time.monotonic() > end:
+                end_group(process)
+                late = f"\nended after {step.limit} s, its limit\n"
+            else:
+                time.sleep(0.02)
+        output = log_of(step).read_text(errors="replace") + late
+        counts = count_tests(step.tests, output, process.returncode)
+        self.finished.put((step, Result(*counts, time.monotonic() - start, processor, output)))
+
+    def next_result(self):
+        """The next step that ends. Says once a minute what runs, that nobody thinks it hangs."""
+        while True:
+            try:
+                step, result = self.finished.get(timeout=60)
+                del self.running[step]
+                return step, result
+            except queue.Empty:
+                now = time.monotonic()
+                print("  ...", ", ".join(f"{step.name} ({now - start:.0f} s)" for step, (_, start)
+                                         in self.running.items()), flush=True)
+
+    def end_all(self):
+        """Ends everything that runs."""
+        for process, _ in self.running.values():
+            end_group(process)
+
+
+def end_group(process):
+    """Asks a step and all that it started to end; ends them when they do not within 10 s."""
+    for sign in (signal.SIGTERM, signal.SIGKILL):
+        try:
+            os.killpg(process.pid, sign)
+            process.wait(10)
+        except (ProcessLookupError, subprocess.TimeoutExpired):
+            pass
+
+
+def log_of(step):
+    return LOGS / (re.sub(r"[^a-z0-9]+", "-", step.name.lower()).strip("-") + ".log")
+
+
+def report(step, result):
+    """The line of a step, and of one that failed what it said."""
+    count = result.passed + result.failed
+    said = "" if step.tests == IS_BUILD else f"{count} test{'s' if count != 1 else ''}"
+    if result.skipped:
+        said += f", {result.skipped} skipped"
+    print(f"  {step.name:<42} {'FAILED' if result.failed else 'ok    '} {result.seconds:7.1f} s "
+          f"{result.processor:7.1f} s  {said}".rstrip(), flush=True)
+    if result.failed:
+        print(excerpt(result.output))
+        print(f"      whole log: {log_of(step).relative_to(ROOT)}", flush=True)
+
+
+def run(steps):
+    """Runs steps, each behind those that it needs; {step: result}."""
+    runner, results, waiting = Runner(), {}, list(steps)
+    failed = set()  # names
+
+    def take(step, result):
+        results[step] = result
+        if result.failed:
+            failed.add(step.name)
+        report(step, result)
+
     try:
-        result = subprocess.run([str(part) for part in command], cwd=ROOT, stdout=subprocess.PIPE,
-                                stderr=subprocess.STDOUT, env={**os.environ, **(env or {})},
-                                stdin=subprocess.DEVNULL, timeout=limit, check=False)
-        output, code = result.stdout.decode(errors="replace"), result.returncode
-    except subprocess.TimeoutExpired as error:
-        output = (error.stdout or b"").decode(errors="replace") + f"\ntook more than {limit} s\n"
-        code = 124
-    except OSError as error:
-        output, code = f"{command[0]}: {error.strerror}\n", 127
-    log.write_text(output)
-    good, bad = count_tests(output, code)
-    seconds = time.monotonic() - start
-    said = f"{good} tests" if counts else "done"
-    with lock:
-        if counts or bad:
-            passed += good
-            failed += bad
-        print(f"  {name:<34} {'ok    ' if bad == 0 else 'FAILED'} {said:>12} {seconds:7.1f} s",
-              flush=True)
-        if bad:
-            shown = output.splitlines()
-            marks = [i for i, line in enumerate(shown)
-                     if re.search(r"FAILED|error|ERROR|fault", line)]
-            first = max(0, min(marks[0] - 3 if marks else len(shown), len(shown) - 40))
-            print("\n".join("      | " + line for line in shown[first:first + 40]))
-            print(f"      whole log: {log.relative_to(ROOT)}", flush=True)
-    return bad == 0
+        while waiting or runner.running:
+            done = {step.name for step in results}
+            for step in list(waiting):
+                missing = [name for name in step.needs if name in failed]
+                if missing:
+                    waiting.remove(step)
+                    log_of(step).write_text(f"not run: '{missing[0]}' failed\n")
+                    take(step, Result(failed=1, output=log_of(step).read_text()))
+                elif done.issuperset(step.needs) and runner.fits(step):
+                    waiting.remove(step)
+                    runner.start(step)
+            if runner.running:
+                take(*runner.next_result())
+    finally:
+        runner.end_all()
+    return results
 
 
-def side_by_side(steps):
-    """Runs steps, as (name, command, keywords), as many at a time as there are processors."""
-    with concurrent.futures.ThreadPoolExecutor(max_workers=os.cpu_count() or 1) as pool:
-        for done in [pool.submit(step, name, command, **more) for name, command, more in steps]:
-            done.result()
+def run_and_tell(steps):
+    """Runs steps and prints the closing lines; the exit code."""
+    LOGS.mkdir(parents=True, exist_ok=True)
+    start = time.monotonic()
+    print(f"  {'step':<49} {'on the clock':>10} processor  tests")
+    results = run(steps)
+    bad = [step.name for step, result in results.items() if result.failed]
+    passed, failed, skipped = (sum(getattr(result, what) for result in results.values())
+                               for what in ("passed", "failed", "skipped"))
+    processor = sum(result.processor for result in results.values())
+    print(f"\n{time.monotonic() - start:.0f} s, {processor:.0f} s of a processor")
+    if bad:
+        print(f"failed: {', '.join(bad)}")
+    print(f"{passed} passed, {failed} failed" + (f", {skipped} skipped" if skipped else ""))
+    return 1 if failed or not passed else 0
 
 
-def build(preset, targets, *options):
-    """Configures and builds targets of one preset."""
-    return step(f"configure {preset}", ["cmake", "--preset", preset, *options], counts=False) and \
-        step(f"build {preset}", ["cmake", "--build", f"build/{preset}", "--target", *targets],
-             counts=False, limit=1800)
+# --- what is asked for --------------------------------------------------------------------------
 
-
-def test_programs(folder):
-    """The unit test programs that this build folder has sources for."""
-    names = [f"unit_{unit}" for unit in UNITS if list((ROOT / "tests/unit" / unit).glob("*.cpp"))]
-    return [(name, folder / name) for name in names]
-
-
-def whole_runs(folder):
-    """The test programs that draw pictures or play the production, where they have sources."""
-    return [(name, folder / name) for name in ("scenario", "golden", "faults")
-            if list((ROOT / "tests" / name).glob("*.cpp"))]
-
-
-def capture_hashes(name, program, out, frames, extra=(), env=None):
-    """The step that writes the hash lines of the first frames with one build of the tool."""
-    return (f"hashes {name}", [*program, "-w", "-ns", "--data", ROOT / "data", "--frames",
-                                   f"0:{frames}", "--hashes", out, *extra],
-            {"counts": False, "env": env})
-
-
-def picture_hashes(lines, field):
-    """(frame number, picture hash) of lines that open with "frame N" and hold the hash in a field."""
-    return [(words[1], words[field]) for words in (line.split() for line in lines) if words]
-
-
-def compare_hashes(name, path, whole):
-    """Counts as one test: the hash lines that a build wrote are the stored ones, of the whole
-    production or of its first frames; names the first frame that differs."""
-    global passed, failed
-    with gzip.open(STORED_FRAMES, "rt") as stored:
-        wanted = picture_hashes(stored, 9)
-    seen = picture_hashes(path.read_text().splitlines(), 7) if path.exists() else []
-    bad = next((f"first difference: frame {a[0]}" for a, b in zip(wanted, seen) if a != b), None)
-    if bad is None and (not seen or len(seen) > len(wanted) or (whole and len(seen) != len(wanted))):
-        bad = f"{len(seen)} frames, stored are {len(wanted)}"
-    if bad is None:
-        passed += 1
-        print(f"  frames of {name:<24} ok     {len(seen)} as stored")
-    else:
-        failed += 1
-        print(f"  frames of {name:<24} FAILED {bad}")
+def chosen(steps, size, pattern=""):
+    """The steps of a size whose name holds the pattern, with all that they need."""
+    steps = [step for step in steps if size in step.sizes]
+    names = {step.name for step in steps}
+    for step in steps:
+        assert names.issuperset(step.needs), f"'{step.name}' needs what no {size} run has"
+    wanted = {step.name for step in steps if re.search(pattern, step.name)}
+    for step in reversed(steps):
+        wanted.update(step.needs if step.name in wanted else ())
+    return [step for step in steps if step.name in wanted]
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--quick", action="store_true",
-                        help="only the source checks and the unit tests of the release build")
-    quick = parser.parse_args().quick
-    LOGS.mkdir(parents=True, exist_ok=True)
-    start = time.monotonic()
-    release = ROOT / "build" / "release"
-    sanitize = ROOT / "build" / "sanitize"
-
-    print("Sources")
-    step("habits", [ROOT / "tools/check_sources.py"])
-    step("the world", [ROOT / "art/test.sh"])
-    sources = sorted(str(p) for d in ("src", "tools", "tests", "bench", "fuzz")
-                     for p in (ROOT / d).rglob("*") if p.suffix in (".h", ".cpp"))
-    step("format", ["clang-format-14", "--dry-run", "--Werror", *sources])
-
-    print("Release build")
-    if build("release", ["all"], "-DOMBREL_TESTS=ON", "-DOMBREL_BENCH=ON"):
-        step("objects of the twins", [ROOT / "tools/check_twins.py", release])
-        step("clang-tidy and cppcheck", [ROOT / "tools/check_static.py", release])
-        # The whole production takes longest: it has one processor, everything else the other.
-        whole = [] if quick else [("scenario: frames", [release / "scenario",
-                                                        "--gtest_filter=Frames.*"], {})]
-        others = [] if quick else whole_runs(release)
-        programs = whole + [
-            (name, [program] + (["--gtest_filter=-Frames.*"] if name == "scenario" else []), {})
-            for name, program in others + test_programs(release)]
-        if not quick:
-            programs.append(("six productions in one process",
-                             [release / "soak", "--fast", "--size", "320x240", "6"], {}))
-        side_by_side(programs)
-
-        step("inspector", [ROOT / "tests/inspect/run.sh", release])
-
-    if not quick:
-        print("Sanitizer build (ASan, UBSan)")
-        if build("sanitize", ["all"]):
-            options = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
-                       "UBSAN_OPTIONS": "print_stacktrace=1", "OMBREL_RANDOM_SHARE": "0.05"}
-            # The stored frames and the whole decision table are held to the release build; here
-            # 200 frames and the smaller test of the table are enough.
-            left_out = "--gtest_filter=-Frames.*:Faults.*:DecisionTable.AllCombinations*"
-            # The files of the production in every bad way take longest: they go first.
-            programs = [("scenario: faults sanitized",
-                         [sanitize / "scenario", "--gtest_filter=Faults.*"], {"env": options}),
-                        ("200 frames sanitized",
-                         [sanitize / CAPTURE, "-w", "-ns", "--frames", "0:200", "--hashes",
-                          LOGS / "frames-sanitize.txt"], {"env": options})]
-            programs += [(f"{name} sanitized", [program, left_out], {"env": options})
-                         for name, program in whole_runs(sanitize) + test_programs(sanitize)]
-            side_by_side(programs)
-
-        print("Fuzz targets: their seeds, and 5 seconds each")
-        if build("fuzz", ["fuzz_targets"]):
-            step("fuzzing", [ROOT / "tools/fuzz.py"])
-
-        print("The same pictures from every compiler")
-        captures = []
-        for preset, count in (("release", 100000), ("clang", 100000), ("o0", 400)):
-            (LOGS / f"frames-{preset}.txt").unlink(missing_ok=True)
-            if preset == "release" or build(preset, [CAPTURE]):
-                captures.append(capture_hashes(preset, [ROOT / "build" / preset / CAPTURE],
-                                               LOGS / f"frames-{preset}.txt", count))
-        # The release build takes the best path of this processor; the plain one and that of older
-        # processors must show the same.
-        for path in VECTOR_PATHS:
-            (LOGS / f"frames-{path}.txt").unlink(missing_ok=True)
-            captures.append(capture_hashes(f"{path} path", [release / CAPTURE],
-                                           LOGS / f"frames-{path}.txt", 300,
-                                           env={"RASTER_USE": path}))
-        side_by_side(captures)
-        for build_name, whole in [("release", True), ("clang", True), ("o0", False)] + \
-                [(f"{path} path", False) for path in VECTOR_PATHS]:
-            compare_hashes(build_name, LOGS / f"frames-{build_name.split()[0]}.txt", whole)
-
-        print("Windows builds, under Wine")
-        built = [build(preset, ["all"]) for preset in ("win64", "win32")]
-        if all(built) and (ROOT / "tests/windows/run.sh").exists():
-            # The whole production would take minutes more.
-            step("Windows programs", [ROOT / "tests/windows/run.sh", ROOT / "build/win64",
-                                      "--desks", "2", "--but", "whole production"], limit=1800)
-
-        print("The archives of the release, and the Linux program under Xvfb")
-        played = []
-        if step("make the archives", ["cmake", "--build", "--preset", "package"], counts=False):
-            played.append(("archives, unpacked",
-                           [ROOT / "tests/packages/run.sh", ROOT / "build"], {}))
-        if (ROOT / "tests/linux/run.sh").exists():
-            played.append(("Linux window", [ROOT / "tests/linux/run.sh", release], {}))
-        side_by_side(played)
-
-    print(f"\n{time.monotonic() - start:.0f} s")
-    print(f"{passed} passed, {failed} failed")
-    return 1 if failed or not passed else 0
+    parser = argparse.ArgumentParser(description=__doc__,
+                                     formatter_class=argparse.RawDescriptionHelpFormatter)
+    size = parser.add_mutually_exclusive_group()
+    for name in ("quick", "all"):
+        size.add_argument(f"--{name}", action="store_const", dest="size", const=name,
+                          help=f"the {name} size" if name == "quick" else "everything")
+    parser.add_argument("--only", metavar="PATTERN", default="",
+                        help="only steps whose name holds this pattern, and what they need")
+    parser.add_argument("--list", action="store_true", help="name the steps and their sizes, and end")
+    options = parser.parse_args()
+    if options.list:
+        for step in STEPS:
+            print(f"{step.name:<42} {', '.join(step.sizes):<22} {step.command}")
+        return 0
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    try:
+        return run_and_tell(chosen(STEPS, options.size or "default", options.only))
+    except KeyboardInterrupt:
+        print("interrupted")
+        return 130
 
 
 if __name__ == "__main__":
