@@ -256,13 +256,18 @@ class Runner:
 
 
 def end_group(process):
-    """Asks a step and all that it started to end; ends them when they do not within 10 s."""
-    for sign in (signal.SIGTERM, signal.SIGKILL):
+    """Asks a step and all that it started to end; ends what has not within 10 s."""
+    for sign, patience in ((signal.SIGTERM, 10), (signal.SIGKILL, 2)):
+        end = time.monotonic() + patience
         try:
             os.killpg(process.pid, sign)
-            process.wait(10)
-        except (ProcessLookupError, subprocess.TimeoutExpired):
-            pass
+            while time.monotonic() < end:
+                process.poll()
+                os.killpg(process.pid, 0)
+                time.sleep(0.02)
+        except ProcessLookupError:
+            break
+    process.wait()
 
 
 def log_of(step):
