@@ -17,6 +17,7 @@ MAY_INCLUDE = {
     "raster": ["base/", "assets/texture.h", "scene/face_list.h"],
     "platform": ["base/"],
     "demo": ["base/", "math/", "assets/", "scene/", "raster/", "platform/*.h"],
+    "player": ["base/", "math/", "assets/", "scene/", "raster/", "demo/", "platform/*.h"],
     "app": [""],
 }
 BACKENDS = ["win32", "sdl2", "offscreen"]

@@ -15,6 +15,10 @@ std::int32_t Random15() {
     return static_cast<std::int32_t>((state >> 16) & 0x7FFF);
 }
 
+std::uint32_t Random15State() {
+    return state;
+}
+
 void ResetRandom15() {
     state = 1;
 }

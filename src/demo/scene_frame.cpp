@@ -63,6 +63,17 @@ void TurnObject(Mesh* object) {
     MeshRotate(object, 0.0F, kSkyStep, 0.0F, 0);
 }
 
+std::array<Mesh*, 6> TurningObjects(World* scene) {
+    const std::int32_t turning = scene->objectCounter - 2;
+    const bool any = turning >= kFirstSceneObject;
+    return {&scene->sky,
+            &scene->skyAlpha0,
+            &scene->skyAlphaS2,
+            &scene->stay,
+            any ? &scene->objects[turning] : nullptr,
+            any ? &scene->objects[turning - 1] : nullptr};
+}
+
 void AddObject(FrontEnd* front, Mesh* object) {
     if (front->kernels == nullptr) {
         MeshTransform(object, &IdentityMatrix4, kIntoTransformed);

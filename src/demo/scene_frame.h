@@ -2,6 +2,7 @@
 // calls the gathering functions in its own order, PlayScene the others.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "demo/world.h"
@@ -14,6 +15,9 @@ namespace ombrel {
 // One step of a big slow object (the skies, the stand): reset, then -0.02 degrees about Y, which
 // adds up from frame to frame.
 void TurnObject(Mesh* object);
+// The objects whose stored vertices change from frame to frame: those that TurnObject turns, and
+// the two of the scene list. Null where the list has none.
+std::array<Mesh*, 6> TurningObjects(World* scene);
 // Puts an object into the world at its position and adds its faces.
 void AddObject(FrontEnd* front, Mesh* object);
 // The same, if its bounding sphere is in sight.

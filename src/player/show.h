@@ -1,0 +1,51 @@
+// The production as a thing to hold: one frame at a time, any frame at will. It plays the very
+// production, through the frame driver that it is given; a frame that was sought has the picture of
+// the same frame played. One show at a time. Callers: the player window, the page, the tests.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "player/snapshot.h"
+
+namespace ombrel {
+
+struct ShowSetup {
+    int (*renderFrame)(); // the frame driver
+    std::int32_t width, height;
+    std::int32_t distance; // frames from one snapshot to the next; 0: kSnapshotDistance
+    std::size_t memory;    // bytes of all snapshots at most; 0: kSnapshotMemory
+};
+inline constexpr std::int32_t kSnapshotDistance = 25;
+inline constexpr std::size_t kSnapshotMemory = std::size_t{300} << 20;
+
+// Starts the production in memory, silent and without its frame cap, before its first frame. The
+// code paths are chosen before, the data folder too. False when the display could not be opened.
+bool OpenShow(const ShowSetup& setup);
+void CloseShow(); // frees what was loaded; allowed when none is open
+
+// Draws the next frame. False at the end of the production: then nothing was drawn.
+bool StepShow();
+std::int32_t ShownFrame(); // the last one drawn; -1 before the first
+bool ShowEnded();
+
+// Goes to a frame, backwards or forwards, and returns the number of the one that is shown then: the
+// frame itself, or the last of the production. Negative numbers count as 0. Frames between are
+// played unseen. keepOn, unless null, is asked after each of them and ends the search early.
+using KeepOn = bool (*)(std::int32_t frame, void* user);
+std::int32_t SeekShow(std::int32_t frame, KeepOn keepOn, void* user);
+
+// Bytes of the snapshots held.
+std::size_t SnapshotBytes();
+
+// Draws the shown frame once more from the state before it: for looks that need other pixels.
+// before is called in that state, after with the picture drawn and unlocked; then everything is as
+// it was, the shown picture too. False before the first frame, and without memory.
+struct Redraw {
+    void (*before)(void* user);
+    void (*after)(void* user);
+    void* user;
+};
+bool RedrawShown(const Redraw& redraw);
+
+} // namespace ombrel
