@@ -1,19 +1,23 @@
-// Asks the compiler's own runtime, which reads CPUID and, before it believes in a wide register,
-// XGETBV: whether the operating system saves it.
+// Asks the compiler's own runtime, which on x86 reads CPUID and, before it believes in a wide
+// register, XGETBV: whether the operating system saves it.
 #include "base/vector_path.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace ombrel {
 
 namespace {
 
-constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse", "avx2", "avx512"};
+constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse", "avx2", "avx512", "neon"};
 
+#if defined(__x86_64__) || defined(__i386__)
 // Compilers answer in different types.
 template <class Answer> bool Yes(Answer answer) {
     return static_cast<bool>(answer);
 }
+#endif
 
 } // namespace
 
@@ -34,34 +38,32 @@ bool ProcessorRuns(VectorPath path) {
     case VectorPath::Avx512:
         return Yes(__builtin_cpu_supports("avx512f")) && Yes(__builtin_cpu_supports("avx512bw")) &&
                Yes(__builtin_cpu_supports("avx512dq")) && Yes(__builtin_cpu_supports("avx512vl"));
+    case VectorPath::Neon:
+        break;
     }
     return false;
 #else
-    return path == VectorPath::Scalar;
+    return std::find(std::begin(kPathsHere), std::end(kPathsHere), path) != std::end(kPathsHere);
 #endif
 }
 
 VectorPath PathFor(const char* request, bool* understood) {
     // Find the request in the list; without one, start from the best that is taken by default.
     const bool requested = request != nullptr && request[0] != '\0';
-    int number = static_cast<int>(VectorPath::Avx2);
-    bool known = !requested;
-    for (int i = 0; requested && i < kVectorPathCount; ++i) {
-        if (std::strcmp(request, kNames[i]) == 0) {
-            number = i;
-            known = true;
-        }
-    }
+    const VectorPath* const named =
+        std::find_if(std::begin(kPathsHere), std::end(kPathsHere), [&](VectorPath path) {
+            return requested && std::strcmp(request, NameOf(path)) == 0;
+        });
+    const bool known = named != std::end(kPathsHere);
+    const VectorPath* path = known ? named : std::end(kPathsHere) - 1;
     // Go down to what the processor runs.
-    bool met = known;
-    while (!ProcessorRuns(static_cast<VectorPath>(number))) {
-        --number;
-        met = met && !requested;
+    while (!ProcessorRuns(*path) || (!known && *path == VectorPath::Avx512)) {
+        --path;
     }
     if (understood != nullptr) {
-        *understood = met;
+        *understood = known ? path == named : !requested;
     }
-    return static_cast<VectorPath>(number);
+    return *path;
 }
 
 } // namespace ombrel

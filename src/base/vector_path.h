@@ -6,20 +6,31 @@
 
 namespace ombrel {
 
-// In the order of what they ask for; each processor that runs one runs those before it.
-enum class VectorPath : std::uint8_t { Scalar, Sse, Avx2, Avx512 };
-inline constexpr std::int32_t kVectorPathCount = 4;
+enum class VectorPath : std::uint8_t { Scalar, Sse, Avx2, Avx512, Neon };
+inline constexpr std::int32_t kVectorPathCount = 5;
 
-// "scalar", "sse", "avx2", "avx512": what RASTER_USE names them.
+// The paths of the architecture that this is built for, in the order of what they ask of the
+// processor: one that runs a path runs those before it.
+#if defined(__x86_64__) || defined(__i386__)
+inline constexpr VectorPath kPathsHere[] = {VectorPath::Scalar, VectorPath::Sse, VectorPath::Avx2,
+                                            VectorPath::Avx512};
+#elif defined(__aarch64__)
+inline constexpr VectorPath kPathsHere[] = {VectorPath::Scalar, VectorPath::Neon};
+#else
+inline constexpr VectorPath kPathsHere[] = {VectorPath::Scalar};
+#endif
+
+// "scalar", "sse", "avx2", "avx512", "neon": what RASTER_USE names them.
 const char* NameOf(VectorPath path);
 
-// Whether the processor has the instructions (SSE4.1; AVX2; AVX-512 F, BW, DQ and VL) and the
-// operating system saves the registers that they need.
+// Whether the processor has the instructions (SSE4.1; AVX2; AVX-512 F, BW, DQ and VL; every 64-bit
+// ARM has NEON) and the operating system saves the registers that they need.
 bool ProcessorRuns(VectorPath path);
 
 // The requested path, or the next one below it that the processor runs. For null, an empty or an
-// unknown name it is the best one up to AVX2; AVX-512 is taken only on request. understood, unless
-// null, becomes whether the request was met exactly; no request always is.
+// unknown name, that of another architecture's path among them, it is the best one that is taken by
+// default: AVX-512 is taken only on request. understood, unless null, becomes whether the request
+// was met exactly; no request always is.
 VectorPath PathFor(const char* request, bool* understood);
 
 } // namespace ombrel
