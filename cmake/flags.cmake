@@ -18,5 +18,8 @@ endif()
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
   target_compile_options(ombrel_flags INTERFACE -msse2 -mfpmath=sse)
 endif()
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
+  target_compile_options(ombrel_flags INTERFACE -fsigned-char) # as it is on x86
+endif()
 # The same sources give the same bytes, wherever the checkout stands.
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
