@@ -19,6 +19,7 @@ constexpr std::string_view kDataPrefix = "./data";
 
 constexpr std::size_t kMaxFolderLength = 4095;
 constinit char dataFolder[kMaxFolderLength + 1] = "";
+constinit MissingFileHook missingFileHook = nullptr;
 
 bool SameLetters(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {
@@ -110,17 +111,23 @@ std::string FindDataFile(const char* path) {
     return FindBelow(root, fs::path(rest).relative_path());
 }
 
+void SetMissingFileHook(MissingFileHook hook) {
+    missingFileHook = hook;
+}
+
 std::FILE* OpenDataFile(const char* path, const char* mode) {
     KeepMemoryReserve(); // again, where the names of the file before took of it
+    // Always binary: a text file read here never depends on the system's idea of a line end.
+    (void)mode;
     const std::string found = FindDataFile(path);
     std::error_code error;
     // Folders cannot be read, and a device or a pipe may never end.
-    if (found.empty() || !fs::is_regular_file(found, error)) {
-        return nullptr;
+    const bool readable = !found.empty() && fs::is_regular_file(found, error);
+    std::FILE* const file = readable ? std::fopen(found.c_str(), "rb") : nullptr;
+    if (file == nullptr && missingFileHook != nullptr) {
+        missingFileHook(path);
     }
-    // Always binary: a text file read here never depends on the system's idea of a line end.
-    (void)mode;
-    return std::fopen(found.c_str(), "rb");
+    return file;
 }
 
 } // namespace ombrel

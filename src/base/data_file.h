@@ -20,6 +20,11 @@ std::string DataFolder();
 // none. A leading blank is kept (such a name is not found).
 std::string FindDataFile(const char* path);
 
+// Called with the path as the code or a data file writes it, whenever OpenDataFile returns null.
+// Null, as at the start: nobody is told. Written by the SDL2 entry.
+using MissingFileHook = void (*)(const char* path);
+void SetMissingFileHook(MissingFileHook hook);
+
 // fopen of FindDataFile(path) for reading; mode "r" or "rb" (line ends are never converted).
 // Null when there is no such file, it cannot be opened, or it is a folder, a device or a pipe.
 std::FILE* OpenDataFile(const char* path, const char* mode);
