@@ -1,10 +1,15 @@
 # Programs, tests and benchmarks of the native build.
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(SDL2 REQUIRED IMPORTED_TARGET sdl2 SDL2_mixer)
+pkg_check_modules(SDL2 REQUIRED sdl2)
+find_library(MP3_LIBRARY NAMES libmp3lame.a REQUIRED) # its decoder is linked in
 find_package(PNG REQUIRED)
 
 ombrel_back_end(offscreen SOFT)
-ombrel_back_end(sdl2 SOFT PkgConfig::SDL2)
+include(cmake/icon.cmake)
+ombrel_back_end(sdl2 SOFT ${MP3_LIBRARY} ${CMAKE_DL_LIBS} m)
+target_sources(ombrel_platform_sdl2 PRIVATE ${ICON_SOURCE})
+# Of SDL2 only the headers: the library is opened when the program runs.
+target_include_directories(ombrel_platform_sdl2 SYSTEM PUBLIC ${SDL2_INCLUDE_DIRS})
 
 # A program of ours: its main file and the libraries behind it, the back end last.
 function(ombrel_program name source)
@@ -14,6 +19,11 @@ function(ombrel_program name source)
 endfunction()
 
 ombrel_program(larkfen src/app/entry_sdl2.cpp ombrel_app ombrel_demo ombrel_platform_sdl2)
+if(NOT OMBREL_SANITIZE)
+  # It needs nothing but the C library, and shows nothing of its own to the libraries that it opens.
+  target_link_options(larkfen PRIVATE -static-libstdc++ -static-libgcc LINKER:--exclude-libs,ALL
+                                      LINKER:--gc-sections)
+endif()
 ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)

@@ -18,12 +18,14 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 PARTS = ROOT / "tools/package"
 DATE = 1777636800  # of every file in the archives: the first of May 2026, noon
 
-# Archive          | preset    | program       | strip                      | extra licence  | folder
+# Archive          | preset    | program       | strip                      | folder
 ARCHIVES = [
-    ("ombrel-win32.zip",    "win32",   "larkfen.exe", "i686-w64-mingw32-strip",   "mingw-w64.txt", ""),
-    ("ombrel-win64.zip",    "win64",   "larkfen.exe", "x86_64-w64-mingw32-strip", "mingw-w64.txt", ""),
-    ("ombrel-linux.tar.gz", "release", "larkfen",     "strip",                    "sdl.txt", "ombrel/"),
+    ("ombrel-win32.zip",    "win32",   "larkfen.exe", "i686-w64-mingw32-strip",   ""),
+    ("ombrel-win64.zip",    "win64",   "larkfen.exe", "x86_64-w64-mingw32-strip", ""),
+    ("ombrel-linux.tar.gz", "release", "larkfen",     "strip",                    "ombrel/"),
 ]
+LICENCES = {"windows": ["fonts.txt", "mingw-w64.txt"],
+            "linux": ["fonts.txt", "lame.txt", "sdl.txt"]}
 
 
 class Fault(Exception):
@@ -64,7 +66,7 @@ def stripped(program, strip):
     return content
 
 
-def files(preset, program, strip, licence, build):
+def files(preset, program, strip, build):
     """[(name, content, executable)] of one archive, in the order of their names."""
     system = "linux" if preset == "release" else "windows"
     out = [(program, stripped(build / preset / program, strip), True),
@@ -72,7 +74,7 @@ def files(preset, program, strip, licence, build):
            ("file_id.diz", text(PARTS / "file_id.diz", system), False),
            ("licences/ombrel.txt", text(ROOT / "LICENSE", system), False)]
     out += [(f"licences/{name}", text(PARTS / "licences" / name, system), False)
-            for name in ("fonts.txt", licence)]
+            for name in LICENCES[system]]
     out += [(f"data/{name}", (ROOT / "data" / name).read_bytes(), False) for name in data_files()]
     return sorted(out)
 
@@ -117,8 +119,8 @@ def main():
         for preset in () if options.no_build else ("win32", "win64"):
             for command in (["--preset", preset], ["--build", f"build/{preset}", "--target", "larkfen"]):
                 subprocess.run(["cmake", *command], cwd=ROOT, check=True)
-        for archive, preset, program, strip, licence, folder in ARCHIVES:
-            members = files(preset, program, strip, licence, options.build)
+        for archive, preset, program, strip, folder in ARCHIVES:
+            members = files(preset, program, strip, options.build)
             content = tar_bytes(members, folder) if folder else zip_bytes(members)
             part = options.out / (archive + ".part")
             part.write_bytes(content)

@@ -1,7 +1,7 @@
 # Debian packages the project needs, and how the two commands get them. Read by `run` and `test`.
 
 # To build and play.
-PLAY_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libsdl2-mixer-dev libpng-dev ffmpeg"
+PLAY_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libmp3lame-dev libpng-dev ffmpeg"
 # To run every test: other compilers, sanitizers, the Windows builds and what plays them.
 TEST_PACKAGES="$PLAY_PACKAGES python3 libgtest-dev libbenchmark-dev clang-14 libclang-rt-14-dev
  clang-format-14 clang-tidy-14 cppcheck g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64

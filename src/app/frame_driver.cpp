@@ -80,9 +80,13 @@ void FrameClockStart() {
 }
 
 std::uint32_t FrameClockWait(std::uint32_t ms) {
-    while (TickNow() - driver.frameStartTick < ms) {
+    for (;;) {
+        const std::uint32_t passed = TickNow() - driver.frameStartTick;
+        if (passed >= ms) {
+            return TickNow();
+        }
+        NapBeforeFrame(ms - passed);
     }
-    return TickNow();
 }
 
 int RenderFrame() {

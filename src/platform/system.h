@@ -38,6 +38,9 @@ void EnableScreenSaver(bool enable);
 
 // --- clock and process
 std::uint32_t TickCount(); // ms, wraps at 2^32
+// Called between two reads of the clock while a frame has msLeft to go, above 0. A back end may
+// sleep for a part of that; one that shall spin does nothing.
+void NapBeforeFrame(std::uint32_t msLeft);
 // The four control calls of start-up, in their order, where the system has them; then
 // SetFloatMode(FloatMode::Chop).
 void SetRenderFloatMode();

@@ -3,6 +3,7 @@ starts from the folder it was unpacked into."""
 import argparse
 import calendar
 import pathlib
+import re
 import shutil
 import struct
 import subprocess
@@ -26,12 +27,13 @@ FIRST_OF_MAY = calendar.timegm(NOON)
 I386, AMD64 = 0x14c, 0x8664
 
 
-def names(program, licence):
+def names(program, *licences):
     """The files that an archive must hold, in order."""
     data = [line.split(" | ")[0] for line in (ROOT / "art/MANIFEST").read_text().splitlines()
             if line and not line.startswith("#")]
     return sorted([program, "readme.txt", "file_id.diz", "licences/ombrel.txt",
-                   "licences/fonts.txt", f"licences/{licence}", *(f"data/{name}" for name in data)])
+                   "licences/fonts.txt", *(f"licences/{name}" for name in licences),
+                   *(f"data/{name}" for name in data)])
 
 
 def unpack(folder, work):
@@ -59,7 +61,7 @@ def tar_contents(folder):
     with tarfile.open(folder / TAR) as file:
         entries = file.getmembers()
     got = [entry.name for entry in entries]
-    expect(got == ["ombrel/" + name for name in names("larkfen", "sdl.txt")], f"{TAR} holds {got}")
+    expect(got == ["ombrel/" + name for name in names("larkfen", "lame.txt", "sdl.txt")], f"{TAR} holds {got}")
     for entry in entries:
         mode = 0o755 if entry.name == "ombrel/larkfen" else 0o644
         expect((entry.mtime, entry.mode, entry.uid, entry.gid, entry.uname, entry.gname) ==
@@ -110,16 +112,21 @@ def windows_programs(work):
 
 
 def linux_program(work):
-    """the Linux program: no symbols, no path of the checkout, the libraries its readme names"""
+    """the Linux program: no symbols, no path of the checkout, no library but the C library, and of
+    that nothing newer than the readme tells"""
     program = work / TAR / "ombrel/larkfen"
     told = subprocess.run(["readelf", "-W", "-S", "-d", str(program)], check=True,
                           stdout=subprocess.PIPE).stdout.decode()
     expect(".symtab" not in told and ".debug" not in told, "it holds symbols")
     expect("RPATH" not in told and "RUNPATH" not in told, "it looks for libraries elsewhere")
     needed = {line.split("[")[1].split("]")[0] for line in told.splitlines() if "(NEEDED)" in line}
-    allowed = {"libSDL2-2.0.so.0", "libSDL2_mixer-2.0.so.0", "libstdc++.so.6", "libm.so.6",
-               "libgcc_s.so.1", "libc.so.6", "ld-linux-x86-64.so.2"}
-    expect(needed <= allowed and "libSDL2-2.0.so.0" in needed, str(sorted(needed)))
+    allowed = {"libm.so.6", "libc.so.6", "ld-linux-x86-64.so.2"}
+    expect(needed <= allowed and "libc.so.6" in needed, str(sorted(needed)))
+    versions = subprocess.run(["readelf", "-W", "-V", str(program)], check=True,
+                              stdout=subprocess.PIPE).stdout.decode()
+    newest = max((int(part) for part in re.findall(r"GLIBC_2\.(\d+)", versions)), default=0)
+    told = (work / TAR / "ombrel/readme.txt").read_text("ascii")
+    expect(17 < newest <= 35 and "glibc 2.35" in told, f"it asks for glibc 2.{newest}")
     expect(str(ROOT).encode() not in program.read_bytes(), "it holds the path of the checkout")
 
 

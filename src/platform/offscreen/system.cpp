@@ -161,6 +161,10 @@ std::uint32_t TickCount() {
     return now;
 }
 
+void NapBeforeFrame(std::uint32_t msLeft) {
+    (void)msLeft; // the reads of the clock move it
+}
+
 void SetRenderFloatMode() {
     LogSeamCall("SetRenderFloatMode");
     SetFloatMode(FloatMode::Chop);

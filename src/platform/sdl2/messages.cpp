@@ -1,6 +1,6 @@
 // Messages of the SDL2 back end: the close button, Alt-F4 and a request to end become the destroy
-// message; everything else is taken off the queue and forgotten, so that nothing waits behind a
-// moving mouse.
+// message, Alt-Enter changes between full screen and window; everything else is taken off the queue
+// and forgotten, so that nothing waits behind a moving mouse.
 #include "platform/sdl2/sdl2_state.h"
 #include "platform/system.h"
 
@@ -8,21 +8,29 @@ namespace ombrel {
 
 namespace {
 
+void OnKeyDown(const SDL_KeyboardEvent& key) {
+    const bool alt = (key.keysym.mod & KMOD_ALT) != 0;
+    if (alt && key.keysym.sym == SDLK_F4) {
+        PostWindowDestroy();
+    }
+    if (alt && key.keysym.sym == SDLK_RETURN && key.repeat == 0) {
+        ToggleFullScreen();
+    }
+    if (key.keysym.sym == SDLK_ESCAPE) {
+        sdl2.escapePressed = 1;
+    }
+}
+
 // Takes everything that waits and keeps what matters.
 void TakeEvents() {
     SDL_Event event;
-    while (SDL_PollEvent(&event) != 0) {
+    while (sdl.PollEvent(&event) != 0) {
         switch (event.type) {
         case SDL_QUIT: // also sent when the last window is asked to close
             PostWindowDestroy();
             break;
         case SDL_KEYDOWN:
-            if (event.key.keysym.sym == SDLK_F4 && (event.key.keysym.mod & KMOD_ALT) != 0) {
-                PostWindowDestroy();
-            }
-            if (event.key.keysym.sym == SDLK_ESCAPE) {
-                sdl2.escapePressed = 1;
-            }
+            OnKeyDown(event.key);
             break;
         default:
             break;
@@ -61,12 +69,13 @@ void PostWindowDestroy() {
 }
 
 bool EscapeKeyDown() {
-    // A press shorter than a frame counts too; a key held without the focus is asked for.
+    // A press shorter than a frame counts too, whether an event tells of it or the window system's
+    // own record; a key that is held is asked for.
+    TakeEvents();
     const bool pressed = sdl2.escapePressed != 0;
     sdl2.escapePressed = 0;
-    SDL_PumpEvents();
-    return pressed || SDL_GetKeyboardState(nullptr)[SDL_SCANCODE_ESCAPE] != 0 ||
-           EscapeDownAnywhere();
+    return EscapePressedAnywhere() || pressed ||
+           sdl.GetKeyboardState(nullptr)[SDL_SCANCODE_ESCAPE] != 0 || EscapeDownAnywhere();
 }
 
 } // namespace ombrel

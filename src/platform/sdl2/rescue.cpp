@@ -21,6 +21,7 @@ struct CrashHandler {
     struct sigaction before;
 };
 constinit CrashHandler handlers[sizeof kCrashes / sizeof kCrashes[0]]{};
+constinit bool installed = false;
 constinit volatile sig_atomic_t endRequested = 0;
 constinit volatile sig_atomic_t crashedWith = 0;
 alignas(16) constinit unsigned char rescueStack[kStackSize]{};
@@ -47,9 +48,9 @@ void OnCrash(int signal) {
     sigaction(SIGALRM, &late, nullptr);
     const itimerval limit{{0, 0}, {0, kMicrosecondsToRescue}};
     setitimer(ITIMER_REAL, &limit, nullptr);
-    SDL_ShowCursor(SDL_ENABLE);
-    SDL_EnableScreenSaver();
-    SDL_VideoQuit(); // full screen and grabs end with the window
+    sdl.ShowCursor(SDL_ENABLE);
+    sdl.EnableScreenSaver();
+    sdl.VideoQuit(); // full screen and grabs end with the window
     const itimerval none{};
     setitimer(ITIMER_REAL, &none, nullptr);
     raise(signal); // waits until this handler returns, then does what it would have done
@@ -66,6 +67,10 @@ void OnRequest(int signal) {
 } // namespace
 
 void InstallRescue() {
+    if (installed) {
+        return;
+    }
+    installed = true;
     // A stack of its own, for the crash that ran out of one.
     stack_t stack{};
     stack.ss_sp = rescueStack;

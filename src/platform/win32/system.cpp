@@ -45,6 +45,10 @@ std::uint32_t TickCount() {
     return win32Calls.getTickCount();
 }
 
+void NapBeforeFrame(std::uint32_t msLeft) {
+    (void)msLeft; // the wait spins here
+}
+
 void SetRenderFloatMode() {
     const _invalid_parameter_handler before =
         _set_invalid_parameter_handler(IgnoreInvalidParameter);

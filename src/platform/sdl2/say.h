@@ -1,0 +1,14 @@
+// The word to whoever started the program from a terminal. Callers: the SDL2 back end and its
+// entry.
+#pragma once
+
+namespace ombrel {
+
+// One line on standard error, after the program's name. format as that of printf, without a line
+// end.
+void Say(const char* format, ...) __attribute__((format(printf, 1, 2)));
+
+// That a file is missing or unreadable; path as the code or a data file writes it.
+void SayMissing(const char* path);
+
+} // namespace ombrel

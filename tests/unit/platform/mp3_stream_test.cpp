@@ -1,0 +1,92 @@
+// The MP3 file as a stream of samples: its length, its ends, and files that are none.
+#include "platform/sdl2/mp3_stream.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace ombrel {
+namespace {
+
+constexpr char kSoundtrack[] = OMBREL_SOURCE_DIR "/data/sfx/soundtrack.mp3";
+
+std::string Content(const char* path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+class Mp3StreamTest : public testing::Test {
+protected:
+    ~Mp3StreamTest() override {
+        CloseMp3(&stream_);
+        std::filesystem::remove(path_);
+    }
+
+    bool Opens(const std::string& content) {
+        std::ofstream(path_, std::ios::binary) << content;
+        return OpenMp3(&stream_, path_.c_str());
+    }
+
+    // All samples that are left, channels interleaved.
+    std::vector<short> Rest() {
+        std::vector<short> all;
+        short samples[kMp3FrameSamples * 2];
+        while (const std::int32_t count = ReadMp3(&stream_, samples)) {
+            all.insert(all.end(), samples, samples + count * stream_.channels);
+        }
+        return all;
+    }
+
+    Mp3Stream stream_{};
+    std::string path_ = OMBREL_BINARY_DIR "/mp3_stream_test.mp3";
+};
+
+TEST_F(Mp3StreamTest, TheSoundtrackHasItsLengthWithoutWhatTheEncoderAdded) {
+    ASSERT_TRUE(OpenMp3(&stream_, kSoundtrack));
+    EXPECT_EQ(stream_.rate, 44100);
+    EXPECT_EQ(stream_.channels, 2);
+    const std::vector<short> samples = Rest();
+    // The length that the file itself states: 7447 frames of 1152, less 576 in front, 918 behind.
+    EXPECT_EQ(samples.size() / 2, std::size_t{7447} * 1152 - 576 - 918);
+    const auto [low, high] = std::minmax_element(samples.begin(), samples.end());
+    EXPECT_LT(*low, -8000);
+    EXPECT_GT(*high, 8000);
+    short more[kMp3FrameSamples * 2];
+    EXPECT_EQ(ReadMp3(&stream_, more), 0);
+}
+
+TEST_F(Mp3StreamTest, WhatStandsBeforeAndBehindTheMusicIsPassedOver) {
+    const std::string whole = Content(kSoundtrack).substr(0, 200000);
+    ASSERT_TRUE(Opens(whole));
+    const std::vector<short> plain = Rest();
+    CloseMp3(&stream_);
+    EXPECT_GT(plain.size(), std::size_t{44100} * 8);
+    // 0xFF 0xFB looks like the beginning of a frame.
+    ASSERT_TRUE(Opens("no music\xFF\xFB\x90\x64 yet" + whole + "nor here"));
+    EXPECT_EQ(Rest(), plain);
+}
+
+TEST_F(Mp3StreamTest, AShortenedFilePlaysToItsEnd) {
+    const std::string whole = Content(kSoundtrack);
+    ASSERT_TRUE(Opens(whole.substr(0, 50000)));
+    EXPECT_GT(Rest().size(), std::size_t{44100} * 2 * 3 / 2);
+}
+
+TEST_F(Mp3StreamTest, WhatIsNoMusicDoesNotOpen) {
+    EXPECT_FALSE(Opens(""));
+    EXPECT_FALSE(Opens("no music at all"));
+    EXPECT_FALSE(Opens(std::string(100000, '\0')));
+    EXPECT_FALSE(Opens(std::string(100000, '\xFF')));
+    EXPECT_FALSE(OpenMp3(&stream_, OMBREL_SOURCE_DIR));
+    EXPECT_FALSE(OpenMp3(&stream_, "/dev/zero"));
+    EXPECT_FALSE(OpenMp3(&stream_, OMBREL_BINARY_DIR "/there is no such file"));
+    EXPECT_EQ(stream_.file, nullptr);
+}
+
+} // namespace
+} // namespace ombrel
