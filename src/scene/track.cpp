@@ -1,5 +1,6 @@
 // Camera tracks: reading the keys, and the spline that moves the camera along them frame by frame.
 // A segment runs from key s + 1 to key s + 2; key s only shapes its tangents.
+#include <algorithm>
 #include <cstdio>
 #include <string>
 
@@ -52,14 +53,19 @@ const char* SkipBlanks(const char* p) {
     return p;
 }
 
-// Behind what a scanner takes in before it finds that no number is there: blanks, a sign, a point.
+// Whether an exponent without digits follows a number that has none: then it is no number at all.
+bool IsCutShort(const char* number, const char* end) {
+    return IsExponent(*end) && std::none_of(number, end, IsExponent);
+}
+
+// After what a scanner takes in before it finds that no number is there: blanks, a sign, a point.
 const char* SkipFalseStart(const char* p) {
     p = SkipBlanks(p);
     p += *p == '+' || *p == '-' ? 1 : 0;
     return *p == '.' ? p + 1 : p;
 }
 
-// Behind an exponent that lacks its digits; with it, what stands before is no number either.
+// After an exponent that lacks its digits.
 const char* SkipExponent(const char* p) {
     ++p;
     return *p == '+' || *p == '-' ? p + 1 : p;
@@ -110,7 +116,7 @@ std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]) {
             ++pattern;
             const char* end = p;
             const float value = ParseFloat(p, &end);
-            if (end == p || IsExponent(*end)) {
+            if (end == p || IsCutShort(p, end)) {
                 p = end == p ? SkipFalseStart(p) : SkipExponent(end);
                 break;
             }

@@ -148,6 +148,12 @@ TEST_F(Track, R39_SignPointOrExponentWithoutDigitsIsTakenInAndMakesAKey) {
     EXPECT_EQ(Load(std::string(100000, '-')), 64); // as many as there is room for
 }
 
+TEST_F(Track, AWholeExponentWithAnotherEAfterItIsANumber) {
+    EXPECT_EQ(Load("1, 2e0e;"), 1);
+    EXPECT_EQ(keys_[0].keyBias, 1.0F);
+    EXPECT_EQ(keys_[0].keyContinuity, 2.0F);
+}
+
 TEST_F(Track, NoMoreKeysThanTheCallerHasRoomFor) {
     std::string text;
     for (int i = 0; i < 10; ++i) {
