@@ -82,13 +82,13 @@ void MakeScene() {
 enum Stage { Added, Culled, Lit, Seen, Clipped, Projected };
 void RunUpTo(Stage stage) {
     FaceListClear(&list);
-    MeshTranslate(&scene.mesh, 2, 0);
+    MeshTranslate(&scene.mesh, TransformMode::IntoTransformed, 0);
     MeshAddFaces(&list, &scene.mesh, 0);
     if (stage >= Culled) {
         CullBackFaces(&list, &scene.camera);
     }
     if (stage >= Lit) {
-        LightFaces(&list, &scene.camera, scene.lights, kFaceLights);
+        LightFaces(&list, &scene.camera, {scene.lights, kFaceLights}, PackRgb565);
     }
     if (stage >= Seen) {
         TransformPolygonsToCamera(&list, &scene.camera);
@@ -120,7 +120,9 @@ template <class Step> void RunStep(benchmark::State& state, Stage stage, Step st
 }
 
 void Transform(benchmark::State& state) {
-    RunStep(state, Added, [] { MeshTransform(&scene.mesh, &scene.camera.view, {2, 0, 0}); });
+    RunStep(state, Added, [] {
+        MeshTransform(&scene.mesh, &scene.camera.view, {TransformMode::IntoTransformed, 0, 0});
+    });
 }
 void AddFaces(benchmark::State& state) {
     RunStep(state, Added, [] {
@@ -132,7 +134,9 @@ void Cull(benchmark::State& state) {
     RunStep(state, Added, [] { CullBackFaces(&list, &scene.camera); });
 }
 void Lighting(benchmark::State& state) {
-    RunStep(state, Culled, [] { LightFaces(&list, &scene.camera, scene.lights, kFaceLights); });
+    RunStep(state, Culled, [] {
+        LightFaces(&list, &scene.camera, {scene.lights, kFaceLights}, PackRgb565);
+    });
 }
 void ToCamera(benchmark::State& state) {
     RunStep(state, Lit, [] { TransformPolygonsToCamera(&list, &scene.camera); });

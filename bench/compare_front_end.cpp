@@ -152,7 +152,7 @@ CompareRow FrontEndRow(const char* name, bool shared) {
                 const double start = ProcessorSeconds();
                 FrontEnd front;
                 StartFaces(&front, &made->list,
-                           {&made->camera, made->lights, kFaceLights, true, true, -1});
+                           {&made->camera, made->lights, kFaceLights, true, true, -1, PackRgb565});
                 for (FaceWorld::Part& part : made->parts) {
                     ResetAndAddMesh(&front, &part.mesh);
                 }

@@ -19,12 +19,19 @@ constexpr std::int32_t BlueOf(Pixel16 p) {
     return p & 31;
 }
 
-// Channels 0..255; bits above the eighth are cut. The low bits of each channel are dropped.
-constexpr std::uint32_t PackRgb565(std::uint32_t r, std::uint32_t g, std::uint32_t b) {
+// Channels 0..255; bits above the eighth are cut. The low bits of each channel are dropped. N is an
+// integer or a vector of them.
+template <class N> static constexpr N Pack565(N r, N g, N b) {
     return (((r >> 3) & 31) << 11) + (((g >> 2) & 63) << 5) + ((b >> 3) & 31);
 }
-constexpr std::uint32_t PackRgb555(std::uint32_t r, std::uint32_t g, std::uint32_t b) {
+template <class N> static constexpr N Pack555(N r, N g, N b) {
     return (((r >> 3) & 31) << 10) + (((g >> 3) & 31) << 5) + ((b >> 3) & 31);
+}
+constexpr std::uint32_t PackRgb565(std::uint32_t r, std::uint32_t g, std::uint32_t b) {
+    return Pack565(r, g, b);
+}
+constexpr std::uint32_t PackRgb555(std::uint32_t r, std::uint32_t g, std::uint32_t b) {
+    return Pack555(r, g, b);
 }
 
 using ColorPacker = std::uint32_t (*)(std::uint32_t r, std::uint32_t g, std::uint32_t b);

@@ -12,12 +12,12 @@ Pixel16 ViewColor(const RenderFace& face) {
 }
 
 // One pixel of the block: dx and dy from the corner's own.
-void DrawDot(const Vertex& corner, std::int32_t dx, std::int32_t dy, Pixel16 color,
+void DrawDot(const FaceCorner& corner, std::int32_t dx, std::int32_t dy, Pixel16 color,
              const Canvas& canvas) {
     PlotPixel(ToIntChop(corner.x) + dx, ToIntChop(corner.y) + dy, color, canvas);
 }
 
-void DrawEdge(const Vertex& from, const Vertex& to, Pixel16 color, const Canvas& canvas) {
+void DrawEdge(const FaceCorner& from, const FaceCorner& to, Pixel16 color, const Canvas& canvas) {
     const Line2d line{ToIntChop(from.x), ToIntChop(from.y), ToIntChop(to.x), ToIntChop(to.y)};
     DrawClippedLine(line, color, canvas);
 }

@@ -14,22 +14,19 @@ namespace ombrel {
 
 namespace {
 
-constexpr std::uint32_t kTestAllSides = 7;
 constexpr float kSkyStep = -0.02F; // degrees a frame
 constexpr float kPartStep = 0.2F;
 
 constexpr std::int32_t kOwnLevels = -1;
 constexpr std::int32_t kLodDistance = 1000;
 
-constexpr MeshTransformOptions kInPlace{0, 0, 0};
-constexpr MeshTransformOptions kIntoTransformed{2, 0, 0};
 constexpr std::int32_t kSorted = 0; // by average depth
 constexpr std::int32_t kUnsorted = -1;
 
 void TurnInPlace(Mesh* object, float degrees) {
     Matrix4 rotation;
     Matrix4RotationXYZ(0.0F, degrees, 0.0F, &rotation);
-    MeshTransform(object, &rotation, kInPlace);
+    MeshTransform(object, &rotation, {TransformMode::InPlace, 0, 0});
 }
 
 float TilePlace(std::int32_t index) {
@@ -74,16 +71,9 @@ std::array<Mesh*, 6> TurningObjects(World* scene) {
             any ? &scene->objects[turning - 1] : nullptr};
 }
 
-void AddObject(FrontEnd* front, Mesh* object) {
-    if (front->kernels == nullptr) {
-        MeshTransform(object, &IdentityMatrix4, kIntoTransformed);
-    }
-    AddMesh(front, object);
-}
-
 void AddObjectInSight(FrontEnd* front, Mesh* object, const Camera& camera) {
     if (ObjectCullSphere(object, &camera, kTestAllSides) == 0) {
-        AddObject(front, object);
+        AddMesh(front, object);
     }
 }
 
@@ -128,6 +118,7 @@ FaceSettings FaceSettingsOf(World* scene, const SceneSwitches& set) {
     settings.cullBack = set.backFace == 1;
     settings.lit = set.lighting == 1;
     settings.sortMode = set.sort == 1 ? kSorted : kUnsorted;
+    settings.pack = displayFormat.pack;
     return settings;
 }
 

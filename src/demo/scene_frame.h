@@ -18,9 +18,7 @@ void TurnObject(Mesh* object);
 // The objects whose stored vertices change from frame to frame: those that TurnObject turns, and
 // the two of the scene list. Null where the list has none.
 std::array<Mesh*, 6> TurningObjects(World* scene);
-// Puts an object into the world at its position and adds its faces.
-void AddObject(FrontEnd* front, Mesh* object);
-// The same, if its bounding sphere is in sight.
+// Adds the faces of an object, if its bounding sphere is in sight.
 void AddObjectInSight(FrontEnd* front, Mesh* object, const Camera& camera);
 // The field: gridSize x gridSize places 1000 apart around the origin, without the four corners, the
 // same object at each that is in sight. An odd size counts as the even one below it.

@@ -105,9 +105,9 @@ void GatherSceneOne(FrontEnd* front) {
     AddListObjects(front, &world);
     if (!sceneOne.insideBox) {
         TurnObject(&world.stay);
-        AddObject(front, &world.stay);
+        AddMesh(front, &world.stay);
         TurnObject(&world.skyAlpha0);
-        AddObject(front, &world.skyAlpha0);
+        AddMesh(front, &world.skyAlpha0);
     }
 }
 

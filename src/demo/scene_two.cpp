@@ -280,7 +280,7 @@ void GatherSceneTwo(FrontEnd* front) {
     AddListObjects(front, &world);
     for (Mesh* const object : {&world.stay, &world.skyAlphaS2}) {
         TurnObject(object);
-        AddObject(front, object);
+        AddMesh(front, object);
     }
 }
 

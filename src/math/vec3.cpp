@@ -2,9 +2,7 @@
 // processor's.
 #include "math/vec3.h"
 
-#include <algorithm>
-
-#include "base/convert.h"
+#include "base/single.h"
 
 namespace ombrel {
 
@@ -13,32 +11,14 @@ namespace {
 // Shorter vectors have no direction.
 constexpr float kShortest = 0.00001F;
 
-// |value| in 1/1024.
-std::int32_t SizeIn1024ths(float value) {
-    return ToIntChop((value < 0.0F ? -value : value) * 1024.0F);
-}
-
 } // namespace
 
 float Vec3Length(const Vec3* v) {
-    return __builtin_sqrtf(Vec3Dot(v, v));
+    return SquareRoot(Vec3Dot(v, v));
 }
 
 float Vec3FastLength(const Vec3* v) {
-    const std::int32_t a = SizeIn1024ths(v->x);
-    const std::int32_t b = SizeIn1024ths(v->y);
-    const std::int32_t c = SizeIn1024ths(v->z);
-
-    // Sort the three sizes, without a branch.
-    const std::int32_t large = std::max(std::max(a, b), c);
-    const std::int32_t middle = std::max(std::min(a, b), std::min(std::max(a, b), c));
-    const std::int32_t small = std::min(std::min(a, b), c);
-
-    // Weigh them; the sum wraps at 32 bits.
-    const std::uint32_t sum = static_cast<std::uint32_t>(large) +
-                              static_cast<std::uint32_t>((middle >> 5) * 11) +
-                              static_cast<std::uint32_t>(small >> 2);
-    return static_cast<float>(static_cast<std::int32_t>(sum) >> 10);
+    return FastLength<PlainFloats>(*v);
 }
 
 void Vec3Normalize(Vec3* v) {

@@ -7,6 +7,8 @@
 
 #include <cstdint>
 
+#include "math/xyz.h"
+
 namespace ombrel {
 
 // w is carried along; the three-component operations never read it and set it to 1 where they write
@@ -51,25 +53,26 @@ double TanRad(double radians);
 
 // b - a: the vector from a to b. The first argument is the one subtracted.
 inline void Vec3Sub(const Vec3* a, const Vec3* b, Vec3* out) {
-    *out = {b->x - a->x, b->y - a->y, b->z - a->z, 1.0F};
+    const auto v = Difference(*a, *b);
+    *out = {v.x, v.y, v.z, 1.0F};
 }
 
 inline void Vec3Add(const Vec3* a, const Vec3* b, Vec3* out) {
-    *out = {a->x + b->x, a->y + b->y, a->z + b->z, 1.0F};
+    const auto v = Sum(*a, *b);
+    *out = {v.x, v.y, v.z, 1.0F};
 }
 
 inline float Vec3Dot(const Vec3* a, const Vec3* b) {
-    return a->x * b->x + a->y * b->y + a->z * b->z;
+    return Dot(*a, *b);
 }
 
 inline void Vec3Cross(const Vec3* a, const Vec3* b, Vec3* out) {
-    *out = {a->y * b->z - a->z * b->y, a->z * b->x - a->x * b->z, a->x * b->y - a->y * b->x, 1.0F};
+    const auto v = Cross(*a, *b);
+    *out = {v.x, v.y, v.z, 1.0F};
 }
 
 float Vec3Length(const Vec3* v);
-// max + 11/32 mid + 1/4 min of the sizes, in 1/1024, cut to a whole number. The sum must stay below
-// 2,097,152; beyond, it wraps in 32 bits.
-float Vec3FastLength(const Vec3* v);
+float Vec3FastLength(const Vec3* v);               // as FastLength of xyz.h
 void Vec3Normalize(Vec3* v);                       // shorter than 1e-5: untouched
 void Vec3NormalizeTo(const Vec3* v, float out[3]); // shorter than 1e-5: zero
 

@@ -124,7 +124,7 @@ void CopyFace(const RenderFace& face, Class light, ScreenPolygon* polygon) {
     std::copy_n(face.litColors, light == Unlit ? 0 : light == FlatLit ? 1 : 3, polygon->litColors);
     for (int i = 0; i < 3; ++i) {
         Vertex& to = polygon->vertices[i];
-        const Vertex& from = face.work[i];
+        const FaceCorner& from = face.work[i];
         to.x = from.x;
         to.y = from.y;
         to.z = from.z;
@@ -169,8 +169,6 @@ void DrawFace(const DrawJob& job, Kind kind, const RenderFace& face, ScreenPolyg
 constexpr std::int32_t kFacesAhead = 3;
 void Fetch(const RenderFace* face) {
     __builtin_prefetch(&face->state);
-    __builtin_prefetch(&face->work[0]);
-    __builtin_prefetch(&face->work[1]);
     __builtin_prefetch(&face->work[2].v);
 }
 

@@ -9,9 +9,8 @@
 namespace ombrel {
 
 // The live camera; a track key is a whole camera record too, some of whose slots then hold the
-// spline's values (see TrackKey... below). Field order is fixed.
+// spline's values (see TrackKey... below).
 struct Camera {
-    std::uint32_t reserved0;
     union {
         std::int32_t mode; // 8 in the live camera
         float tension;     // in a track key

@@ -1,11 +1,11 @@
-// Filling the face list: one record a face, in order of addition, each linked to its neighbours.
+// Filling the face list: one record a face, in order of addition.
 #include "scene/face_list.h"
 
 namespace ombrel {
 
 namespace {
 
-// The next free record, linked behind the last one and counted; null when the list is full.
+// The next free record, counted; null when the list is full.
 RenderFace* TakeRecord(FaceList* list) {
     if (list->count >= kMaxRenderFaces) {
         return nullptr;
@@ -14,14 +14,6 @@ RenderFace* TakeRecord(FaceList* list) {
     list->pointers[list->count] = record;
     ++list->count;
     return record;
-}
-
-void Link(FaceList* list, RenderFace* record) {
-    record->next = nullptr;
-    record->previous = record == list->records ? nullptr : record - 1;
-    if (record->previous != nullptr) {
-        record->previous->next = record;
-    }
 }
 
 } // namespace
@@ -47,26 +39,23 @@ int FaceListAdd(FaceList* list, const Face* face) {
     const std::int32_t corners[3] = {face->v0, face->v1, face->v2};
     const std::int32_t texels[3] = {face->t0, face->t1, face->t2};
     const bool textured = (face->flags & FACE_TEXTURED) != 0;
+    CornerNormals& normals = list->NormalsOf(record);
     for (int i = 0; i < 3; ++i) {
         record->litColors[i] = face->litColors[i];
-        record->source[i] = face->vertexArray[corners[i]];
-        if (textured) {
-            record->source[i].u = face->texCoordArray[texels[i]].u;
-            record->source[i].v = face->texCoordArray[texels[i]].v;
-        }
-        record->work[i] = record->source[i];
+        const Vertex& v = face->vertexArray[corners[i]];
+        const TexCoord texel = textured ? face->texCoordArray[texels[i]] : TexCoord{v.u, v.v};
+        record->work[i] = {v.x, v.y, v.z, texel.u, texel.v};
+        normals.corners[i] = {v.nx, v.ny, v.nz};
     }
-    Link(list, record);
     return 1;
 }
 
 RenderFace* FaceListAddCopy(FaceList* list, const RenderFace* face) {
     RenderFace* record = TakeRecord(list);
-    if (record == nullptr) {
-        return nullptr;
+    if (record != nullptr) {
+        *record = *face;
+        list->NormalsOf(record) = list->NormalsOf(face);
     }
-    *record = *face;
-    Link(list, record);
     return record;
 }
 

@@ -1,4 +1,4 @@
-// The light table: clearing, setting and moving lights. What they do to faces is in lighting.cpp.
+// The light table: clearing, setting and moving lights. What they do to faces is in geometry.h.
 #include "scene/light.h"
 
 namespace ombrel {
@@ -16,15 +16,15 @@ void SetLight(Light* light, const Light& values) {
     light->direction = light->sourceDirection;
 }
 
-void LightsTransform(Light* lights, std::int32_t count, const Matrix4* matrix, std::int32_t mode) {
-    if (mode == 3) {
+void LightsTransform(Light* lights, std::int32_t count, const Matrix4* matrix, LightMove move) {
+    if (move == LightMove::Copy) {
         for (std::int32_t i = 0; i < count; ++i) {
             lights[i].position = lights[i].sourcePosition;
             lights[i].direction = lights[i].sourceDirection;
         }
         return;
     }
-    if (mode < 0 || mode > 3) {
+    if (move < LightMove::SourceInPlace || move > LightMove::Copy) {
         return;
     }
 
@@ -32,9 +32,8 @@ void LightsTransform(Light* lights, std::int32_t count, const Matrix4* matrix, s
     Matrix4 turn = *matrix;
     turn.m[3][0] = turn.m[3][1] = turn.m[3][2] = 0.0F;
 
-    // From which fields into which: 0 source in place, 1 working in place, 2 source into working.
-    const bool fromSource = mode != 1;
-    const bool toSource = mode == 0;
+    const bool fromSource = move != LightMove::WorkingInPlace;
+    const bool toSource = move == LightMove::SourceInPlace;
     for (std::int32_t i = 0; i < count; ++i) {
         Light& light = lights[i];
         const Vec3 position = fromSource ? light.sourcePosition : light.position;

@@ -42,13 +42,13 @@ void TransformVertices(const Vertex* from, Vertex* to, std::int32_t count, const
 void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions& options) {
     const VertexArrays arrays = ChooseArrays(*mesh, options.useCurrent);
     switch (options.mode) {
-    case 0:
+    case TransformMode::InPlace:
         TransformVertices(arrays.original, arrays.original, arrays.count, matrix);
         break;
-    case 1:
+    case TransformMode::TransformedInPlace:
         TransformVertices(arrays.transformed, arrays.transformed, arrays.count, matrix);
         break;
-    case 2:
+    case TransformMode::IntoTransformed:
         TransformVertices(arrays.original, arrays.transformed, arrays.count, matrix);
         break;
     default:
@@ -66,13 +66,13 @@ void MeshRotate(Mesh* mesh, float ax, float ay, float az, std::int32_t useCurren
     // REQUIRED R38: off the whole degrees each turn shrinks the object a little.
     Matrix4 rotation;
     Matrix4RotationXYZ(ax, ay, az, &rotation);
-    MeshTransform(mesh, &rotation, {.mode = 0, .withAxes = 1, .useCurrent = useCurrent});
+    MeshTransform(mesh, &rotation, {TransformMode::InPlace, 1, useCurrent});
 }
 
-void MeshTranslate(Mesh* mesh, std::int32_t mode, std::int32_t useCurrent) {
+void MeshTranslate(Mesh* mesh, TransformMode mode, std::int32_t useCurrent) {
     const VertexArrays arrays = ChooseArrays(*mesh, useCurrent);
     const Vec3& shift = mesh->position;
-    if (mode != 2) {
+    if (mode != TransformMode::IntoTransformed) {
         for (std::int32_t i = 0; i < arrays.count; ++i) {
             Vertex& v = arrays.transformed[i];
             v.x += shift.x;

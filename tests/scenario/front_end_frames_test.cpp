@@ -40,7 +40,7 @@ std::uint64_t AddFace(std::uint64_t hash, const RenderFace& face) {
     hash = Add(hash, face.color);
     hash = Add(hash, face.litColors);
     hash = Add(hash, face.size);
-    for (const Vertex& v : face.work) {
+    for (const FaceCorner& v : face.work) {
         hash = Add(hash, v.x);
         hash = Add(hash, v.y);
         hash = Add(hash, v.z);

@@ -125,7 +125,7 @@ std::int64_t FacesWithTexelsOutside() {
         const Texture& texture = *face.texture.single;
         const float right = static_cast<float>(texture.width - 1) + kTexelSlack;
         const float bottom = static_cast<float>(texture.height - 1) + kTexelSlack;
-        const bool inside = std::all_of(face.work, face.work + 3, [&](const Vertex& v) {
+        const bool inside = std::all_of(face.work, face.work + 3, [&](const FaceCorner& v) {
             return v.u >= -kTexelSlack && v.u <= right && v.v >= -kTexelSlack && v.v <= bottom;
         });
         count += inside ? 0 : 1;

@@ -110,11 +110,8 @@ float FastLength(const Triple& v) {
     return static_cast<float>(ShiftRight(Wrap32(sum), 10));
 }
 
-Triple PositionOf(const Vertex& v) {
+Triple PositionOf(const FaceCorner& v) {
     return {{v.x, v.y, v.z}};
-}
-Triple NormalOf(const Vertex& v) {
-    return {{v.nx, v.ny, v.nz}};
 }
 Triple ToTriple(const Vec3& v) {
     return {{v.x, v.y, v.z}};
@@ -201,16 +198,17 @@ unsigned LightChannel(Channel channel, std::uint32_t color, const Triple& p, con
 }
 
 std::uint32_t LitColor(const RenderFace& face, const Triple& p, const Triple& n, const float* size,
-                       const Light* lights, std::int32_t count) {
-    const unsigned r = LightChannel(RED, face.color, p, n, size, lights, count);
-    const unsigned g = LightChannel(GREEN, face.color, p, n, size, lights, count);
-    const unsigned b = LightChannel(BLUE, face.color, p, n, size, lights, count);
-    return displayFormat.pack(r, g, b) & 0xFFFFU;
+                       const LightTable& table, ColorPacker pack) {
+    const unsigned r = LightChannel(RED, face.color, p, n, size, table.lights, table.count);
+    const unsigned g = LightChannel(GREEN, face.color, p, n, size, table.lights, table.count);
+    const unsigned b = LightChannel(BLUE, face.color, p, n, size, table.lights, table.count);
+    return pack(r, g, b) & 0xFFFFU;
 }
 
 } // namespace
 
-void ReferenceLightFace(RenderFace* face, const Light* lights, std::int32_t count) {
+void ReferenceLightFace(RenderFace* face, const CornerNormals& normals, const LightTable& lights,
+                        ColorPacker pack) {
     const bool live = (face->state & 1) != 0;
     const bool rejected = (face->state & (2 | 4)) != 0;
     const bool done = (face->state & 8) != 0;
@@ -224,12 +222,12 @@ void ReferenceLightFace(RenderFace* face, const Light* lights, std::int32_t coun
         const Triple v0 = PositionOf(face->work[0]);
         const Triple a = Minus(PositionOf(face->work[1]), v0);
         const Triple b = Minus(PositionOf(face->work[2]), v0);
-        face->litColors[0] = LitColor(*face, v0, CrossProduct(a, b), &face->size, lights, count);
+        face->litColors[0] = LitColor(*face, v0, CrossProduct(a, b), &face->size, lights, pack);
     } else if (gouraud) {
         for (std::size_t i = 0; i < 3; ++i) {
-            const Vertex& v = face->work[i];
-            face->litColors[i] =
-                LitColor(*face, PositionOf(v), NormalOf(v), nullptr, lights, count);
+            const Xyz<float>& n = normals.corners[i];
+            face->litColors[i] = LitColor(*face, PositionOf(face->work[i]), {{n.x, n.y, n.z}},
+                                          nullptr, lights, pack);
         }
     } else {
         face->litColors[0] = face->color;

@@ -7,6 +7,7 @@
 namespace ombrel::test {
 
 // What LightFaces would do to this one face.
-void ReferenceLightFace(RenderFace* face, const Light* lights, std::int32_t count);
+void ReferenceLightFace(RenderFace* face, const CornerNormals& normals, const LightTable& lights,
+                        ColorPacker pack);
 
 } // namespace ombrel::test

@@ -208,7 +208,7 @@ void DrawMipLevels(Gallery* g) {
             face.texture.chain = g->mipChain;
             for (int i = 0; i < 3; ++i) {
                 const float* corner = kSquare[half == 0 ? i : (i + 2) % 4];
-                Vertex& vertex = face.work[i];
+                FaceCorner& vertex = face.work[i];
                 vertex.x = 28.0F + corner[0] * 96.0F;
                 vertex.y = corner[1] * 96.0F;
                 vertex.z = static_cast<float>(level) * 100.0F + 50.0F;
@@ -308,7 +308,7 @@ void RunPipeline(FaceList* list, const Light* lights, std::int32_t count) {
     CameraInit(&camera, setup);
     CameraBuildView(&camera, 4);
     CullBackFaces(list, &camera);
-    LightFaces(list, &camera, lights, count);
+    LightFaces(list, &camera, {lights, count}, PackRgb565);
     TransformPolygonsToCamera(list, &camera);
     ClipPolygons(list, &camera, 7);
     ProjectPolygons(list, &camera);

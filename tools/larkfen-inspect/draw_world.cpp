@@ -74,8 +74,8 @@ void AimCamera(Camera* camera, const View3d& view, std::int32_t size) {
 void RunPipeline(Stage* stage) {
     FaceList* const list = &sceneFaces;
     CullBackFaces(list, &stage->camera);
-    LightsTransform(stage->lights, 2, nullptr, 3);
-    LightFaces(list, &stage->camera, stage->lights, 2);
+    LightsTransform(stage->lights, 2, nullptr, LightMove::Copy);
+    LightFaces(list, &stage->camera, {stage->lights, 2}, displayFormat.pack);
     TransformPolygonsToCamera(list, &stage->camera);
     ClipPolygons(list, &stage->camera, 7);
     ProjectPolygons(list, &stage->camera);
@@ -137,7 +137,7 @@ void Normalize(Mesh* mesh, float radius, bool keepsCentre) {
 // Adds the faces of an object where it stands.
 void Gather(Mesh* mesh) {
     MeshResetFrame(mesh);
-    MeshTranslate(mesh, 2, 0);
+    MeshTranslate(mesh, TransformMode::IntoTransformed, 0);
     MeshAddFaces(&sceneFaces, mesh, 0);
 }
 

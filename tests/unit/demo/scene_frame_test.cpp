@@ -162,7 +162,7 @@ TEST_F(SceneFrame, ObjectWithoutSphereTestIsAddedBehindTheEyeToo) {
     AddObjectInSight(&front, &world.stay, world.camera);
     EXPECT_EQ(sceneFaces.count, 0);
     TurnObject(&world.stay); // takes the mark of the test away again
-    AddObject(&front, &world.stay);
+    AddMesh(&front, &world.stay);
     EXPECT_EQ(sceneFaces.count, 12);
     EXPECT_NEAR(sceneFaces.pointers[0]->work[0].y, -560.0F - 1100.0F, 1.0F);
 }

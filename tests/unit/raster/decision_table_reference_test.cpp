@@ -175,21 +175,10 @@ RenderFace* AddFace(Scenery* scenery, std::uint32_t flags, float z0) {
     face->color = (static_cast<std::uint32_t>(own) << 24) | 0x00ABCDEFU;
     for (std::uint32_t i = 0; i < 3; ++i) {
         face->litColors[i] = 0x1000 * (i + 1) + static_cast<std::uint32_t>(number);
-        Vertex& vertex = face->work[i];
+        FaceCorner& vertex = face->work[i];
         const auto shift = static_cast<float>(number * 3) + static_cast<float>(i);
-        vertex = {shift,
-                  shift + 0.25F,
-                  z0 + static_cast<float>(i * 7),
-                  1,
-                  2,
-                  3,
-                  4,
-                  5,
-                  shift * 2.0F,
-                  shift * 4.0F,
-                  6,
-                  7};
-        face->source[i] = {-1, -1, -1, -1, -1, -1, -1, -1, -1, -1, 9, 9};
+        vertex = {shift, shift + 0.25F, z0 + static_cast<float>(i * 7), shift * 2.0F,
+                  shift * 4.0F};
     }
     if ((flags & 0x400) != 0) {
         face->texture.chain = scenery->chain;
@@ -223,7 +212,7 @@ std::string WrongCopy(const Scenery& scenery, const RenderFace& face, const Reco
     const std::int32_t mip = textured ? ExpectedMip(job, face) : 0;
     const float scale = 1.0F / static_cast<float>(1 << mip);
     for (int i = 0; i < 3; ++i) {
-        const Vertex& from = face.work[i];
+        const FaceCorner& from = face.work[i];
         const Vertex& to = call.polygon.vertices[i];
         if (!SameBits(from.x, to.x) || !SameBits(from.y, to.y) || !SameBits(from.z, to.z)) {
             return "position";
@@ -467,7 +456,7 @@ TEST_F(DecisionTable, MipLevelFollowsTheDepthOfTheFirstVertex) {
         ASSERT_EQ(recordedCount, 1);
         const RecordedCall& call = recordedCalls[0];
         EXPECT_EQ(call.polygon.texture.single, scenery->chain[row.level]) << row.z0;
-        const Vertex& from = scenery->list->records[0].work[2];
+        const FaceCorner& from = scenery->list->records[0].work[2];
         EXPECT_EQ(call.polygon.vertices[2].u, from.u / static_cast<float>(1 << row.level));
         EXPECT_EQ(call.polygon.vertices[2].v, from.v / static_cast<float>(1 << row.level));
     }

@@ -395,7 +395,7 @@ protected:
             chain_[i] = &levels_[i];
         }
         Face().texture.chain = chain_;
-        for (Vertex& vertex : Face().work) {
+        for (FaceCorner& vertex : Face().work) {
             vertex.u = 240.0F;
             vertex.v = 16.0F;
         }

@@ -149,8 +149,8 @@ std::string WhatDiffers(const RenderFace& a, const RenderFace& b) {
     check(a.texture.single == b.texture.single, "texture");
     check(SameBits(a.size, b.size), "size");
     for (int i = 0; i < 3; ++i) {
-        const Vertex& v = a.work[i];
-        const Vertex& w = b.work[i];
+        const FaceCorner& v = a.work[i];
+        const FaceCorner& w = b.work[i];
         check(SameBits(v.x, w.x), "x");
         check(SameBits(v.y, w.y), "y");
         check(SameBits(v.z, w.z), "z");
@@ -207,11 +207,8 @@ protected:
         camera_ = test::MakeCamera(640.0F, 480.0F, 90.0F);
         CameraBuildView(&camera_, 4);
     }
-    void TearDown() override {
-        activeFrontEnd = nullptr;
-        ResetDisplayFormat();
-    }
-    FaceSettings Settings() { return {&camera_, lights_, kMaxLights, true, true, -1}; }
+    void TearDown() override { activeFrontEnd = nullptr; }
+    FaceSettings Settings() { return {&camera_, lights_, kMaxLights, true, true, -1, PackRgb565}; }
     Comparison Run(const std::vector<OwnMesh*>& meshes, const FaceSettings& settings,
                    bool reset = true) {
         return RunBoth(meshes, settings, FrontEndOf(GetParam()), reset);
@@ -237,7 +234,7 @@ TEST_P(FrontEndOfPath, RandomWorldsHaveTheBitsOfThePasses) {
         for (int round = 0; round < 60; ++round) {
             RandomCamera(&n);
             RandomLights(&n, lights_);
-            displayFormat.pack = n.Below(4) == 0 ? PackRgb555 : PackRgb565;
+            const ColorPacker pack = n.Below(4) == 0 ? PackRgb555 : PackRgb565;
             std::vector<std::unique_ptr<OwnMesh>> owners;
             std::vector<OwnMesh*> meshes;
             std::int32_t live = 0;
@@ -252,6 +249,7 @@ TEST_P(FrontEndOfPath, RandomWorldsHaveTheBitsOfThePasses) {
             // The same mesh twice in a frame, moved in between, as the ground tiles are.
             meshes.push_back(meshes[0]);
             FaceSettings settings = Settings();
+            settings.pack = pack;
             settings.lightCount = static_cast<std::int32_t>(n.Below(kMaxLights + 1));
             settings.cullBack = n.Below(5) != 0;
             settings.lit = n.Below(5) != 0;

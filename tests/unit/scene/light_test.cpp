@@ -40,12 +40,8 @@ protected:
     void SetUp() override {
         SetFloatMode(FloatMode::Chop);
         test::ResetList();
-        displayFormat.pack = RecordChannels;
     }
-    void TearDown() override {
-        ResetDisplayFormat();
-        SetFloatMode(FloatMode::Nearest);
-    }
+    void TearDown() override { SetFloatMode(FloatMode::Nearest); }
 
     // One gouraud face at the origin whose corners all face up.
     RenderFace* Gouraud(std::uint32_t color) {
@@ -63,7 +59,11 @@ protected:
         face->size = 16.0F;
         return face;
     }
-    void Run(const Light& light) { LightFaces(&test::list, nullptr, &light, 1); }
+    void Run(const Light& light) { Run(&light, 1); }
+    void Run(const Light* lights, std::int32_t count) {
+        LightFaces(&test::list, nullptr, {lights, count}, pack_);
+    }
+    ColorPacker pack_ = RecordChannels;
 };
 
 void ExpectChannels(std::uint32_t r, std::uint32_t g, std::uint32_t b) {
@@ -213,7 +213,7 @@ TEST_F(Lighting, R32_ALightCloserThanOneGivesWhiteInEveryChannel) {
     test::ResetList();
     Gouraud(kWhite);
     const Light two[2] = {light, Directional(kWhiteLight)};
-    LightFaces(&test::list, nullptr, two, 2);
+    Run(two, 2);
     ExpectChannels(255, 255, 255);
 }
 
@@ -309,7 +309,7 @@ TEST_F(Lighting, LightsAddUpAndEndAt255) {
     lights[2].kind = LIGHT_AMBIENT;
     lights[2].ambientColor = PackLightColor(0, 1, 9);
     Gouraud(kWhite);
-    LightFaces(&test::list, nullptr, lights, 3);
+    Run(lights, 3);
     // 247 + 0 + 0; 251.02 -> 251, + 1.97 -> 252, + 0; 247 + 7.75 -> 254, + 8 = 262 -> 255.
     ExpectChannels(247, 252, 255);
 }
@@ -321,13 +321,13 @@ TEST_F(Lighting, LightsAfterAnAmbientOneStillCount) {
     lights[0].ambientColor = PackLightColor(64, 64, 64);
     lights[2] = lights[0];
     Gouraud(kWhite);
-    LightFaces(&test::list, nullptr, lights, 3);
+    Run(lights, 3);
     ExpectChannels(62 + 96 + 62, 63 + 98 + 63, 62 + 96 + 62);
     // The other way round it is the same here.
     const Light turned[3] = {lights[1], lights[0], lights[2]};
     test::ResetList();
     Gouraud(kWhite);
-    LightFaces(&test::list, nullptr, turned, 3);
+    Run(turned, 3);
     ExpectChannels(62 + 96 + 62, 63 + 98 + 63, 62 + 96 + 62);
 }
 
@@ -335,12 +335,12 @@ TEST_F(Lighting, ALightThatIsOffOrBeyondTheCountIsSkipped) {
     Light lights[2] = {Directional(kWhiteLight), Directional(kWhiteLight)};
     lights[0].enabled = 0;
     Gouraud(kWhite);
-    LightFaces(&test::list, nullptr, lights, 1);
+    Run(lights, 1);
     ExpectChannels(0, 0, 0);
     lights[0].enabled = 0x80000000;
     test::ResetList();
     Gouraud(kWhite);
-    LightFaces(&test::list, nullptr, lights, 1);
+    Run(lights, 1);
     ExpectChannels(247, 251, 247);
 }
 
@@ -365,7 +365,7 @@ TEST_F(Lighting, TheLowestKindBitDecidesAndOnlyTheLowByteCounts) {
 }
 
 TEST_F(Lighting, GouraudLightsEachCornerByItsOwnPlaceAndNormal) {
-    ResetDisplayFormat();
+    pack_ = PackRgb565;
     Vertex a = Up(0.0F, 0.0F, 0.0F);
     Vertex b = Up(0.0F, 4.0F, 0.0F); // four below the light
     Vertex c = Up(0.0F, 0.0F, 0.0F);
@@ -382,12 +382,12 @@ TEST_F(Lighting, GouraudLightsEachCornerByItsOwnPlaceAndNormal) {
 }
 
 TEST_F(Lighting, FlatLightsTheFirstCornerAndWritesOneColour) {
-    ResetDisplayFormat();
+    pack_ = PackRgb565;
     RenderFace* face = Flat(kWhite);
     face->litColors[1] = 11;
     face->litColors[2] = 22;
-    for (Vertex& v : face->work) {
-        v.ny = -1.0F; // not looked at
+    for (Xyz<float>& normal : test::list.NormalsOf(face).corners) {
+        normal.y = -1.0F; // not looked at
     }
     Light light = AtPlace(LIGHT_POINT, 0.0F, 8.0F, 0.0F); // right above corner 0
     Run(light);
@@ -439,7 +439,7 @@ TEST_F(Lighting, TheColourWordKeepsSixteenBitsOfThePacker) {
 }
 
 TEST_F(Lighting, TheDisplaysPackerIsUsed) {
-    displayFormat.pack = PackRgb555;
+    pack_ = PackRgb555;
     RenderFace* face = Flat(kWhite);
     Run(Directional(kWhiteLight));
     EXPECT_EQ(face->litColors[0], PackRgb555(247, 251, 247));
@@ -525,7 +525,7 @@ protected:
 };
 
 TEST_F(LightsMove, Mode0MovesTheSource) {
-    LightsTransform(lights_, 2, &kMatrix, 0);
+    LightsTransform(lights_, 2, &kMatrix, LightMove::SourceInPlace);
     Expect(lights_[1].sourcePosition, 104.0F, 201.0F, 309.0F);
     Expect(lights_[1].sourceDirection, 10.0F, 4.0F, 18.0F); // not shifted
     Expect(lights_[1].position, 10.0F, 20.0F, 30.0F);
@@ -533,7 +533,7 @@ TEST_F(LightsMove, Mode0MovesTheSource) {
 }
 
 TEST_F(LightsMove, Mode1MovesTheWorkingCopy) {
-    LightsTransform(lights_, 2, &kMatrix, 1);
+    LightsTransform(lights_, 2, &kMatrix, LightMove::WorkingInPlace);
     Expect(lights_[0].position, 140.0F, 210.0F, 390.0F);
     Expect(lights_[0].direction, 100.0F, 40.0F, 180.0F);
     Expect(lights_[0].sourcePosition, 1.0F, 2.0F, 3.0F);
@@ -541,7 +541,7 @@ TEST_F(LightsMove, Mode1MovesTheWorkingCopy) {
 }
 
 TEST_F(LightsMove, Mode2MovesTheSourceIntoTheWorkingCopy) {
-    LightsTransform(lights_, 2, &kMatrix, 2);
+    LightsTransform(lights_, 2, &kMatrix, LightMove::SourceIntoWorking);
     Expect(lights_[0].position, 104.0F, 201.0F, 309.0F);
     Expect(lights_[0].direction, 10.0F, 4.0F, 18.0F);
     Expect(lights_[0].sourcePosition, 1.0F, 2.0F, 3.0F);
@@ -549,7 +549,7 @@ TEST_F(LightsMove, Mode2MovesTheSourceIntoTheWorkingCopy) {
 }
 
 TEST_F(LightsMove, Mode3CopiesAndNeedsNoMatrix) {
-    LightsTransform(lights_, 2, nullptr, 3);
+    LightsTransform(lights_, 2, nullptr, LightMove::Copy);
     Expect(lights_[0].position, 1.0F, 2.0F, 3.0F);
     Expect(lights_[0].direction, 4.0F, 5.0F, 6.0F);
     Expect(lights_[2].position, 10.0F, 20.0F, 30.0F);
@@ -558,8 +558,8 @@ TEST_F(LightsMove, Mode3CopiesAndNeedsNoMatrix) {
 TEST_F(LightsMove, OtherModesDoNothing) {
     Light before[3];
     std::memcpy(before, lights_, sizeof before);
-    LightsTransform(lights_, 3, &kMatrix, 4);
-    LightsTransform(lights_, 3, nullptr, -1);
+    LightsTransform(lights_, 3, &kMatrix, LightMove{4});
+    LightsTransform(lights_, 3, nullptr, LightMove{-1});
     EXPECT_EQ(std::memcmp(before, lights_, sizeof before), 0);
 }
 

@@ -52,7 +52,7 @@ Light RandomLight(test::Numbers* n, std::uint32_t kind, bool wild) {
     return light;
 }
 
-RenderFace RandomFace(test::Numbers* n, bool wild) {
+RenderFace RandomFace(test::Numbers* n, bool wild, CornerNormals* normals) {
     const std::uint32_t classes[] = {FACE_MATTE,   FACE_MATTE,    FACE_PLASTIC,
                                      FACE_PLASTIC, FACE_CONSTANT, FACE_MATTE | FACE_PLASTIC};
     RenderFace face = {};
@@ -64,13 +64,14 @@ RenderFace RandomFace(test::Numbers* n, bool wild) {
     face.litColors[2] = n->Bits();
     const Vec3 center = Place(n, false);
     const float spread = std::ldexp(1.0F, static_cast<int>(n->Below(10)) - 1);
-    for (Vertex& v : face.work) {
+    for (int i = 0; i < 3; ++i) {
+        FaceCorner& v = face.work[i];
         v.x = center.x + n->Signed() * spread;
         v.y = center.y + n->Signed() * spread;
         v.z = center.z + n->Signed() * spread;
-        v.nx = n->Signed();
-        v.ny = n->Signed();
-        v.nz = n->Signed();
+        normals->corners[i].x = n->Signed();
+        normals->corners[i].y = n->Signed();
+        normals->corners[i].z = n->Signed();
         if (wild && n->Below(20) == 0) {
             v.x = Coordinate(n, true);
         }
@@ -97,7 +98,7 @@ struct Tally {
 };
 
 // Lights the list both ways and compares every word of every face.
-void CompareRound(test::Numbers* n, const Light* lights, std::int32_t count, bool wild,
+void CompareRound(test::Numbers* n, const LightTable& lights, ColorPacker pack, bool wild,
                   Tally* tally) {
     static_assert(kFacesARound <= kMaxRenderFaces / 2);
     test::ResetList();
@@ -105,11 +106,11 @@ void CompareRound(test::Numbers* n, const Light* lights, std::int32_t count, boo
     RenderFace* const faces = test::list.records;
     RenderFace* const expected = test::list.records + kMaxRenderFaces / 2;
     for (int i = 0; i < kFacesARound; ++i) {
-        faces[i] = RandomFace(n, wild);
+        faces[i] = RandomFace(n, wild, &test::list.normals[i]);
         expected[i] = faces[i];
-        test::ReferenceLightFace(&expected[i], lights, count);
+        test::ReferenceLightFace(&expected[i], test::list.normals[i], lights, pack);
     }
-    LightFaces(&test::list, nullptr, lights, count);
+    LightFaces(&test::list, nullptr, lights, pack);
     for (int i = 0; i < kFacesARound; ++i) {
         ASSERT_EQ(std::memcmp(&faces[i], &expected[i], sizeof(RenderFace)), 0)
             << "face " << i << " flags " << faces[i].flags << " got " << faces[i].litColors[0]
@@ -125,10 +126,7 @@ void CompareRound(test::Numbers* n, const Light* lights, std::int32_t count, boo
 
 class LightingReference : public testing::TestWithParam<std::uint32_t> {
 protected:
-    void TearDown() override {
-        SetFloatMode(FloatMode::Nearest);
-        ResetDisplayFormat();
-    }
+    void TearDown() override { SetFloatMode(FloatMode::Nearest); }
 };
 
 // 60 rounds of 2,000 faces a kind; 0 stands for tables of up to ten lights of all kinds.
@@ -138,7 +136,6 @@ TEST_P(LightingReference, AgreesOnRandomFaces) {
     Tally tally;
     for (int round = 0; round < 60; ++round) {
         SetFloatMode(round % 4 == 3 ? FloatMode::Nearest : FloatMode::Chop);
-        displayFormat.pack = kPackers[round / 4 % 4];
         const bool wild = round % 3 == 1;
         const std::int32_t count =
             kind != 0 ? 1 : 2 + static_cast<std::int32_t>(n.Below(kMaxLights - 1));
@@ -149,7 +146,7 @@ TEST_P(LightingReference, AgreesOnRandomFaces) {
         if (kind != 0) {
             lights[0].enabled = 1;
         }
-        CompareRound(&n, lights, count, wild, &tally);
+        CompareRound(&n, {lights, count}, kPackers[round / 4 % 4], wild, &tally);
         if (HasFatalFailure()) {
             FAIL() << "round " << round;
         }

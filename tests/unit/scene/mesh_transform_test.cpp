@@ -66,7 +66,7 @@ void ExpectAt(const Vertex& v, float x, float y, float z, float w) {
 }
 
 TEST_F(MeshMoves, Mode0MultipliesTheVerticesInPlace) {
-    MeshTransform(&mesh_, &kMatrix, {0, 0, 0});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::InPlace, 0, 0});
     ExpectAt(vertices_[0], 104.0F, 201.0F, 309.0F, 1.0F);
     ExpectAt(vertices_[1], 106.0F, 202.0F, 312.0F, 1.0F);
     ExpectAt(vertices_[2], 3.0F, 4.0F, 5.0F, 1.0F); // behind vertexCount
@@ -78,7 +78,7 @@ TEST_F(MeshMoves, ANormalTurnsWhereThereIsOneWithItsOwnW) {
     vertices_[2] = vertices_[0];
     vertices_[2].nw = 1.0F;
     mesh_.vertexCount = 3;
-    MeshTransform(&mesh_, &kMatrix, {0, 0, 0});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::InPlace, 0, 0});
     EXPECT_EQ(vertices_[0].nx, 0.0F); // w 0: not shifted
     EXPECT_EQ(vertices_[0].ny, 1.0F);
     EXPECT_EQ(vertices_[0].nz, 0.0F);
@@ -91,13 +91,13 @@ TEST_F(MeshMoves, ANormalTurnsWhereThereIsOneWithItsOwnW) {
 
 TEST_F(MeshMoves, Mode1MultipliesTheTransformedInPlace) {
     transformed_[0] = test::VertexAt(1.0F, 1.0F, 1.0F);
-    MeshTransform(&mesh_, &kMatrix, {1, 0, 0});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::TransformedInPlace, 0, 0});
     ExpectAt(transformed_[0], 102.0F, 201.0F, 303.0F, 1.0F);
     ExpectAt(vertices_[0], 1.0F, 2.0F, 3.0F, 1.0F);
 }
 
 TEST_F(MeshMoves, Mode2MultipliesFromOneIntoTheOther) {
-    MeshTransform(&mesh_, &kMatrix, {2, 0, 0});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::IntoTransformed, 0, 0});
     ExpectAt(vertices_[0], 1.0F, 2.0F, 3.0F, 1.0F);
     ExpectAt(transformed_[0], 104.0F, 201.0F, 309.0F, 1.0F);
     EXPECT_EQ(transformed_[0].ny, 1.0F);
@@ -109,7 +109,7 @@ TEST_F(MeshMoves, Mode2MultipliesFromOneIntoTheOther) {
 TEST_F(MeshMoves, OtherModesDoNothing) {
     const auto vertices = vertices_;
     for (const std::int32_t mode : {-1, 3, 4}) {
-        MeshTransform(&mesh_, &kMatrix, {mode, 1, 0});
+        MeshTransform(&mesh_, &kMatrix, {TransformMode{mode}, 1, 0});
     }
     EXPECT_EQ(std::memcmp(vertices.data(), vertices_.data(), sizeof(Vertex) * 4), 0);
     EXPECT_EQ(mesh_.axes[0].x, 1.0F);
@@ -121,18 +121,18 @@ TEST_F(MeshMoves, UseCurrentTakesTheCurrentArraysOverAllSlots) {
     std::vector<Vertex> result(4, Vertex{});
     mesh_.curVertices = current.data();
     mesh_.curTransformed = result.data();
-    MeshTransform(&mesh_, &kMatrix, {2, 0, 1});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::IntoTransformed, 0, 1});
     ExpectAt(result[3], 102.0F, 201.0F, 303.0F, 1.0F);
-    MeshTransform(&mesh_, &kMatrix, {1, 0, 1});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::TransformedInPlace, 0, 1});
     ExpectAt(result[3], 502.0F, 302.0F, 1209.0F, 1.0F);
-    MeshTransform(&mesh_, &kMatrix, {0, 0, 1});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::InPlace, 0, 1});
     ExpectAt(current[3], 102.0F, 201.0F, 303.0F, 1.0F);
     ExpectAt(vertices_[0], 1.0F, 2.0F, 3.0F, 1.0F);
     ExpectAt(transformed_[0], 0.0F, 0.0F, 0.0F, 0.0F);
 }
 
 TEST_F(MeshMoves, AxesTurnWhenAskedFor) {
-    MeshTransform(&mesh_, &kMatrix, {2, 1, 0});
+    MeshTransform(&mesh_, &kMatrix, {TransformMode::IntoTransformed, 1, 0});
     EXPECT_EQ(mesh_.axes[0].y, 1.0F);
     EXPECT_EQ(mesh_.axes[0].x, 0.0F);
     EXPECT_EQ(mesh_.axes[1].x, 2.0F);
@@ -172,7 +172,7 @@ TEST_F(MeshMoves, R38_TurningObjectsShrink) {
 TEST_F(MeshMoves, TranslateMode2WritesWorldPositionsWithWOneAndCopiesNormals) {
     vertices_[1].w = 7.0F;
     vertices_[1].nw = 5.0F;
-    MeshTranslate(&mesh_, 2, 0);
+    MeshTranslate(&mesh_, TransformMode::IntoTransformed, 0);
     ExpectAt(transformed_[0], 11.0F, 22.0F, 33.0F, 1.0F);
     ExpectAt(transformed_[1], 12.0F, 23.0F, 34.0F, 1.0F);
     EXPECT_EQ(transformed_[0].nx, 1.0F);
@@ -184,31 +184,37 @@ TEST_F(MeshMoves, TranslateMode2WritesWorldPositionsWithWOneAndCopiesNormals) {
 
 TEST_F(MeshMoves, TranslateInAnyOtherModeAddsToTheTransformedInPlace) {
     transformed_[1] = test::VertexAt(1.0F, 1.0F, 1.0F);
-    MeshTranslate(&mesh_, 0, 0);
+    MeshTranslate(&mesh_, TransformMode::InPlace, 0);
     ExpectAt(transformed_[1], 11.0F, 21.0F, 31.0F, 1.0F);
-    MeshTranslate(&mesh_, 77, 0);
+    MeshTranslate(&mesh_, TransformMode{77}, 0);
     ExpectAt(transformed_[1], 21.0F, 41.0F, 61.0F, 1.0F);
     ExpectAt(vertices_[1], 2.0F, 3.0F, 4.0F, 1.0F);
 }
 
 TEST_F(MeshMoves, TranslateWithUseCurrentGoesOverAllSlots) {
-    MeshTranslate(&mesh_, 2, 1);
+    MeshTranslate(&mesh_, TransformMode::IntoTransformed, 1);
     ExpectAt(transformed_[3], 14.0F, 25.0F, 36.0F, 1.0F);
+}
+
+void ExpectCorner(const FaceCorner& v, float x, float y, float z) {
+    EXPECT_EQ(v.x, x);
+    EXPECT_EQ(v.y, y);
+    EXPECT_EQ(v.z, z);
 }
 
 TEST_F(MeshMoves, AddsLiveFacesFromTheArrayAskedFor) {
     faces_[1].active = FACE_LIVE | FACE_BACK;
     EXPECT_EQ(MeshAddFaces(&test::list, &mesh_, 1), 1);
     ASSERT_EQ(test::list.count, 2);
-    ExpectAt(test::list.records[0].work[1], 2.0F, 3.0F, 4.0F, 1.0F);
+    ExpectCorner(test::list.records[0].work[1], 2.0F, 3.0F, 4.0F);
     EXPECT_EQ(faces_[0].vertexArray, vertices_.data());
 
-    MeshTranslate(&mesh_, 2, 0);
+    MeshTranslate(&mesh_, TransformMode::IntoTransformed, 0);
     faces_[1].active = FACE_LIVE | FACE_OUTSIDE;
     faces_[2].active = 0;
     EXPECT_EQ(MeshAddFaces(&test::list, &mesh_, 0), 1);
     ASSERT_EQ(test::list.count, 3);
-    ExpectAt(test::list.records[2].work[1], 12.0F, 23.0F, 34.0F, 1.0F);
+    ExpectCorner(test::list.records[2].work[1], 12.0F, 23.0F, 34.0F);
     EXPECT_EQ(faces_[0].vertexArray, transformed_.data());
     // A lit face is added too.
     faces_[0].active = FACE_LIVE | FACE_LIT;
@@ -259,7 +265,7 @@ TEST(FaceListTest, ARecordIsACopyOfTheFace) {
     Vertex vertices[4] = {test::VertexAt(1, 2, 3), test::VertexAt(4, 5, 6), test::VertexAt(7, 8, 9),
                           test::VertexAt(10, 11, 12)};
     vertices[3].u = 0.25F;
-    vertices[3].extra = 88;
+    vertices[3].ny = 0.5F;
     Texture texture = {};
     Face face = {};
     face.active = FACE_LIVE | 0x40;
@@ -267,14 +273,12 @@ TEST(FaceListTest, ARecordIsACopyOfTheFace) {
     face.color = 0x05001234;
     face.litColors[2] = 0x77;
     face.texture.single = &texture;
-    face.extra = 0xDEAD;
     face.vertexArray = vertices;
     face.v0 = 3;
     face.v1 = 0;
     face.v2 = 2;
     face.size = 2.5F;
     RenderFace& r = test::list.records[0];
-    r.extra = 0xBEEF;
     EXPECT_EQ(FaceListAdd(&test::list, &face), 1);
     EXPECT_EQ(test::list.count, 1);
     EXPECT_EQ(test::list.pointers[0], &r);
@@ -283,12 +287,13 @@ TEST(FaceListTest, ARecordIsACopyOfTheFace) {
     EXPECT_EQ(r.color, 0x05001234U);
     EXPECT_EQ(r.litColors[2], 0x77U);
     EXPECT_EQ(r.texture.single, &texture);
-    EXPECT_EQ(r.extra, 0xBEEFU); // not copied
     EXPECT_EQ(r.size, 2.5F);
     const int want[3] = {3, 0, 2};
     for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(std::memcmp(&r.source[i], &vertices[want[i]], sizeof(Vertex)), 0);
-        EXPECT_EQ(std::memcmp(&r.work[i], &vertices[want[i]], sizeof(Vertex)), 0);
+        const Vertex& v = vertices[want[i]];
+        ExpectCorner(r.work[i], v.x, v.y, v.z);
+        EXPECT_EQ(r.work[i].u, v.u);
+        EXPECT_EQ(test::list.NormalsOf(&r).corners[i].y, v.ny);
     }
 }
 
@@ -311,8 +316,8 @@ TEST(FaceListTest, TexturedFacesTakeTheirTexels) {
     const RenderFace& r = test::list.records[0];
     EXPECT_EQ(r.work[0].u, 30.0F);
     EXPECT_EQ(r.work[0].v, 31.0F);
-    EXPECT_EQ(r.source[1].u, 10.0F);
-    EXPECT_EQ(r.source[2].v, 21.0F);
+    EXPECT_EQ(r.work[1].u, 10.0F);
+    EXPECT_EQ(r.work[2].v, 21.0F);
     EXPECT_EQ(vertices[0].u, 0.0F); // the mesh keeps its own
     // Untextured: whatever the vertex holds, and no texel array is needed.
     face.flags = 0;
@@ -322,18 +327,16 @@ TEST(FaceListTest, TexturedFacesTakeTheirTexels) {
     EXPECT_EQ(test::list.records[1].work[0].u, 0.5F);
 }
 
-TEST(FaceListTest, RecordsAreLinkedInOrderOfAddition) {
+TEST(FaceListTest, RecordsStandInOrderOfAddition) {
     test::ResetList();
     const Vertex v = test::VertexAt(0, 0, 1);
     const RenderFace* a = test::AddFace(0, v, v, v);
     const RenderFace* b = test::AddFace(0, v, v, v);
     const RenderFace* c = FaceListAddCopy(&test::list, a);
-    EXPECT_EQ(a->previous, nullptr);
-    EXPECT_EQ(a->next, b);
-    EXPECT_EQ(b->previous, a);
-    EXPECT_EQ(b->next, c);
-    EXPECT_EQ(c->previous, b);
-    EXPECT_EQ(c->next, nullptr);
+    EXPECT_EQ(a, &test::list.records[0]);
+    EXPECT_EQ(b, &test::list.records[1]);
+    EXPECT_EQ(c, &test::list.records[2]);
+    EXPECT_EQ(test::list.pointers[2], c);
 }
 
 TEST(FaceListTest, TheLastFaceIsNumber65536) {
@@ -343,7 +346,6 @@ TEST(FaceListTest, TheLastFaceIsNumber65536) {
         ASSERT_NE(test::AddFace(0, v, v, v), nullptr);
     }
     const RenderFace last = test::list.records[65535];
-    EXPECT_EQ(last.next, nullptr);
     EXPECT_EQ(test::AddFace(FACE_MATTE, v, v, v), nullptr);
     EXPECT_EQ(FaceListAddCopy(&test::list, &test::list.records[0]), nullptr);
     EXPECT_EQ(test::list.count, 65536);
