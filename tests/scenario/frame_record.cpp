@@ -206,7 +206,7 @@ void AddFaces(Digest* digest) {
         if (!IsDrawable(face.state)) {
             continue;
         }
-        for (const Vertex& v : face.work) {
+        for (const FaceCorner& v : face.work) {
             digest->Add(v.x);
             digest->Add(v.y);
             digest->Add(v.z);

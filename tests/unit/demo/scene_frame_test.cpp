@@ -47,7 +47,7 @@ protected:
             const RenderFace& face = *sceneFaces.pointers[i];
             float x = 1e9F;
             float z = 1e9F;
-            for (const Vertex& v : face.work) {
+            for (const FaceCorner& v : face.work) {
                 x = std::min(x, v.x);
                 z = std::min(z, v.z);
             }

@@ -150,44 +150,49 @@ TEST_F(StartUpTest, Camera) {
     EXPECT_EQ(world.depthPitch, 2560);
 }
 
-std::uint32_t Bits(float value) {
-    std::uint32_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    return bits;
+void ExpectVec3(const Vec3& v, const Vec3& wanted, int light) {
+    EXPECT_EQ(v.x, wanted.x) << light;
+    EXPECT_EQ(v.y, wanted.y) << light;
+    EXPECT_EQ(v.z, wanted.z) << light;
+    EXPECT_EQ(v.w, wanted.w) << light;
 }
 
-TEST_F(StartUpTest, LightTableWordByWord) {
+TEST_F(StartUpTest, LightTableFieldByField) {
     std::memset(static_cast<void*>(world.lights), 0x5A, sizeof world.lights);
     StartUp();
-    std::uint32_t words[kMaxLights][36];
-    std::memcpy(words, world.lights, sizeof words);
-    std::uint32_t expected[kMaxLights][36] = {};
+    Light expected[kMaxLights] = {};
     const std::uint32_t kinds[] = {1, 2, 4, 4, 4, 4};
     for (int i = 0; i < 6; ++i) {
-        expected[i][0] = 1;
-        expected[i][2] = kinds[i];
+        expected[i].enabled = 1;
+        expected[i].kind = kinds[i];
     }
-    expected[0][3] = 0x8C866B00;
-    expected[1][4] = 0xE7DBAD00;
-    expected[2][4] = 0xFF800000;
-    expected[3][4] = 0x0000FF00;
-    expected[4][4] = 0xFF000000;
-    expected[5][4] = 0xFF000000;
+    expected[0].ambientColor = 0x8C866B00;
+    expected[1].lightColor = 0xE7DBAD00;
+    expected[2].lightColor = 0xFF800000;
+    expected[3].lightColor = 0x0000FF00;
+    expected[4].lightColor = 0xFF000000;
+    expected[5].lightColor = 0xFF000000;
     for (int i = 2; i < 6; ++i) {
-        for (const int start : {8, 12}) {
-            expected[i][start + 1] = Bits(1000.0F);
-            expected[i][start + 3] = Bits(1.0F);
-        }
-        expected[i][25] = Bits(0.001F);
-        expected[i][29] = Bits(1.0F);
+        expected[i].sourcePosition = expected[i].position = {0.0F, 1000.0F, 0.0F, 1.0F};
+        expected[i].c1 = 0.001F;
+        expected[i].exponent = 1.0F;
     }
     for (int i = 0; i < kMaxLights; ++i) {
-        for (int w = 0; w < 36; ++w) {
-            if (i == 1 && w >= 16 && w < 24) {
-                continue; // the direction, below
-            }
-            EXPECT_EQ(words[i][w], expected[i][w]) << "light " << i << " word " << w;
+        const Light& light = world.lights[i];
+        EXPECT_EQ(light.enabled, expected[i].enabled) << i;
+        EXPECT_EQ(light.kind, expected[i].kind) << i;
+        EXPECT_EQ(light.ambientColor, expected[i].ambientColor) << i;
+        EXPECT_EQ(light.lightColor, expected[i].lightColor) << i;
+        ExpectVec3(light.sourcePosition, expected[i].sourcePosition, i);
+        ExpectVec3(light.position, expected[i].position, i);
+        if (i != 1) { // its direction is below
+            ExpectVec3(light.sourceDirection, expected[i].sourceDirection, i);
+            ExpectVec3(light.direction, expected[i].direction, i);
         }
+        EXPECT_EQ(light.c0, expected[i].c0) << i;
+        EXPECT_EQ(light.c1, expected[i].c1) << i;
+        EXPECT_EQ(light.c2, expected[i].c2) << i;
+        EXPECT_EQ(light.exponent, expected[i].exponent) << i;
     }
     const Vec3& d = world.lights[1].direction;
     EXPECT_NEAR(d.x, 0.61545745F, 1e-6F);

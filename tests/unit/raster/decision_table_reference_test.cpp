@@ -177,8 +177,7 @@ RenderFace* AddFace(Scenery* scenery, std::uint32_t flags, float z0) {
         face->litColors[i] = 0x1000 * (i + 1) + static_cast<std::uint32_t>(number);
         FaceCorner& vertex = face->work[i];
         const auto shift = static_cast<float>(number * 3) + static_cast<float>(i);
-        vertex = {shift, shift + 0.25F, z0 + static_cast<float>(i * 7), shift * 2.0F,
-                  shift * 4.0F};
+        vertex = {shift, shift + 0.25F, z0 + static_cast<float>(i * 7), shift * 2.0F, shift * 4.0F};
     }
     if ((flags & 0x400) != 0) {
         face->texture.chain = scenery->chain;
