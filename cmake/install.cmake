@@ -34,7 +34,6 @@ install(FILES ${frame_hashes} DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel)
 # --help is written once: the manual page and the completion of a program are made from it.
 set(from_help ${CMAKE_SOURCE_DIR}/tools/from_help.py)
 set(documented ${installed_programs})
-list(REMOVE_ITEM documented larkfen) # until it answers --help
 foreach(program ${documented})
   set(page ${CMAKE_BINARY_DIR}/man/${program}.1.gz)
   set(completion ${CMAKE_BINARY_DIR}/completion/${program})

@@ -8,9 +8,10 @@
 set -eu
 cd "$(dirname -- "$0")/.."
 # With all that they need to run ...
-WHOLE="libc6-dev libstdc++6 libsdl2-2.0-0 libsdl2-mixer-2.0-0 zlib1g-dev libgtest-dev libbenchmark1debian"
+WHOLE="libc6-dev libstdc++6 libsdl2-2.0-0 zlib1g-dev libgtest-dev libbenchmark1debian"
 # ... and headers alone, whose packages ask for much more than we include.
-ALONE="libsdl2-dev libsdl2-mixer-dev libpng-dev libpng16-16 libbenchmark-dev libx11-dev x11proto-dev"
+ALONE="libsdl2-dev libmp3lame-dev libpng-dev libpng16-16 libbenchmark-dev libx11-dev libxext-dev
+ libxfixes-dev libxi-dev x11proto-dev"
 
 sysroot=$PWD/build/sysroot-arm64
 work=$PWD/build/sysroot-arm64.part

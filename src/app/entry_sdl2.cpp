@@ -19,7 +19,7 @@ namespace {
 
 constexpr char kUsage[] =
     "Usage: larkfen [-w] [-ns] [-resolution=WIDTHxHEIGHT]\n"
-    "Ombrel, a real-time demo: two and a half minutes of music and picture.\n"
+    "Plays Ombrel, a real-time demo: two and a half minutes of music and picture.\n"
     "\n"
     "  -w                   in a window; without it the program asks \"Full screen?\"\n"
     "  -ns                  no sound\n"
@@ -29,8 +29,11 @@ constexpr char kUsage[] =
     "  --help               this text\n"
     "  --version            the version\n"
     "\n"
-    "Escape, Alt-F4 and the close box end it; Alt-Enter changes between window and\n"
-    "full screen. Exit code: 0; 1 when SDL2 is missing.\n";
+    "Escape ends it, and so do Alt-F4 and the close box; Alt-Enter changes between\n"
+    "window and full screen.\n"
+    "\n"
+    "Exit code: 0 played to its end or ended by the user, or there was no display;\n"
+    "1 SDL2 is missing, or the display went away.\n";
 
 // Answers an argument that wants no production.
 bool Answered(const char* argument) {
