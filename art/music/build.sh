@@ -15,9 +15,9 @@ csound -d -m0 -W --format=float -o "$work/mix.wav" "$here/soundtrack.orc" "$work
 ffmpeg -nostdin -loglevel error -y -i "$work/mix.wav" -bitexact -af "\
 highpass=f=28,equalizer=f=300:t=q:w=0.9:g=-1.5,\
 acompressor=threshold=-18dB:ratio=1.5:attack=30:release=250:makeup=1,\
-equalizer=f=3800:t=q:w=0.8:g=1.4,treble=g=0.8:f=9000:t=q:w=0.7,\
+equalizer=f=3800:t=q:w=0.8:g=0.9,treble=g=0.8:f=9000:t=q:w=0.7,\
 volume=9.8dB,aresample=176400,\
-alimiter=limit=0.82:attack=4:release=90:level=false,aresample=44100,\
+alimiter=limit=0.78:attack=4:release=90:level=false,aresample=44100,\
 afade=t=out:st=188:d=6" -t 194.5 -c:a pcm_s24le "$work/master.wav"
 lame --quiet -b 192 --cbr -q 0 -m j --add-id3v2 --tt "Ombrel" --ta "dru3 of Quellant" \
     --tl "Ombrel" --ty 2026 "$work/master.wav" "$out"

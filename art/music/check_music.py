@@ -62,7 +62,8 @@ HOOK_BANDS = [(20, 60, -6.8), (60, 120, -6.1), (120, 250, -8.0), (250, 500, -8.4
 def check_master(song, power):
     measure("length", len(song) / listen.RATE, 192, 196, "s")
     measure("loudness of the whole", listen.integrated(power), -14.5, -13.5, "LUFS")
-    measure("loudness range of what is heard", listen.loudness_range(power[:round(OVER * 10)]), 7, 15, "LU")
+    heard = power[:round(OVER * 10)]
+    measure("loudness range of what is heard", listen.loudness_range(heard), 7, 15, "LU")
     measure("true peak", listen.true_peak(song), -3, -1.0, "dB")
     measure("direct current", np.abs(song.mean(axis=0, dtype=np.float64)).max() * 1e4, 0, 1.0, "e-4")
 
@@ -102,10 +103,12 @@ def check_cuts(song, power):
 
 def check_water(song):
     high = lambda start, end: listen.shares(listen.cut(song, start, end), [2000, 20000])[0]
-    measure("the water clears: above 2 kHz, 116 s against 101 s", high(114, 118) - high(100, 102), 6, ANY, "dB")
+    clears = high(114, 118) - high(100, 102)
+    measure("the water clears: above 2 kHz, 116 s against 101 s", clears, 6, ANY, "dB")
     part = listen.cut(song, 96.3, 120)
     measure("points, correlation of the sides", listen.correlation(part), 0, 0.8)
-    measure("points, sides over middle, 200 to 2000 Hz", listen.side_over_mid(part, 200, 2000), -6, 3, "dB")
+    width = listen.side_over_mid(part, 200, 2000)
+    measure("points, sides over middle, 200 to 2000 Hz", width, -6, 3, "dB")
 
 
 def check_end(song, power):
@@ -124,7 +127,8 @@ def check_noise(song, score):
     crash = listen.cut(song, 45.3, 45.6)
     spectrum = np.fft.rfft(crash, axis=0)
     spectrum[np.fft.rfftfreq(len(crash), 1 / listen.RATE) < 9000] = 0
-    measure("crash, correlation of the sides", listen.correlation(np.fft.irfft(spectrum, axis=0)), -0.3, 0.3)
+    crash = np.fft.irfft(spectrum, axis=0)
+    measure("crash, correlation of the sides", listen.correlation(crash), -0.3, 0.3)
     hits = []
     for note in score:
         if note.name == "Hat" and 16 < note.start < 28:
@@ -219,7 +223,8 @@ def check_melody(score):
     measure("hook again, notes two semitones higher", same, 100, 100, "%")
     home = {11, 2, 6} <= harmony(score, 96.5) and {6, 10, 1, 4} <= harmony(score, 95.3)
     measure("F sharp 7 falls home to B minor", home, 1, 1)
-    ends = [4 in harmony(score, t) and not {5, 10, 0} & harmony(score, t) for t in (148, 153, 160, 170, 180)]
+    ends = [harmony(score, time) for time in (148, 153, 160, 170, 180)]
+    ends = [4 in chord and not {5, 10, 0} & chord for chord in ends]
     measure("end and coda over E", 100 * np.mean(ends), 100, 100, "%")
     for first, last in ((50, 60), (60, 64)):
         tunes = [len(melody(score, "Reed", b, b + 1)) + len(melody(score, "Choir", b, b + 1))
@@ -271,7 +276,8 @@ def check_theme(score):
         if len(bass) > 3 or max(n.length for n in bass) < 0.7:
             measure("second theme, long bass in bar %d" % bar, 0, 1, 1)
     choir, reed = melody(score, "Choir", 40, 48), melody(score, "Reed", 40, 48)
-    octaves = [abs(a.start - b.start) < 1e-3 and b.fields[0] - a.fields[0] == 12 for a, b in zip(choir, reed)]
+    octaves = [abs(a.start - b.start) < 1e-3 and b.fields[0] - a.fields[0] == 12
+               for a, b in zip(choir, reed)]
     together = 100 * np.mean(octaves) * (len(choir) == len(reed))
     measure("second theme, choir and reed in octaves", together, 100, 100, "%")
     times = np.array([n.start for n in named(score, "Arp", 40, 47)])
@@ -320,9 +326,9 @@ def check_drums(score):
 def check_bells(score):
     """Below the sea the bells play the hook's first three notes from side to side."""
     notes = sorted(named(score, "Bell", 48, 60), key=lambda n: n.start)
-    groups = [g for g in zip(notes, notes[1:], notes[2:])
-              if g[0].fields[0] > g[1].fields[0] > g[2].fields[0] and g[2].fields[0] - g[0].fields[0] >= -4
-              and abs(g[2].fields[2] - g[0].fields[2]) > 0.75]
+    groups = [(a, c) for a, b, c in zip(notes, notes[1:], notes[2:])
+              if a.fields[0] > b.fields[0] > c.fields[0] >= a.fields[0] - 4
+              and abs(c.fields[2] - a.fields[2]) > 0.75]
     measure("points, three notes of the hook in the bells", len(groups), 10, 40)
     pans = [n.fields[2] for n in notes]
     measure("points, bells' leftmost place", min(pans), 0.05, 0.15)

@@ -132,8 +132,10 @@ def recording(song, power, score):
            *again(between(song, 148, 151, tone(330, 0.05)), music.check_end))
     fade = lambda p: p * np.linspace(1, 2, len(p))[:, None]
     expect("coda that stays", "fall in 4 s", *again(between(song, 152, 188, fade), music.check_end))
-    expect("coda that is gone", "loudness at 188", *again(between(song, 183, 189, louder(-20)), music.check_end))
-    expect("a drone", "share of the drone", music.check_end, between(song, 152, 188, tone(82, 0.02)), power)
+    expect("coda that is gone", "loudness at 188",
+           *again(between(song, 183, 189, louder(-20)), music.check_end))
+    expect("a drone", "share of the drone", music.check_end,
+           between(song, 152, 188, tone(82, 0.02)), power)
 
     expect("noise as it is", "", music.check_noise, song, score)
     mono = between(song, 45.2, 46, lambda p: p.mean(axis=1, keepdims=True) + np.zeros((1, 2)))
@@ -146,7 +148,8 @@ def recording(song, power, score):
         same[start:start + len(hit)] = hit
     expect("one hat for all", "likeness", music.check_noise, same, score)
     expect("pitch as it is", "", music.check_pitch, song, score)
-    expect("another song", "heard in the recording", music.check_pitch, np.roll(song, 3 * listen.RATE, axis=0), score)
+    expect("another song", "heard in the recording", music.check_pitch,
+           np.roll(song, 3 * listen.RATE, axis=0), score)
 
 
 def changed(score, chosen, change):
@@ -191,7 +194,8 @@ def tunes(score):
     def tie_broken(note):
         note.length = min(note.length, 0.2)
         return note
-    expect("no ties", "tied into bar 3", music.check_melody, changed(score, bars("Lead", 28, 36), tie_broken))
+    expect("no ties", "tied into bar 3", music.check_melody,
+           changed(score, bars("Lead", 28, 36), tie_broken))
     def legato(note):
         note.length += 0.5
         return note
@@ -200,13 +204,17 @@ def tunes(score):
         note.start = 56 + 0.5 * round((note.start - 56) / 0.5)
         return note
     expect("even notes", "hook, rhythms", music.check_melody, changed(score, bars("Lead", 28, 36), even))
-    expect("same key", "two semitones higher", music.check_melody, changed(score, bars("Lead", 63, 72), moved(f0=-2)))
-    expect("no way home", "falls home", music.check_melody, changed(score, bars("Pad", 48, 49), moved(f0=1)))
+    expect("same key", "two semitones higher", music.check_melody,
+           changed(score, bars("Lead", 63, 72), moved(f0=-2)))
+    expect("no way home", "falls home", music.check_melody,
+           changed(score, bars("Pad", 48, 49), moved(f0=1)))
     expect("no leading note", "falls home", music.check_melody,
            changed(score, lambda n: bars("Pad", 47, 48)(n) and n.fields[0] % 12 == 10, moved(f0=1)))
     expect("coda in F", "over E", music.check_melody, changed(score, bars("Pad", 75, 97), moved(f0=1)))
-    expect("silent points", "bars 50 to 59", music.check_melody, changed(score, bars("Reed", 53, 54), gone))
-    expect("silent half time", "bars 60 to 63", music.check_melody, changed(score, bars("Choir", 61, 62), gone))
+    expect("silent points", "bars 50 to 59", music.check_melody,
+           changed(score, bars("Reed", 53, 54), gone))
+    expect("silent half time", "bars 60 to 63", music.check_melody,
+           changed(score, bars("Choir", 61, 62), gone))
     expect("chords as they are", "", music.check_dissonance, score)
     for name, first in (("Lead", 30), ("Reed", 52), ("Choir", 43)):
         expect("wrong notes", "foreign to their chord", music.check_dissonance,
@@ -215,10 +223,13 @@ def tunes(score):
 
 def arrangement(score):
     expect("theme as it is", "", music.check_theme, score)
-    expect("kick", "kick of bar 42", music.check_theme, changed(score, bars("Kick", 42, 43), moved(start=0.5)))
-    expect("snare", "snare of bar 43", music.check_theme, changed(score, bars("Snare", 43, 44), moved(start=-0.5)))
-    expect("bass", "long bass in bar 41", music.check_theme, changed(score, bars("Bass", 41, 42), moved(length=-0.5)))
-    expect("octaves", "in octaves", music.check_theme, changed(score, bars("Reed", 44, 45), moved(f0=-12)))
+    for name, part, bar, change in (
+            ("Kick", "kick of bar 42", 42, moved(start=0.5)),
+            ("Snare", "snare of bar 43", 43, moved(start=-0.5)),
+            ("Bass", "long bass in bar 41", 41, moved(length=-0.5)),
+            ("Reed", "in octaves", 44, moved(f0=-12))):
+        expect(name + " moved", part, music.check_theme,
+               changed(score, bars(name, bar, bar + 1), change))
     expect("arpeggio", "dotted eighths", music.check_theme,
            changed(score, lambda n: bars("Arp", 40, 47)(n) and n.fields[2] > 0.5, moved(start=0.125)))
 
@@ -246,8 +257,9 @@ def arrangement(score):
     def middle(note):
         note.fields[2] = 0.5
         return note
-    expect("bells in the middle", "three notes of", music.check_bells, changed(score, bars("Bell", 48, 60), middle))
-    expect("bells in the middle", "leftmost", music.check_bells, changed(score, bars("Bell", 48, 60), middle))
+    still = changed(score, bars("Bell", 48, 60), middle)
+    expect("bells in the middle", "three notes of", music.check_bells, still)
+    expect("bells in the middle", "leftmost", music.check_bells, still)
 
 
 def orchestra():

@@ -185,7 +185,7 @@ def hats(bar, level, opens=(), first=0, last=16, pan=0.42):
                  noise.between(0.026, 0.045), pan)
 
 
-def drums(bar, name, level=1.0, hat=0.20, duck=0.42, snare=0.86, until=16, loud=0.60):
+def drums(bar, name, level=1.0, hat=0.20, duck=0.42, snare=0.86, until=16, loud=0.585):
     """A bar of drums up to a step; soft snares 14 dB below the others."""
     kicks, snares, soft, opens = BEATS[name]
     for step in kicks:
@@ -237,7 +237,7 @@ def fill(bar, kind):
                  *((0.16 + 0.05 * i,) if i % 3 else (48 - 2 * i, 0.28, 0.4)))
 
 
-def bass(bar, root, name, bright=0.6, level=0.226, until=16):
+def bass(bar, root, name, bright=0.6, level=0.220, until=16):
     for step, up, held in LINES[name]:
         if step < until:
             play("Bass", at(bar) + step * STEP, held * STEP * 0.92, root + up,
@@ -263,15 +263,23 @@ def arp(bar, name, level, octave=12, cut=3800, order=0, wide=0.28, until=16):
 
 
 def tune(instrument, bar, notes, level, up=0, *tail):
-    """Plays a melody; the lead glides from the note before where the two touch."""
+    """Plays a melody: high notes and long ones are stronger, as sung. The lead glides from the note
+    before where the two touch."""
     end, last = None, 0
+    middle = sum(note for _, note, _ in notes) / len(notes)
     for beat, note, beats in notes:
         length = beats * BEAT * 0.96
         fields = tail
         if instrument == "Lead":
             fields = (last if end == beat else note + up,) + tail
         end, last = beat + beats, note + up
-        play(instrument, at(bar, beat), length, note + up, level, *fields)
+        strength = (1 + 0.018 * (note - middle)) * (0.88 if beats < 0.8 else 1.03) * noise.between(0.95, 1.05)
+        play(instrument, at(bar, beat), length, note + up, level * strength, *fields)
+
+
+def since(notes, first):
+    """The notes of a melody from a beat on."""
+    return [(beat - first, note, beats) for beat, note, beats in notes if beat >= first]
 
 
 def bells(bar, notes, level, delay=0.35, pan=(0.3, 0.7)):
@@ -321,10 +329,11 @@ def arrival():
             if i >= 1:
                 play("Sub", at(bar, 3), 0.45, root + 7, 0.075, root)
             for step in ((0, 6, 12) if i < 2 else (0, 3, 6, 10, 12)):
-                play("Tick", at(bar) + step * STEP + human(), 0.1, 0.10 + 0.02 * i, 0.3 + 0.4 * (step % 2))
+                play("Tick", at(bar) + step * STEP + human(), 0.1, 0.10 + 0.02 * i,
+                     0.3 + 0.4 * (step % 2))
             for step in range(2, 16, 4 if i < 2 else 2):
-                play("Hat", at(bar) + step * STEP + human(), 0.08, (0.10 + 0.03 * i) * noise.between(0.8, 1.1),
-                     noise.between(0.04, 0.06), 0.6)
+                play("Hat", at(bar) + step * STEP + human(), 0.08,
+                     (0.10 + 0.03 * i) * noise.between(0.8, 1.1), noise.between(0.04, 0.06), 0.6)
             if i >= 2:
                 arp(bar, name, 0.05 + 0.02 * (i - 2) + 0.01 * half, 12, 700 + 200 * (i - 2) + 120 * half)
     # The first half of the hook at half speed; the reed answers where it rests.
@@ -383,7 +392,8 @@ def white():
     glass(WHITE, 60, 0.045)
     play("Impact", WHITE, 4, 0.60)
     play("Crash", WHITE, 5, 0.30, 2.4)
-    parts = ((WHITE, "Glyd", 0.032, 0.20), (WHITE + 2, "A13sus", 0.038, 0.25), (GLOBE, "Dmaj9", 0.066, 0.34))
+    parts = ((WHITE, "Glyd", 0.050, 0.28), (WHITE + 2, "A13sus", 0.050, 0.28),
+             (GLOBE, "Dmaj9", 0.068, 0.34))
     for time, name, level, voices in parts:
         notes, root = chord(name)
         for note in notes:
@@ -393,8 +403,10 @@ def white():
         choirs(time, 2.0, [n + 12 for n in notes[1:4]], voices, 0.12, 0.6)
         play("Drone", time, 2.0, root, 0.16, 0.03, 0.4)
     base = WHITE / BAR
-    bells(base, [(0, 90), (0.75, 85), (1.5, 88), (2.25, 81), (3, 93), (3.5, 90)], 0.11, 0.5, (0.15, 0.85))
-    bells(base + 1, [(0, 88), (0.75, 83), (1.5, 86), (2.25, 81), (3, 91), (3.5, 93)], 0.13, 0.5, (0.15, 0.85))
+    bells(base, [(0, 90), (0.75, 85), (1.5, 88), (2.25, 81), (3, 93), (3.5, 90)], 0.11, 0.5,
+          (0.15, 0.85))
+    bells(base + 1, [(0, 88), (0.75, 83), (1.5, 86), (2.25, 81), (3, 91), (3.5, 93)], 0.13, 0.5,
+          (0.15, 0.85))
     # Into the climax: a roll, a swell, then all that there is.
     for i in range(12):
         play("Tom", GLOBE - (12 - i) * STEP / 2, 0.4, 45, 0.05 + 0.02 * i, 0.4 + 0.02 * (i % 2) * 10)
@@ -446,8 +458,8 @@ def hook():
     kinds = [("four", 16), ("lean", 16), ("four", 16), ("push", 16), ("four", 16), ("skip", 16),
              ("four", 16), ("lean", 12)]
     lines = ["run", "run", "run", "run2", "run", "run2", "run", "walk"]
-    full(28, HOOK_CHORDS, kinds, lines, 0.85, 0.104, 0.17)
-    tune("Lead", 28, HOOK, 0.22, 0, 0.25)
+    full(28, HOOK_CHORDS, kinds, lines, 0.85, 0.106, 0.165)
+    tune("Lead", 28, HOOK, 0.225, 0, 0.25)
     tune("Reed", 28, HOOK_BELOW, 0.13, 0, 0.7)
     for bar in range(32, 36):
         shakers(bar, 0.10)
@@ -464,8 +476,8 @@ def interlude():
         pad(bar, 1, name, 0.075, (2400 - 300 * i, 1900 + 500 * i), 0.25, 0.8)
         play("Sub", at(bar), 1.8, root, 0.08, chord(names[i - 1])[1])
         for step in range(0, 16, 2):
-            play("Hat", at(bar) + step * STEP + human(), 0.08, (0.09 + 0.02 * i) * noise.between(0.8, 1.1),
-                 0.035, 0.4 + 0.2 * (step % 4 == 0))
+            play("Hat", at(bar) + step * STEP + human(), 0.08,
+                 (0.09 + 0.02 * i) * noise.between(0.8, 1.1), 0.035, 0.4 + 0.2 * (step % 4 == 0))
         choirs(at(bar), BAR, notes[2:5], 0.16)
         if i >= 2:
             arp(bar, name, 0.06 + 0.03 * (i - 2), 12, 1200 + 500 * (i - 2), i % 3)
@@ -489,7 +501,8 @@ def theme():
               snare=1.0, until=16 if i < 7 else 8, loud=0.76)
         if i < 4:
             for step in range(0, 16, 2):
-                play("Hat", at(bar) + step * STEP + human(), 0.1, 0.17 * noise.between(0.7, 1.1), 0.05, 0.58)
+                play("Hat", at(bar) + step * STEP + human(), 0.1,
+                     0.17 * noise.between(0.7, 1.1), 0.05, 0.58)
         shakers(bar, 0.07 + 0.05 * (i >= 4))
         bass(bar, root, "halves", 0.55, 0.25)
         choirs(at(bar), BAR, notes[1:4] if i < 7 else notes[2:4], 0.16, 0.2, 0.4)
@@ -500,7 +513,7 @@ def theme():
              0.26 if step < 64 else 0.32, 0.18 if k % 2 else 0.82, 3200 + 20 * k)
     tune("Choir", 40, THEME, 0.56, -12, 0.06, 0.25, 1)
     tune("Reed", 40, THEME, 0.22, 0, 0.5)
-    tune("Lead", 44, [n for n in ((b - 16, p, l) for b, p, l in THEME) if n[0] >= 0], 0.10, -12, 0)
+    tune("Lead", 44, since(THEME, 16), 0.10, -12, 0)
     play("Swell", at(46), DIVE - STEP - at(46), 0.36, 59)
     fill(47, "flam")
     play("Mute", at(48), 0.248)
@@ -562,7 +575,7 @@ def dots():
         else:
             sweep(bar, [(b, n + 12) for b, n in zip((2, 2.75, 3.5), motif)], 0.12, (0.9, 0.1), 0.6)
     tune("Reed", 50, DEEP, 0.22, 0, 0.5)
-    tune("Choir", 54, [n for n in ((b - 16, p, l) for b, p, l in DEEP) if n[0] >= 0], 0.34, -12, 0.08, 0.3, 1)
+    tune("Choir", 54, since(DEEP, 16), 0.34, -12, 0.08, 0.3, 1)
     bubbles(at(50), 14, 40, 0.035)
     play("Crash", at(54), 4, 0.14, 2.4)
     play("Crash", at(58), 4, 0.16, 2.4)
@@ -578,11 +591,12 @@ def turn():
         parts = ((chord(name), 0, 4),) if i < 3 else ((chord(name), 0, 2), (B7, 2, 2))
         for (notes, root), beat, beats in parts:
             for note in notes:
-                play("Pad", at(bar, beat), beats * BEAT, note, 0.080, 1500 + 500 * i, 2100 + 700 * i, 0.2, 0.6)
+                play("Pad", at(bar, beat), beats * BEAT, note, 0.080, 1500 + 500 * i, 2100 + 700 * i,
+                     0.2, 0.6)
             choirs(at(bar, beat), beats * BEAT, [n + 12 for n in notes[1:3]], 0.14, 0.3, 0.5)
             play("Sub", at(bar, beat), beats * BEAT * 0.68, root, 0.17, chord(TURN_CHORDS[i - 1])[1])
         play("Sub", at(bar, 3), 0.45, chord(name)[1] + 12, 0.16, chord(name)[1])
-        drums(bar, "half" if i % 2 == 0 else "half2", hat=0.13 + 0.02 * i, duck=0.55, snare=0.62,
+        drums(bar, ("half", "half2")[i % 2], hat=0.13 + 0.02 * i, duck=0.55, snare=0.62,
               until=16 if i < 3 else 8)
         notes = parts[0][0][0]
         bells(bar, [(0.5, notes[4] + 12), (1.25, notes[3] + 12), (2.5, notes[2] + 24 if i < 3 else 87)],
@@ -601,7 +615,7 @@ def hook_again():
              ("skip", 16), ("lean", 12)]
     full(64, names, kinds, ["drive", "drive", "run2", "walk", "drive", "drive", "run2", "walk"],
          0.95, 0.108, 0.25)
-    tune("Lead", 64, HOOK, 0.25, 2, 0.6)
+    tune("Lead", 64, HOOK, 0.26, 2, 0.6)
     tune("Reed", 64, COUNTER, 0.16, 2, 0.3)
     tune("Reed", 64, HOOK_BELOW, 0.13, 2, 0.7)
     for i, name in enumerate(names):
@@ -625,11 +639,11 @@ def thinning():
         pad(bar, 1, name, 0.085, (3800 - 900 * i, 2900 - 700 * i), 0.06, 0.6)
         arp(bar, name, 0.24 - 0.08 * i, 12, 3000 - 800 * i, i, 0.28, 16 if i == 0 else 15)
         drums(bar, "lean" if i == 0 else "float", hat=0.17 - 0.05 * i, loud=0.52)
-        bass(bar, chord(name)[1], "run" if i == 0 else "halves", 0.5 - 0.2 * i, 0.22, 16 if i == 0 else 14)
+        bass(bar, chord(name)[1], ("run", "halves")[i], 0.5 - 0.2 * i, 0.22, 16 - 2 * i)
         choirs(at(bar), BAR, chord(name)[0][1:4], 0.16, 0.15, 0.5)
     play("Crash", at(72), 4, 0.20, 2.4)
-    tune("Reed", 72, [(0, 73, 1.5), (1.5, 75, 0.5), (2, 76, 2), (4.5, 76, 1), (5.5, 78, 0.5), (6, 80, 1.75)],
-         0.22, 0, 0.5)
+    tune("Reed", 72, [(0, 73, 1.5), (1.5, 75, 0.5), (2, 76, 2), (4.5, 76, 1), (5.5, 78, 0.5),
+                      (6, 80, 1.75)], 0.22, 0, 0.5)
     sweep(73, [(0, 83), (1, 81), (2, 78), (3, 76)], 0.08, (0.2, 0.8), 0.5)
 
 
@@ -657,7 +671,8 @@ def coda():
     names = ["D5+2", "G/D+2", "Asus/D+2", "G/D+2", "D5+2", "Asus/D+2", "D5+2"]
     for i, name in enumerate(names):
         for note in chord(name)[0]:
-            play("Pad", at(75.25 + 3 * i), 6.0, note, 0.034 - 0.0022 * i, 1100 - 60 * i, 800 - 60 * i, 2.0, 2.5)
+            play("Pad", at(75.25 + 3 * i), 6.0, note, 0.034 - 0.0022 * i, 1100 - 60 * i, 800 - 60 * i,
+                 2.0, 2.5)
     phrases = [(76, [(0, 80), (3, 78), (4, 76)]), (78, [(2, 75), (3, 73), (6, 75), (7, 76)]),
                (81, [(0, 83), (3, 80), (4, 78), (6, 76)]), (83, [(2, 78), (4, 75), (7, 80)]),
                (85, [(2, 80), (5, 78), (6, 76)]), (87, [(2, 85), (4, 83), (6, 80)]),
@@ -675,11 +690,11 @@ CUES = [(0, "dawn"), (8, "arrival"), (16, "climb"), (WHITE / BAR, "white"), (GLO
 
 # The fader of the whole mix: (seconds, dB), straight lines between.
 FADER = [
-    (0, 2.4), (14, 2.4), (16, 1), (31, 0.6), (33, 0), (42, 0), (43, -1), (45, -1.2), (45.2, 0.4), (47.2, 0.5),
-    (47.4, 2.2), (49, 2.2), (49.24, -3.4), (51.25, -3.4), (51.6, 1.1), (72, 1.2), (72.3, 1.2), (79, 1.2),
-    (80, -0.3), (96, -0.3), (96.2, 0.2), (97.5, 0.5), (98.2, 1.8), (99.8, 1.8), (100.2, 0.8), (108, 0.8), (116, 0.9),
-    (119.8, 1.4), (120, -4.2), (126, -4.2), (127.9, -1.5), (128, 1.5), (144, 1.5), (144.2, 0.5),
-    (150.4, 0.5), (150.5, 1.7), (188, -2.6), (200, -2.6)]
+    (0, 2.4), (14, 2.4), (16, 1), (31, 0.6), (33, 0), (42, 0), (43, -1), (45, -1.2), (45.2, 0), (46, 0),
+    (47, 0.7), (49.24, 0.9), (49.25, -3.2), (51.25, -3.2), (51.6, 1.1), (72, 1.2), (79, 1.2), (80, -0.3),
+    (96, -0.3), (96.2, 0.2), (97.5, 0.5), (98.2, 1.8), (99.8, 1.8), (100.2, 0.8), (108, 0.8),
+    (116, 0.9), (119.8, 1.4), (120, -4.2), (126, -4.2), (127.9, -1.5), (128, 1.5), (144, 1.5),
+    (144.2, 0.5), (150.4, 0.5), (150.5, 1.7), (188, -2.6), (200, -2.6)]
 
 
 def fader():

@@ -165,8 +165,8 @@ instr Shard
   icps = cpsmidinn(p4)
   kenv expseg 1, p7, 0.001
   a1 oscili 0.6, icps
-  a2 oscili 0.3, icps * 2.76
-  a3 oscili 0.2, icps * 5.40
+  a2 oscili icps * 2.76 < 19000 ? 0.3 : 0, icps * 2.76
+  a3 oscili icps * 5.40 < 19000 ? 0.2 : 0, icps * 5.40
   katt linseg 0, 0.001, 1, 1, 1
   ToAir (a1 + a2 + a3) * kenv * katt * p5, p6, 0.1, 0.3
 endin
