@@ -18,7 +18,7 @@ void FillTriangles(benchmark::State& state, std::int32_t id, std::int32_t triang
     const FillTarget target = scene->Target();
     ChooseVectorPath(nullptr);
     for (auto _ : state) {
-        scene->Clear(kFillerTable[id].rules.depth);
+        scene->Clear(kFillerTable[id].depth);
         const auto start = std::chrono::steady_clock::now();
         for (ScreenPolygon& polygon : scene->polygons) {
             activeFillers[id](&polygon, target);

@@ -15,6 +15,7 @@
 #include "base/rect.h"
 #include "fill_scene.h"
 #include "raster/blend_tables.h"
+#include "raster/paths.h"
 
 namespace ombrel {
 namespace {
@@ -292,9 +293,9 @@ void DrawAll(FillScene* scene, Filler filler) {
 void Compare(benchmark::State& state, const Yardstick& yardstick, std::int32_t trianglePixels) {
     FillScene* scene = MakeFillScene(trianglePixels);
     const ScopedFloatMode mode(FloatMode::Chop);
-    const Filler member = kScalarFillers[static_cast<int>(yardstick.member)];
+    const Filler member = kPlainPath.fillers[static_cast<int>(yardstick.member)];
     const auto run = [&](Filler filler) {
-        scene->Clear(DepthRule::W);
+        scene->Clear("W");
         const auto start = std::chrono::steady_clock::now();
         DrawAll(scene, filler);
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();

@@ -6,7 +6,7 @@
 #include "base/float_mode.h"
 #include "compare.h"
 #include "fill_scene.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 
 namespace ombrel {
 
@@ -38,15 +38,15 @@ CompareGoals GoalsOf(std::int32_t id) {
             return named.goals;
         }
     }
-    const FillerRules& rules = kFillerTable[id].rules;
-    if (rules.texel == TexelRule::Bilinear || rules.texel == TexelRule::PerPixel) {
+    const FillerRow& rules = kFillerTable[id];
+    if (rules.texel == "Bilinear" || rules.texel == "PerPixel") {
         return kDemanding;
     }
-    const CompareGoals kin = rules.texel == TexelRule::None      ? kFlat
-                             : rules.write == WriteRule::Blend   ? kBlended
-                             : rules.light == LightRule::Gouraud ? kTexturedGouraud
-                             : rules.light == LightRule::Flat    ? kTexturedFlat
-                                                                 : kTextured;
+    const CompareGoals kin = rules.texel == "NoTexel"   ? kFlat
+                             : rules.write == "Blend"   ? kBlended
+                             : rules.light == "Gouraud" ? kTexturedGouraud
+                             : rules.light == "Flat"    ? kTexturedFlat
+                                                        : kTextured;
     return {kin.sse * 0.8, kin.avx2 * 0.8, kin.avx512 * 0.8};
 }
 
@@ -64,8 +64,8 @@ CompareRow RowOf(const std::string& name, FillerId id, std::shared_ptr<FillScene
                  CompareGoals goals) {
     const auto number = static_cast<std::int32_t>(id);
     return {name, goals, [number, scene](VectorPath path) {
-                scene->Clear(kFillerTable[number].rules.depth);
-                return Draw(scene.get(), FillersOf(path)[number]);
+                scene->Clear(kFillerTable[number].depth);
+                return Draw(scene.get(), RasterPathOf(path).fillers[number]);
             }};
 }
 
@@ -80,7 +80,8 @@ std::vector<CompareRow> FillerRows() {
     constexpr auto kOften = FillerId::FillTexGouraudW;
     rows.push_back({"FillTexGouraudW, occluded", kOccluded, [large](VectorPath path) {
                         std::fill(large->depth.begin(), large->depth.end(), 0xFFFFFFFFU);
-                        return Draw(large.get(), FillersOf(path)[static_cast<int>(kOften)]);
+                        return Draw(large.get(),
+                                    RasterPathOf(path).fillers[static_cast<int>(kOften)]);
                     }});
     const auto small = [](std::int32_t pixels) {
         return std::shared_ptr<FillScene>(MakeFillScene(pixels));

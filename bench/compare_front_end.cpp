@@ -18,7 +18,7 @@
 #include "demo/startup.h"
 #include "face_scene.h"
 #include "platform/system.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 #include "scene/front_end.h"
 #include "scene/mesh_transform.h"
 

@@ -7,6 +7,7 @@
 
 #include "base/rect.h"
 #include "raster/blend_tables.h"
+#include "raster/paths.h"
 
 namespace ombrel {
 
@@ -23,7 +24,8 @@ std::int64_t CountPixels(ScreenPolygon polygon, FillScene* scene) {
         bottom = std::max(bottom, static_cast<std::int32_t>(vertex.y));
     }
     polygon.litColors[0] = 1;
-    FillFlat(&polygon, scene->frame.data(), kWidth * 2);
+    kPlainPath.fillers[static_cast<int>(FillerId::FillFlat)](
+        &polygon, {scene->frame.data(), kWidth * 2, nullptr, 0, 0, {0, 0, kWidth, kHeight}});
     std::int64_t count = 0;
     for (std::int32_t y = top; y < bottom; ++y) {
         Pixel16* row = &scene->frame[static_cast<std::size_t>(y * kWidth)];
@@ -36,11 +38,11 @@ std::int64_t CountPixels(ScreenPolygon polygon, FillScene* scene) {
 } // namespace
 
 FillTarget FillScene::Target() {
-    return {frame.data(), kWidth * 2, depth.data(), kWidth * 4, 4};
+    return {frame.data(), kWidth * 2, depth.data(), kWidth * 4, 4, {0, 0, kWidth, kHeight}};
 }
 
-void FillScene::Clear(DepthRule rule) {
-    std::fill(depth.begin(), depth.end(), rule == DepthRule::W ? 0U : 0xFFFFFFFFU);
+void FillScene::Clear(std::string_view rule) {
+    std::fill(depth.begin(), depth.end(), rule == "W" ? 0U : 0xFFFFFFFFU);
 }
 
 FillScene* MakeFillScene(std::int32_t trianglePixels) {

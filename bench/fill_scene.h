@@ -17,7 +17,7 @@ struct FillScene {
     std::int64_t pixels; // drawn by all polygons together
 
     FillTarget Target();
-    void Clear(DepthRule rule); // the depth buffer only
+    void Clear(std::string_view rule); // the depth buffer only
 };
 
 // Triangles of about so many pixels at 640 x 480, about 600,000 pixels or 4,096 triangles in all.

@@ -10,7 +10,7 @@
 #include "base/rect.h"
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 #include "scene/face_list.h"
 #include "support/guard_memory.h"
 
@@ -172,6 +172,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     job.level = (source.Byte() & 1) != 0 ? source.Signed() : source.Below(16) - 8;
     job.mipDistance = (source.Byte() & 1) != 0 ? source.Signed() : source.Below(64);
     job.lodDistance = (source.Byte() & 1) != 0 ? source.Signed() : source.Below(64);
+    job.clip = clipRect;
     const std::uint8_t wish = source.Byte();
     list.count = 0;
     while (list.count < kMaxFaces && source.left > 0) {
@@ -179,7 +180,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         FillFace(face, &source, &textures[source.Byte() & 1]);
     }
 
-    // Draw with the plain fillers, and with the twins of one kind of vectors: the same bits.
+    // Draw with the plain fillers, and with the fillers of one kind of vectors: the same bits.
     const auto path = static_cast<VectorPath>(wish % kVectorPathCount);
     Clear(canvas);
     ResetFillers();
@@ -189,7 +190,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::copy_n(canvas.frame, canvas.pixels, plainFrame);
         std::copy_n(canvas.depth, canvas.cells, plainDepth);
         Clear(canvas);
-        std::copy_n(FillersOf(path), kFillerCount, activeFillers);
+        std::copy_n(RasterPathOf(path).fillers, kFillerCount, activeFillers);
         DrawFaces(&job);
         Require(std::equal(plainFrame, plainFrame + canvas.pixels, canvas.frame));
         Require(std::equal(plainDepth, plainDepth + canvas.cells, canvas.depth));

@@ -10,7 +10,7 @@
 #include "demo/scene_list.h"
 #include "demo/startup.h"
 #include "platform/offscreen/offscreen.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 #include "scene/front_end.h"
 
 #include "limits.h"

@@ -15,7 +15,7 @@ MAY_INCLUDE = {
     "assets": ["base/", "math/"],
     "scene": ["base/", "math/", "assets/", "lanes/"],
     "lanes": ["base/"],
-    "raster": ["base/", "assets/texture.h", "scene/face_list.h"],
+    "raster": ["base/", "lanes/", "assets/texture.h", "scene/face_list.h"],
     "platform": ["base/"],
     "demo": ["base/", "math/", "assets/", "scene/", "raster/", "platform/*.h"],
     "player": ["base/", "math/", "assets/", "scene/", "raster/", "demo/", "platform/*.h"],
@@ -60,7 +60,7 @@ def may_name_system(path):
         return True
     if top == "app" and path.name.startswith("entry_"):
         return True
-    return top == "lanes" or (top == "raster" and "simd" in path.parts)
+    return top == "lanes"
 
 
 def faults_of(path):

@@ -121,8 +121,9 @@ STEPS = [
          "xargs clang-format-14 --dry-run --Werror", tests=IS_ONE),
     Step("the driver of the tests", EVERY, "tests/driver/run.py"),
     Step("the world", DEFAULT, "art/test.sh"),
-    Step("objects of the twins", DEFAULT, "tools/check_twins.py build/release", RELEASE,
-         tests=IS_ONE),
+    Step("objects for newer processors", DEFAULT, "tools/check_weak_symbols.py build/release",
+         RELEASE, tests=IS_ONE),
+    Step("moves of wide vectors", DEFAULT, "tools/check_moves.py build/win64/larkfen.exe", WIN64),
 
     # The same pictures from every path and compiler.
     frames("plain path", f"build/release/{CAPTURE}", ALL, RELEASE, RASTER_USE="scalar"),

@@ -16,7 +16,7 @@
 #include "base/float_mode.h"
 #include "compare.h"
 #include "fill_scene.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ constexpr int kWidth = 640, kHeight = 480, kTexels = 256, kRounds = 9;
 
 double DrawOurs(FillScene* scene, ombrel::Filler filler) {
     const ombrel::ScopedFloatMode chop(ombrel::FloatMode::Chop);
-    scene->Clear(ombrel::DepthRule::W);
+    scene->Clear("W");
     const ombrel::FillTarget target = scene->Target();
     const double start = ombrel::ProcessorSeconds();
     for (ombrel::ScreenPolygon& polygon : scene->polygons) {
@@ -160,7 +160,7 @@ int main() {
     setenv("LP_NUM_THREADS", "0", 1); // before Mesa looks
     const ombrel::VectorPath path = ombrel::ChooseVectorPath(nullptr);
     const ombrel::Filler filler =
-        ombrel::FillersOf(path)[static_cast<int>(ombrel::FillerId::FillTexGouraudW)];
+        ombrel::RasterPathOf(path).fillers[static_cast<int>(ombrel::FillerId::FillTexGouraudW)];
     AllegroPeer allegro = {};
     std::vector<ombrel::Pixel16> mesaFrame;
     std::vector<MesaVertex> list;

@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "demo/blur.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 #include "scene/front_end.h"
 
 namespace ombrel {

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "base/pixel16.h"
-#include "raster/simd/blur.h"
+#include "raster/paths.h"
 
 namespace ombrel {
 
@@ -15,9 +15,9 @@ namespace ombrel {
 // Nothing for null pixels.
 void BlurFrame(Pixel16* pixels, std::ptrdiff_t step, std::int32_t width, std::int32_t height);
 
-// What BlurFrame does its rows with; null, the initial value: plain code. Written at start-up by
-// UseBlur, and by tests and benches.
-extern BlurRowTwin activeBlur;
+// What BlurFrame does its rows with; null, the initial value: the plain path. Written at start-up
+// by UseBlur, and by tests and benches.
+extern RowBlur activeBlur;
 void UseBlur(VectorPath path);
 void ResetBlur();
 

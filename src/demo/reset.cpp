@@ -43,6 +43,7 @@ void ResetWorld() {
     ResetBlur();
     ResetTrigTables();
     ResetDisplayState();
+    ResetDisplayFormat();
     ResetClipRect();
     ResetRandom15();
     ResetShellState();

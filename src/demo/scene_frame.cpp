@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "base/rect.h"
 #include "base/shell_state.h"
 #include "demo/face_views.h"
 #include "scene/mesh_transform.h"
@@ -50,6 +51,7 @@ void DrawFilled(FaceList* list, World* scene) {
     job.level = kOwnLevels;
     job.mipDistance = 0;
     job.lodDistance = kLodDistance;
+    job.clip = clipRect;
     DrawFaces(&job);
 }
 
@@ -118,7 +120,7 @@ FaceSettings FaceSettingsOf(World* scene, const SceneSwitches& set) {
     settings.cullBack = set.backFace == 1;
     settings.lit = set.lighting == 1;
     settings.sortMode = set.sort == 1 ? kSorted : kUnsorted;
-    settings.pack = display.format.pack;
+    settings.pack = displayFormat.pack;
     return settings;
 }
 

@@ -5,12 +5,7 @@ namespace ombrel {
 
 namespace {
 
-constexpr DisplayState InitialDisplay() {
-    DisplayState initial{};
-    initial.format = kFormat565;
-    return initial;
-}
-constexpr DisplayState kInitialDisplay = InitialDisplay();
+constexpr DisplayState kInitialDisplay{};
 
 } // namespace
 

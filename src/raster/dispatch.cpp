@@ -162,7 +162,7 @@ void DrawFace(const DrawJob& job, Kind kind, const RenderFace& face, ScreenPolyg
         id = kTextured[kind][light][blended][path];
     }
     activeFillers[static_cast<int>(id)](
-        polygon, {job.frame, job.framePitch, job.depth, job.depthPitch, level});
+        polygon, {job.frame, job.framePitch, job.depth, job.depthPitch, level, job.clip});
 }
 
 // Asks for the memory of a face that is drawn soon.

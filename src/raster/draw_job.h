@@ -6,6 +6,7 @@
 
 #include "assets/texture.h"
 #include "base/pixel16.h"
+#include "base/rect.h"
 #include "scene/face_list.h"
 
 namespace ombrel {
@@ -40,6 +41,7 @@ struct DrawJob {
     std::int32_t level;      // blend level 0..7 for all faces; negative: each face's own
     std::int32_t mipDistance;
     std::int32_t lodDistance;
+    Rect clip;
 };
 
 // What a filler reads of a face, in the same order as the face has it; one triangle.

@@ -1,209 +1,361 @@
-// What the cells of the family table mean: which slots a filler walks, how a vertex fills them, and
-// how a pixel is made of them. Depth 16.16 (Z) or 2^28 / z (W); u, v 16.16, 10.22 within a span in
-// perspective, u / z and v / z of 22 fraction bits between; intensities 8.16. 32-bit, wrapping.
-// Called by fillers.cpp.
+// What the cells of the family table mean: a type each. A rule says which attributes of a point it
+// needs, how the corners of a triangle fill them, where spans start, and what becomes of a block of
+// pixels; once for every lane set L (lanes/pixels_plain.h says what its operations mean).
+//
+//   attribute   along edges and spans
+//   x           16.16
+//   depth       16.16 (Z) or 2^28 / z (W)
+//   u, v        16.16; in perspective u / z and v / z with 22 fraction bits, 10.22 within a span
+//   red..blue   intensities, 8.16
+//
+// All arithmetic is 32-bit and wraps. Used by span.h and triangle.h.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 
-#include "base/convert.h"
-#include "base/log2_table.h"
+#include "lanes/inline.h"
+#include "lanes/texels.h"
 #include "raster/blend_tables.h"
-#include "raster/fillers.h"
-#include "raster/walker.h"
+#include "raster/draw_job.h"
 
 namespace ombrel {
+namespace {
 
-// The slots of a filler: x, then depth, u and v, red, green and blue where its rules need them.
-template <FillerRules R> struct Slots {
-    static constexpr bool hasDepth = R.depth != DepthRule::None;
-    static constexpr bool hasTexels = R.texel != TexelRule::None;
-    static constexpr bool isGouraud = R.light == LightRule::Gouraud;
-    static constexpr bool inPerspective =
-        R.texel == TexelRule::Span || R.texel == TexelRule::PerPixel;
+enum Attribute { kX, kDepth, kU, kV, kRed, kGreen, kBlue, kAttributeCount = 8 };
+constexpr std::uint32_t kColors = 1U << kRed | 1U << kGreen | 1U << kBlue;
+constexpr std::uint32_t kTexels = 1U << kU | 1U << kV;
 
-    static constexpr int x = 0;
-    static constexpr int depth = 1;
-    static constexpr int u = hasDepth ? 2 : 1;
-    static constexpr int v = u + 1;
-    static constexpr int red = hasTexels ? u + 2 : u;
-    static constexpr int count = isGouraud ? red + 3 : red;
+template <class L> using Ints = typename L::Ints;
+template <class L> using Words = typename L::Words;
+template <class L> using Pixels = typename L::Pixels;
+template <class L> using Quad = typename L::Quad;
 
-    // Spans of 16.16 depth and of intensities start half a unit further on.
-    static constexpr bool startsAtHalf(int k) {
-        return (k == depth && hasDepth && R.depth != DepthRule::W) || (k >= red && k < red + 3);
-    }
-};
+// Each attribute of the pixels at hand, or what it changes by; those that a filler has no use for
+// are never touched.
+template <class L> struct Attributes { Ints<L> of[kAttributeCount]; };
+// The attribute; moves it on.
+template <class L> OMBREL_INLINE Ints<L> Take(Ints<L>* attribute, Ints<L> by) {
+    const Ints<L> taken = *attribute;
+    *attribute += by;
+    return taken;
+}
 
 // What stays the same over one triangle.
-struct Brush {
-    const Pixel16* texels;
-    std::int32_t shift;      // from a texture row to a texel index
-    std::int32_t lastColumn; // of the texture
-    std::int32_t lastTexel;  // index of the last texel that the texture's memory holds
-    std::uint32_t color;     // colour 0
-    const Pixel16* under;    // blend table of the pixel that is there
-    const Pixel16* over;     // blend table of the source
+template <class L> struct Brush {
+    TexelMemory memory;
+    std::uint32_t color; // colour 0
+    typename L::Weights weights;
 };
 
-inline constexpr Pixel16 kNoTexel = 0; // what a texture without texels shows
+// The corners of a triangle, a number each in three of four.
+template <class L> struct Corners {
+    Quad<L> x, y, z;          // rounded
+    typename L::Floats uv[2]; // u and v of the first two; of the third
+    Quad<L> color;
+};
 
-template <FillerRules R> Brush MakeBrush(const ScreenPolygon& polygon, std::uint32_t level) {
-    Brush brush{};
-    brush.color = polygon.litColors[0] & 0xFFFF;
-    if constexpr (Slots<R>::hasTexels) {
-        // An 8-bit texture holds half as many 16-bit texels.
-        const Texture& texture = *polygon.texture.single;
-        const std::int32_t texels =
-            (texture.width * texture.height) >> (texture.bitsPerPixel == 8 ? 1 : 0);
-        brush.texels = texels > 0 ? static_cast<const Pixel16*>(texture.pixels) : &kNoTexel;
-        brush.shift =
-            Log2Table[static_cast<std::size_t>(std::clamp(texture.width, 0, kLog2TableSize - 1))];
-        brush.lastColumn = texture.width - 1;
-        brush.lastTexel = std::max(texels, 1) - 1;
-    }
-    if constexpr (R.write == WriteRule::Blend) {
-        brush.under = BlendTables[7 - level];
-        brush.over = BlendTables[level];
-    }
-    return brush;
-}
+// The pixels of a part of a block that are to be drawn: the first so many lanes.
+template <class L> struct Live {
+    std::int32_t count; // 1..kLanes
+    Ints<L> dead;       // mask of the others
+};
 
-// x and y of the corner are set already.
-template <FillerRules R>
-void FillSlots(const Vertex& vertex, std::uint32_t color, Corner<Slots<R>::count>* corner) {
-    using S = Slots<R>;
-    corner->slot[S::x] = corner->x << 16;
-    [[maybe_unused]] const std::int32_t z = ToIntChop(vertex.z + 0.5F);
-    if constexpr (R.depth == DepthRule::W) {
-        corner->slot[S::depth] = DivChop(0x10000000, z);
-    } else if constexpr (S::hasDepth) {
-        corner->slot[S::depth] = z << 16;
-    }
-    if constexpr (S::inPerspective) { // half a texel from the affine ones: REQUIRED R5
-        corner->slot[S::u] = DivChop(ToIntChop(vertex.u + 0.5F) << 22, z);
-        corner->slot[S::v] = DivChop(ToIntChop(vertex.v + 0.5F) << 22, z);
-    } else if constexpr (S::hasTexels) {
-        corner->slot[S::u] = ToIntChop(vertex.u) << 16;
-        corner->slot[S::v] = ToIntChop(vertex.v) << 16;
-    }
-    if constexpr (S::isGouraud) {
-        corner->slot[S::red + 0] = static_cast<std::int32_t>((color >> 8) & 248) << 16;
-        corner->slot[S::red + 1] = static_cast<std::int32_t>((color >> 3) & 252) << 16;
-        corner->slot[S::red + 2] = static_cast<std::int32_t>((color & 31) * 8) << 16;
-    }
-}
+// --- depth: smaller or larger is nearer; the cell is written where the pixel is drawn ------------
 
-// Whether no pixel of the triangle can reach past the texture, so that indices need no bound.
-// Between corners the linear coordinates stay between theirs; the ones in perspective need not.
-template <FillerRules R>
-bool TexelsStayInside(const Brush& brush, const Corner<Slots<R>::count> corners[3]) {
-    using S = Slots<R>;
-    if constexpr (S::inPerspective) {
-        return false;
-    } else {
-        // Bilinear sampling looks one row further down, as far as there are columns.
-        const std::int32_t rowBelow = R.texel == TexelRule::Bilinear ? 1 : 0;
-        for (std::int32_t i = 0; i < 3; ++i) {
-            const std::int32_t u = corners[i].slot[S::u] >> 16;
-            const std::int32_t v = corners[i].slot[S::v] >> 16;
-            const std::int32_t row = std::max(v, std::min(v + rowBelow, brush.lastColumn));
-            if (u < 0 || u > brush.lastColumn || v < 0 ||
-                (row << brush.shift) + brush.lastColumn > brush.lastTexel) {
-                return false;
-            }
+struct NoDepth { // always drawn
+    static constexpr std::uint32_t kNeeds = 0;
+    static constexpr std::int32_t kSpanStart = 0;
+    static constexpr bool kTests = false;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>&, Quad<L> (&)[8]) {}
+    template <class L> OMBREL_INLINE static Words<L> Nearer(Words<L> depth, Words<L>) {
+        return depth;
+    }
+};
+
+struct ZWrite { // smaller is nearer; written but never tested
+    static constexpr std::uint32_t kNeeds = 1U << kDepth;
+    static constexpr std::int32_t kSpanStart = 0x8000;
+    static constexpr bool kTests = false;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>& c, Quad<L> (&to)[8]) {
+        to[kDepth] = c.z << 16;
+    }
+    template <class L> OMBREL_INLINE static Words<L> Nearer(Words<L> depth, Words<L>) {
+        return depth;
+    }
+};
+
+struct Z : ZWrite { // drawn where below the cell, unsigned
+    static constexpr bool kTests = true;
+    template <class L> OMBREL_INLINE static Words<L> Nearer(Words<L> depth, Words<L> cell) {
+        return L::Min(depth, cell);
+    }
+};
+
+struct W { // larger is nearer; drawn where above the cell, unsigned
+    static constexpr std::uint32_t kNeeds = 1U << kDepth;
+    static constexpr std::int32_t kSpanStart = 0;
+    static constexpr bool kTests = true;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>& c, Quad<L> (&to)[8]) {
+        to[kDepth] = L::DivChop(Quad<L>{} + 0x10000000, c.z);
+    }
+    template <class L> OMBREL_INLINE static Words<L> Nearer(Words<L> depth, Words<L> cell) {
+        return L::Max(depth, cell);
+    }
+};
+
+// --- texels --------------------------------------------------------------------------------------
+
+// What a filler without a texture has for texels.
+struct Blank {};
+
+struct NoTexel {
+    static constexpr std::uint32_t kNeeds = 0;
+    static constexpr bool kBounds = false, kKeyed = false;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>&, Quad<L> (&)[8]) {}
+    template <class L> OMBREL_INLINE static Quad<L> Strays(const TexelMemory&, const Corners<L>&) {
+        return Quad<L>{};
+    }
+    template <class L, class P> OMBREL_INLINE static void AtSpanEnds(P*, P*) {}
+};
+
+// Whose texels are fetched one by one, from the index that Rule::IndexOf gives.
+template <class Rule> struct Fetched {
+    static constexpr std::uint32_t kNeeds = kTexels;
+    static constexpr bool kKeyed = false;
+    template <class L, class P> OMBREL_INLINE static void AtSpanEnds(P*, P*) {}
+
+    template <class L, bool bounded>
+    OMBREL_INLINE static Pixels<L> Part(const TexelMemory& memory, Ints<L> u, Ints<L> v,
+                                        Ints<L> depth, const Live<L>& live) {
+        Ints<L> index = Rule::template IndexOf<L>(memory, u, v, depth);
+        if constexpr (bounded) {
+            index = L::Bound(index, memory.lastTexel);
         }
-        return true;
+        return L::FetchTexels(memory.texels, index & ~live.dead, live.count);
     }
-}
+};
 
-// --- one pixel -----------------------------------------------------------------------------------
-
-template <FillerRules R> bool IsInFront(const std::int32_t* slot, const std::uint32_t* cell) {
-    if constexpr (R.depth == DepthRule::Z) {
-        return static_cast<std::uint32_t>(slot[Slots<R>::depth]) < *cell;
-    } else if constexpr (R.depth == DepthRule::W) {
-        return static_cast<std::uint32_t>(slot[Slots<R>::depth]) > *cell;
-    } else {
-        return true;
+// u and v linear over the triangle, cut to whole texels at the corners; as long as those lie in the
+// texture, so does everything between.
+struct Affine : Fetched<Affine> {
+    static constexpr bool kBounds = false;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>& c, Quad<L> (&to)[8]) {
+        to[kU] = L::ToIntChop(c.uv[0]) << 16;
+        to[kV] = L::ToIntChop(c.uv[1]) << 16;
     }
-}
-
-template <bool bounded>
-std::uint32_t TexelAt(const Brush& brush, std::int32_t column, std::int32_t row) {
-    const std::int32_t index = (row << brush.shift) + column;
-    return brush.texels[bounded ? std::clamp(index, 0, brush.lastTexel) : index];
-}
-
-// Four neighbours, weighted in 1/65536; the last column bounds columns and rows alike.
-// REQUIRED R4.
-template <bool bounded>
-std::uint32_t MixTexels(const Brush& brush, std::int32_t u, std::int32_t v) {
-    const std::int32_t x0 = u >> 16, x1 = std::min(x0 + 1, brush.lastColumn);
-    const std::int32_t y0 = v >> 16, y1 = std::min(y0 + 1, brush.lastColumn);
-    const std::uint32_t fu = (u >> 8) & 255, fv = (v >> 8) & 255;
-    const std::uint32_t texels[4] = {
-        TexelAt<bounded>(brush, x0, y0), TexelAt<bounded>(brush, x1, y0),
-        TexelAt<bounded>(brush, x0, y1), TexelAt<bounded>(brush, x1, y1)};
-    const std::uint32_t weights[4] = {(256 - fu) * (256 - fv), fu * (256 - fv), (256 - fu) * fv,
-                                      fu * fv};
-    std::uint32_t red = 0, green = 0, blue = 0;
-    for (int i = 0; i < 4; ++i) {
-        red += weights[i] * (texels[i] >> 11);
-        green += weights[i] * ((texels[i] >> 5) & 63);
-        blue += weights[i] * (texels[i] & 31);
+    // Negative for the corners that lie outside of the texture's memory.
+    template <class L>
+    OMBREL_INLINE static Quad<L> Strays(const TexelMemory& memory, const Corners<L>& c) {
+        return OutsideOf<L>(c, memory.lastColumn, LastRow(memory));
     }
-    return ((red >> 5) & 0xF800) + ((green >> 11) & 0xFFE0) + (blue >> 16);
-}
-
-template <FillerRules R, bool bounded>
-std::uint32_t Texel(const Brush& brush, const std::int32_t* slot) {
-    using S = Slots<R>;
-    if constexpr (!S::hasTexels) {
-        return 0;
-    } else if constexpr (R.texel == TexelRule::Bilinear) {
-        return MixTexels<bounded>(brush, slot[S::u], slot[S::v]);
-    } else if constexpr (R.texel == TexelRule::Span) {
-        return TexelAt<bounded>(brush, slot[S::u] >> 22, slot[S::v] >> 22);
-    } else if constexpr (R.texel == TexelRule::PerPixel) {
-        return TexelAt<bounded>(brush, DivChop(slot[S::u] << 6, slot[S::depth]),
-                                DivChop(slot[S::v] << 6, slot[S::depth]));
-    } else {
-        return TexelAt<bounded>(brush, slot[S::u] >> 16, slot[S::v] >> 16);
+    template <class L>
+    OMBREL_INLINE static Ints<L> IndexOf(const TexelMemory& memory, Ints<L> u, Ints<L> v, Ints<L>) {
+        return ((v >> 16) << memory.shift) + (u >> 16);
     }
-}
 
-template <FillerRules R>
-std::uint32_t Light(const Brush& brush, std::uint32_t t, const std::int32_t* slot) {
-    using S = Slots<R>;
-    if constexpr (S::isGouraud) {
-        const auto r = static_cast<std::uint32_t>(slot[S::red + 0]);
-        const auto g = static_cast<std::uint32_t>(slot[S::red + 1]);
-        const auto b = static_cast<std::uint32_t>(slot[S::red + 2]);
-        if constexpr (S::hasTexels) { // texel x intensity / 256, a channel
-            return (((((t >> 5) & 63) * g) >> 19) & 0x1FE0) + ((((t >> 11) * r) >> 13) & 0xF800) +
-                   (((t & 31) * b) >> 24);
-        }
-        return ((g >> 13) & 0xFFE0) + ((r >> 8) & 0xF800) + (b >> 19);
-    } else if constexpr (R.light == LightRule::Flat) {
+protected:
+    OMBREL_INLINE static std::int32_t LastRow(const TexelMemory& memory) {
+        return (memory.lastTexel - memory.lastColumn) >> memory.shift;
+    }
+    template <class L>
+    OMBREL_INLINE static Quad<L> OutsideOf(const Corners<L>& c, std::int32_t lastColumn,
+                                           std::int32_t lastRow) {
+        const Quad<L> two = L::ToIntChop(c.uv[0]), third = L::ToIntChop(c.uv[1]);
+        const Quad<L> last = {lastColumn, lastRow, lastColumn, lastRow};
+        return two | third | (last - two) | (last - third);
+    }
+};
+
+struct Keyed : Affine { // a texel of 0 leaves pixel and depth alone
+    static constexpr bool kKeyed = true;
+};
+
+struct Bilinear : Affine { // mixed from four texels
+    // One row further down is looked at, as far as there are columns, and pairs of columns.
+    template <class L>
+    OMBREL_INLINE static Quad<L> Strays(const TexelMemory& memory, const Corners<L>& c) {
+        const std::int32_t last = memory.lastColumn, row = LastRow(memory);
+        return OutsideOf<L>(c, last, last < 1 ? -1 : row - (row < last ? 1 : 0));
+    }
+    template <class L, bool bounded>
+    OMBREL_INLINE static Words<L> Part(const TexelMemory& memory, Ints<L> u, Ints<L> v, Ints<L>,
+                                       const Live<L>& live) {
+        return L::template MixTexels<bounded>(memory, u & ~live.dead, v & ~live.dead);
+    }
+};
+
+// u / z and v / z are linear over the triangle; texels are bounded wherever they lie.
+template <class Rule> struct Perspective : Fetched<Rule> {
+    static constexpr bool kBounds = true;
+    // Half a texel from the affine ones: REQUIRED R5.
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>& c, Quad<L> (&to)[8]) {
+        const Quad<L> two = L::template Shuffle<0, 0, 1, 1>(c.z, c.z);
+        const Quad<L> third = L::template Shuffle<2, 2, 2, 2>(c.z, c.z);
+        to[kU] = L::DivChop(L::ToIntChop(c.uv[0] + 0.5F) << 22, two);
+        to[kV] = L::DivChop(L::ToIntChop(c.uv[1] + 0.5F) << 22, third);
+    }
+    template <class L> OMBREL_INLINE static Quad<L> Strays(const TexelMemory&, const Corners<L>&) {
+        return Quad<L>{};
+    }
+};
+
+struct PerPixel : Perspective<PerPixel> { // in perspective at every pixel, whole texels
+    template <class L>
+    OMBREL_INLINE static Ints<L> IndexOf(const TexelMemory& memory, Ints<L> u, Ints<L> v,
+                                         Ints<L> depth) {
+        const auto texel = L::DivChop(u << 6, v << 6, depth);
+        return (texel.b << memory.shift) + texel.a;
+    }
+};
+
+struct Span : Perspective<Span> { // in perspective at both ends of a span, linear between
+    template <class L, class P> OMBREL_INLINE static void AtSpanEnds(P* left, P* right) {
+        L::template ProjectEnds<kU, kDepth>(left, right);
+    }
+    template <class L>
+    OMBREL_INLINE static Ints<L> IndexOf(const TexelMemory& memory, Ints<L> u, Ints<L> v, Ints<L>) {
+        return ((v >> 22) << memory.shift) + (u >> 22);
+    }
+};
+
+// --- light: the colours of a block from its texels -----------------------------------------------
+
+struct Unlit { // the texel as it is
+    static constexpr std::uint32_t kNeeds = 0;
+    static constexpr std::int32_t kSpanStart = 0;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>&, Quad<L> (&)[8]) {}
+    template <class L, int parts>
+    OMBREL_INLINE static Pixels<L> Light(const Brush<L>&, Pixels<L> texels, Attributes<L>*,
+                                         const Attributes<L>&) {
+        return texels;
+    }
+};
+
+struct Flat { // colour 0, or the texel times colour 0
+    static constexpr std::uint32_t kNeeds = 0;
+    static constexpr std::int32_t kSpanStart = 0;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>&, Quad<L> (&)[8]) {}
+    template <class L, int parts>
+    OMBREL_INLINE static Pixels<L> Light(const Brush<L>& brush, Blank, Attributes<L>*,
+                                         const Attributes<L>&) {
+        return L::AllPixels(brush.color);
+    }
+    // Channels stay in their places: 2^11 red x 2^11 red is 64 times the product, and so on.
+    template <class L, int parts>
+    OMBREL_INLINE static Pixels<L> Light(const Brush<L>& brush, Pixels<L> t, Attributes<L>*,
+                                         const Attributes<L>&) {
         const std::uint32_t k = brush.color;
-        if constexpr (S::hasTexels) { // texel x colour / 32 or 64, a channel
-            return (((((t >> 5) & 63) * ((k >> 5) & 63)) >> 1) & 0x7FE0) +
-                   ((((t >> 11) * (k >> 11)) & 0xFFE0) * 64) + (((t & 31) * (k & 31)) >> 5);
+        const Pixels<L> red = L::HighHalves(t & 0xF800, L::AllPixels(k & 0xF800));
+        const Pixels<L> green = L::HighHalves(t & 0x07E0, L::AllPixels((k & 0x07E0) << 5));
+        const Pixels<L> blue = L::HighHalves(t & 0x001F, L::AllPixels((k & 0x001F) << 11));
+        return (green & 0x07E0) + (red & 0xF800) + blue;
+    }
+};
+
+struct Gouraud { // the colour between the three colours, or the texel times it
+    static constexpr std::uint32_t kNeeds = kColors;
+    static constexpr std::int32_t kSpanStart = 0x8000;
+    template <class L> OMBREL_INLINE static void Fill(const Corners<L>& c, Quad<L> (&to)[8]) {
+        to[kRed] = (c.color & 0xF800) << 8;
+        to[kGreen] = (c.color & 0x07E0) << 13;
+        to[kBlue] = (c.color & 0x001F) << 19;
+    }
+    template <class L, int parts, class T>
+    OMBREL_INLINE static Pixels<L> Light(const Brush<L>&, T texels, Attributes<L>* at,
+                                         const Attributes<L>& by) {
+        Words<L> lit[parts];
+        lit[0] = Part<L>(TexelsOf<L, 0>(texels), at, by);
+        if constexpr (parts == 2) {
+            lit[1] = Part<L>(TexelsOf<L, 1>(texels), at, by);
         }
-        return k;
-    } else {
-        return t;
+        return L::Join(lit[0], lit[parts - 1]);
     }
-}
 
-template <WriteRule W> Pixel16 Write(const Brush& brush, std::uint32_t source, Pixel16 there) {
-    if constexpr (W == WriteRule::Blend) {
-        return static_cast<Pixel16>(brush.under[there] + brush.over[source & 0xFFFF]);
-    } else {
-        return static_cast<Pixel16>(source);
+private:
+    template <class L, int i> OMBREL_INLINE static Blank TexelsOf(Blank blank) { return blank; }
+    template <class L, int i> OMBREL_INLINE static Words<L> TexelsOf(Pixels<L> texels) {
+        return L::template Widen<i>(texels);
     }
-}
+    template <class L>
+    OMBREL_INLINE static Words<L> Part(Blank, Attributes<L>* at, const Attributes<L>& by) {
+        const auto r = (Words<L>)Take<L>(&at->of[kRed], by.of[kRed]);
+        const auto g = (Words<L>)Take<L>(&at->of[kGreen], by.of[kGreen]);
+        const auto b = (Words<L>)Take<L>(&at->of[kBlue], by.of[kBlue]);
+        return ((g >> 13) & 0xFFE0) + ((r >> 8) & 0xF800) + (b >> 19);
+    }
+    // texel x intensity / 256, a channel
+    template <class L>
+    OMBREL_INLINE static Words<L> Part(Words<L> t, Attributes<L>* at, const Attributes<L>& by) {
+        const auto r = (Words<L>)Take<L>(&at->of[kRed], by.of[kRed]);
+        const auto g = (Words<L>)Take<L>(&at->of[kGreen], by.of[kGreen]);
+        const auto b = (Words<L>)Take<L>(&at->of[kBlue], by.of[kBlue]);
+        return (((((t >> 5) & 63) * g) >> 19) & 0x1FE0) + ((((t >> 11) * r) >> 13) & 0xF800) +
+               (((t & 31) * b) >> 24);
+    }
+};
 
+// --- writing -------------------------------------------------------------------------------------
+
+struct Set { // replaces the pixel
+    static constexpr bool kMixes = false;
+    template <class L> OMBREL_INLINE static void Prepare(std::uint32_t, Brush<L>*) {}
+    template <class L>
+    OMBREL_INLINE static Pixels<L> Write(const Brush<L>&, Pixels<L> source, Pixels<L>) {
+        return source;
+    }
+};
+
+struct Blend { // BlendTables[7 - level][pixel] + BlendTables[level][source]
+    static constexpr bool kMixes = true;
+    template <class L> OMBREL_INLINE static void Prepare(std::uint32_t level, Brush<L>* brush) {
+        brush->weights = L::WeightsOf(level, BlendTables);
+    }
+    template <class L>
+    OMBREL_INLINE static Pixels<L> Write(const Brush<L>& brush, Pixels<L> source, Pixels<L> there) {
+        return L::Blend(brush.weights, source, there);
+    }
+};
+
+// --- edges ---------------------------------------------------------------------------------------
+
+struct Open { // right column and bottom row belong to the neighbour
+    static constexpr std::int32_t kClosed = 0;
+};
+struct Closed { // right column and bottom row are drawn, up to the clip rectangle: REQUIRED R2
+    static constexpr std::int32_t kClosed = 1;
+};
+
+// --- a row of the table --------------------------------------------------------------------------
+
+template <class DepthRule, class TexelRule, class LightRule, class WriteRule, class EdgeRule>
+struct Rules {
+    using Depth = DepthRule;
+    using Texel = TexelRule;
+    using Light = LightRule;
+    using Write = WriteRule;
+
+    static constexpr std::uint32_t kNeeds =
+        1U << kX | Depth::kNeeds | Texel::kNeeds | Light::kNeeds;
+    static constexpr bool kHasDepth = Depth::kNeeds != 0;
+    static constexpr bool kHasTexels = Texel::kNeeds != 0;
+    static constexpr bool kBounds = Texel::kBounds; // texels, to the texture's memory
+    static constexpr std::int32_t kClosed = EdgeRule::kClosed;
+    static constexpr bool kAlwaysClips = kClosed != 0;
+    static constexpr bool kMayWrap = false; // differences of coordinates
+
+    // What is added to attribute k where a span starts.
+    static constexpr std::int32_t SpanStart(int k) {
+        return k == kDepth                     ? Depth::kSpanStart
+               : (Light::kNeeds >> k & 1) != 0 ? Light::kSpanStart
+                                               : 0;
+    }
+};
+// The same for triangles that are not ordinary.
+template <class R> struct Careful : R {
+    static constexpr bool kBounds = R::kHasTexels;
+    static constexpr bool kAlwaysClips = true;
+    static constexpr bool kMayWrap = true;
+};
+
+} // namespace
 } // namespace ombrel

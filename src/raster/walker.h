@@ -1,6 +1,6 @@
-// The triangle walker: from three corners to one span a row, for every filler and every twin.
-// An attribute is a 32-bit slot k of N; slot 0 is x in 16.16, what the others mean is not known
-// here. Arithmetic is 32-bit, wraps on overflow, and divides toward zero. Called by fillers.cpp.
+// The triangle walker: from three corners to one span a row, for every filler and every lane set. A
+// point is all attributes of one place; the first is x in 16.16, what the others mean is not known
+// here. Arithmetic is 32-bit, wraps on overflow, and divides toward zero. Used by triangle.h.
 //
 //         T                 rows       edges          drawn
 //        /|                 a          T-M and T-B    T.y up to and including M.y
@@ -17,103 +17,99 @@
 // swap.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
-#include <utility>
+
+#include "lanes/inline.h"
 
 namespace ombrel {
-
-// Toward zero. By 0: 0. The one quotient that does not fit, INT32_MIN / -1, wraps to INT32_MIN.
-inline std::int32_t DivChop(std::int32_t dividend, std::int32_t divisor) {
-    if (static_cast<std::uint32_t>(divisor) + 1U > 1U) [[likely]] {
-        return dividend / divisor;
-    }
-    return divisor == 0 ? 0 : static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(dividend));
-}
-
-// Calls action(k) for k = first..last - 1, unrolled.
-template <int first, int last, class Action> constexpr void ForEachSlot(Action action) {
-    [&]<int... k>(std::integer_sequence<int, k...>) {
-        (action(first + k), ...);
-    }
-    (std::make_integer_sequence<int, last - first>{});
-}
-
-template <int N> struct Corner {
-    std::int32_t x, y; // pixels
-    std::int32_t slot[N];
-};
-
-template <int N> struct Edge {
-    std::int32_t slot[N]; // in the row at hand
-    std::int32_t step[N]; // a row
-};
-
-// The edge, advanced by a number of rows from its upper end.
-template <int N>
-Edge<N> MakeEdge(const Corner<N>& upper, const Corner<N>& lower, std::int32_t rows) {
-    Edge<N> edge;
-    ForEachSlot<0, N>([&](int k) {
-        edge.step[k] = DivChop(lower.slot[k] - upper.slot[k], lower.y - upper.y);
-        edge.slot[k] = upper.slot[k] + edge.step[k] * rows;
-    });
-    return edge;
-}
+namespace {
 
 // Rows to draw, last excluded.
 struct RowRange {
     std::int32_t first, last;
 };
 
-// Calls drawSpan(left slots, right slots) for each of the rows, top to bottom; they are rows of the
-// triangle within the clip rectangle. Not all three y may be equal.
-template <int N, class DrawSpan>
-void WalkTriangle(const Corner<N> corners[3], RowRange rows, DrawSpan drawSpan) {
-    // Order the corners top to bottom; equal ones keep their order.
-    const Corner<N>* top = &corners[0];
-    const Corner<N>* middle = &corners[1];
-    const Corner<N>* bottom = &corners[2];
-    if (middle->y < top->y) {
-        std::swap(top, middle);
-    }
-    if (bottom->y < middle->y) {
-        std::swap(middle, bottom);
-        if (middle->y < top->y) {
-            std::swap(top, middle);
-        }
-    }
-    const bool flatTop = top->y == middle->y;       // d
-    const bool flatBottom = middle->y == bottom->y; // e
+// Corners from top to bottom, and what the three edges change by in a row; those of an edge without
+// rows are never used.
+template <class Point> struct Edges {
+    Point top, middle, bottom;
+    std::int32_t topY, middleY;
+    Point longStep, upperStep, lowerStep;
+    bool longOnLeft;
+};
 
-    // Set up the long edge, and the lower short edge where the upper one has no row. (a, c, d)
-    const bool turned = flatTop || middle->y < rows.first;
-    const Corner<N>& from = turned ? *middle : *top;
-    const Corner<N>& to = turned ? *bottom : *middle;
-    Edge<N> longEdge = MakeEdge(*top, *bottom, rows.first - top->y);
-    Edge<N> shortEdge = MakeEdge(from, to, rows.first - from.y);
-    // Choose their sides; the slopes are those of the edges that meet at the top. (f)
-    bool longOnLeft = top->x <= middle->x;
-    if (!flatTop) {
-        const std::int32_t slope = turned
-                                       ? DivChop(middle->slot[0] - top->slot[0], middle->y - top->y)
-                                       : shortEdge.step[0];
-        longOnLeft = flatBottom ? bottom->x < middle->x : longEdge.step[0] < slope;
-    }
-    const std::int32_t bend = flatTop ? rows.last : middle->y;
-    Edge<N>& left = longOnLeft ? longEdge : shortEdge;
-    Edge<N>& right = longOnLeft ? shortEdge : longEdge;
+// Corner numbers from top to bottom; equal ones keep their order. Bits of the index: 1 stands above
+// 0, 2 above 1, 2 above 0.
+constexpr std::uint8_t kOrder[8][3] = {{0, 1, 2}, {1, 0, 2}, {0, 2, 1}, {1, 2, 0},
+                                       {0, 1, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
 
-    for (std::int32_t row = rows.first; row < rows.last; ++row) {
-        drawSpan(left.slot, right.slot);
-        ForEachSlot<0, N>([&](int k) {
-            longEdge.slot[k] += longEdge.step[k];
-            shortEdge.slot[k] += shortEdge.step[k];
-        });
-        // Turn at the middle corner: its own row was still drawn with the upper short edge. (b)
-        if (row == bend) {
-            shortEdge = MakeEdge(*middle, *bottom, 1);
+// x, y: of the three corners, in pixels.
+template <class L, bool mayWrap, class Point>
+OMBREL_INLINE Edges<Point> MakeEdges(const Point (&corners)[3], typename L::Quad x,
+                                     typename L::Quad y) {
+    // Order the corners top to bottom.
+    const typename L::Quad one = L::template Shuffle<1, 2, 2, 0>(y, y);
+    const typename L::Quad other = L::template Shuffle<0, 1, 0, 0>(y, y);
+    const std::uint8_t* order = kOrder[L::SignsOf(one < other)];
+    std::int32_t xs[4], ys[4];
+    L::StoreQuad(xs, x);
+    L::StoreQuad(ys, y);
+    Edges<Point> edges;
+    edges.top = corners[order[0]];
+    edges.middle = corners[order[1]];
+    edges.bottom = corners[order[2]];
+    edges.topY = ys[order[0]];
+    edges.middleY = ys[order[1]];
+    const std::int32_t bottomY = ys[order[2]];
+    // Divide for the steps.
+    edges.longStep = L::Divide(edges.bottom - edges.top, bottomY - edges.topY);
+    edges.upperStep = L::Divide(edges.middle - edges.top, edges.middleY - edges.topY);
+    edges.lowerStep = L::Divide(edges.bottom - edges.middle, bottomY - edges.middleY);
+    // Choose the sides. (d, f; over equal rows, slopes differ where the lower ends do: e is a case
+    // of its own only where differences wrap.)
+    edges.longOnLeft = L::template Get<0>(edges.longStep) < L::template Get<0>(edges.upperStep);
+    if (edges.topY == edges.middleY) {
+        edges.longOnLeft = xs[order[0]] <= xs[order[1]];
+    } else if (mayWrap && edges.middleY == bottomY) {
+        edges.longOnLeft = xs[order[2]] < xs[order[1]];
+    }
+    return edges;
+}
+
+// Calls drawSpan(left, right) for each of the rows, top to bottom; they are rows of the triangle
+// within the clip rectangle. Not all three y may be equal.
+template <class L, class Point, class DrawSpan>
+OMBREL_INLINE void WalkTriangle(const Edges<Point>& edges, RowRange rows, DrawSpan& drawSpan) {
+    // The upper short edge serves the row of the middle corner too (a); where it has no row, the
+    // lower one begins at once (c, d).
+    const bool onlyLower = edges.topY == edges.middleY || edges.middleY < rows.first;
+    const bool long1 = edges.longOnLeft;
+    const Point longEdge = edges.top + edges.longStep * (rows.first - edges.topY);
+    Point shortEdge = onlyLower ? edges.middle + edges.lowerStep * (rows.first - edges.middleY)
+                                : edges.top + edges.upperStep * (rows.first - edges.topY);
+    Point shortStep = onlyLower ? edges.lowerStep : edges.upperStep;
+    Point left = L::Choose(long1, longEdge, shortEdge),
+          right = L::Choose(long1, shortEdge, longEdge);
+    const bool turns = !onlyLower && edges.middleY < rows.last - 1;
+    std::int32_t row = rows.first;
+    for (std::int32_t end = turns ? edges.middleY + 1 : rows.last;; end = rows.last) {
+        const Point leftStep = L::Choose(long1, edges.longStep, shortStep);
+        const Point rightStep = L::Choose(long1, shortStep, edges.longStep);
+        for (; row < end; ++row) {
+            drawSpan(left, right);
+            left += leftStep;
+            right += rightStep;
         }
+        if (row >= rows.last) {
+            return;
+        }
+        // Turn at the middle corner: one step has been taken there already. (b)
+        shortStep = edges.lowerStep;
+        shortEdge = edges.middle + edges.lowerStep;
+        left = L::Choose(long1, left, shortEdge);
+        right = L::Choose(long1, shortEdge, right);
     }
 }
 
+} // namespace
 } // namespace ombrel

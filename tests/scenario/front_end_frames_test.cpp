@@ -15,7 +15,7 @@
 #include "demo/scene_one.h"
 #include "demo/scene_two.h"
 #include "demo/world.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 #include "scene/camera.h"
 #include "support/production_run.h"
 

@@ -501,9 +501,12 @@ std::string CompareOne(const RandomStage& stage, const reference::Filler& row, F
                        const Scene& scene, const Buffers& buffers, const ScreenPolygon& polygon) {
     ScreenPolygon fastPolygon = polygon;
     ScreenPolygon slowPolygon = polygon;
-    const FillTarget fastTarget = {reinterpret_cast<Pixel16*>(buffers.frame), scene.framePitch,
+    const FillTarget fastTarget = {reinterpret_cast<Pixel16*>(buffers.frame),
+                                   scene.framePitch,
                                    reinterpret_cast<std::uint32_t*>(buffers.depth),
-                                   scene.depthPitch, scene.level};
+                                   scene.depthPitch,
+                                   scene.level,
+                                   scene.clip};
     const reference::Target slowTarget = {reinterpret_cast<Pixel16*>(buffers.frameCopy),
                                           scene.framePitch,
                                           reinterpret_cast<std::uint32_t*>(buffers.depthCopy),

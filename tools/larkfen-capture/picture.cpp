@@ -5,8 +5,7 @@
 #include <cstdio>
 #include <cstring>
 
-#if __has_include(<png.h>) && !defined(OMBREL_WITHOUT_PNG)
-#define OMBREL_PNG
+#if __has_include(<png.h>)
 #include <png.h>
 #endif
 
@@ -39,7 +38,7 @@ void ToRgb(const ombrel::Pixel16* pixels, std::int32_t pitch, std::int32_t width
     }
 }
 
-#ifdef OMBREL_PNG
+#if __has_include(<png.h>)
 
 std::string WritePng(const std::string& path, const std::vector<std::uint8_t>& rgb,
                      std::int32_t width, std::int32_t height) {

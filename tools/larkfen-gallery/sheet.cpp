@@ -54,7 +54,7 @@ void BeginSection(Gallery* g, const char* title) {
 }
 
 // Draws backdrop and label of the next cell, clears the depth buffer; returns the cell's frame.
-Pixel16* BeginCell(Gallery* g, const std::string& label, DepthRule rule) {
+Pixel16* BeginCell(Gallery* g, const std::string& label, std::string_view rule) {
     if (g->x + kCellWidth > g->sheet.width) {
         g->x = kGap;
         g->y += kCellHeight + kLabel;
@@ -66,7 +66,7 @@ Pixel16* BeginCell(Gallery* g, const std::string& label, DepthRule rule) {
         }
     }
     DrawText(&g->sheet, g->x, g->y + kCellHeight + 3, label, kInk);
-    const std::uint32_t clear = rule == DepthRule::W ? 0U : 0xFFFFFFFFU;
+    const std::uint32_t clear = rule == "W" ? 0U : 0xFFFFFFFFU;
     g->depth.assign(std::size_t{kCellWidth} * kCellHeight, clear);
     Pixel16* frame = g->sheet.At(g->x, g->y);
     g->x += kCellWidth + kGap;
@@ -74,7 +74,7 @@ Pixel16* BeginCell(Gallery* g, const std::string& label, DepthRule rule) {
 }
 
 FillTarget TargetOf(Gallery* g, Pixel16* frame, std::uint32_t level) {
-    return {frame, g->sheet.Pitch(), g->depth.data(), kCellWidth * 4, level};
+    return {frame, g->sheet.Pitch(), g->depth.data(), kCellWidth * 4, level, clipRect};
 }
 
 // --- textures
@@ -150,7 +150,7 @@ void DrawTriangle(Gallery* g, FillerId id, const Triangle& triangle, const FillT
 void DrawFillers(Gallery* g) {
     BeginSection(g, "The 45 fillers on the same four triangles, blended ones at level 4 of 7");
     for (std::int32_t id = 0; id < kFillerCount; ++id) {
-        Pixel16* frame = BeginCell(g, kFillerTable[id].name, kFillerTable[id].rules.depth);
+        Pixel16* frame = BeginCell(g, kFillerTable[id].name, kFillerTable[id].depth);
         const FillTarget target = TargetOf(g, frame, 4);
         for (const Triangle& triangle : kFloor) {
             DrawTriangle(g, static_cast<FillerId>(id), triangle, target);
@@ -164,7 +164,7 @@ void DrawFillers(Gallery* g) {
 void DrawBlendLevels(Gallery* g) {
     BeginSection(g, "Blend levels 0 to 7, FillTexGouraudWBlend over FillTexWSpan");
     for (std::uint32_t level = 0; level <= kLargestLevel; ++level) {
-        Pixel16* frame = BeginCell(g, "level " + std::to_string(level), DepthRule::W);
+        Pixel16* frame = BeginCell(g, "level " + std::to_string(level), "W");
         for (const Triangle& triangle : kFloor) {
             DrawTriangle(g, FillerId::FillTexWSpan, triangle, TargetOf(g, frame, level));
         }
@@ -186,6 +186,7 @@ void DrawList(Gallery* g, Pixel16* frame, std::uint32_t flags) {
     job.depth = g->depth.data();
     job.depthPitch = kCellWidth * 4;
     job.level = -1;
+    job.clip = clipRect;
     job.mipDistance = 700; // 100 a level of the mip chain
     DrawFaces(&job);
 }
@@ -198,7 +199,7 @@ void DrawMipLevels(Gallery* g) {
         const std::string size = std::to_string(kMipWidth >> level);
         std::string label = "level " + std::to_string(level);
         label.append(", ").append(size).append(" x ").append(size);
-        Pixel16* frame = BeginCell(g, label, DepthRule::W);
+        Pixel16* frame = BeginCell(g, label, "W");
         FaceListClear(g->list.get());
         for (int half = 0; half < 2; ++half) {
             RenderFace& face = g->list->records[half];
@@ -353,14 +354,14 @@ void DrawLights(Gallery* g) {
     FaceList* list = g->list.get();
     for (std::int32_t i = 0; i <= kLightCount; ++i) {
         const bool all = i == kLightCount;
-        Pixel16* frame = BeginCell(g, all ? "all five" : kLights[i].label, DepthRule::W);
+        Pixel16* frame = BeginCell(g, all ? "all five" : kLights[i].label, "W");
         GatherBall(list);
         RunPipeline(list, all ? lights : &lights[i], all ? kLightCount : 1);
         DrawList(g, frame, DRAW_INV_DEPTH | DRAW_PATH_1);
     }
     const Rect cell{0, 0, kCellWidth, kCellHeight};
-    DrawFaceListDots(list, {BeginCell(g, "dots", DepthRule::W), g->sheet.Pitch(), cell});
-    DrawFaceListWire(list, {BeginCell(g, "wires", DepthRule::W), g->sheet.Pitch(), cell});
+    DrawFaceListDots(list, {BeginCell(g, "dots", "W"), g->sheet.Pitch(), cell});
+    DrawFaceListWire(list, {BeginCell(g, "wires", "W"), g->sheet.Pitch(), cell});
 }
 
 } // namespace

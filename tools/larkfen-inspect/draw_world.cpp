@@ -75,7 +75,7 @@ void RunPipeline(Stage* stage) {
     FaceList* const list = &sceneFaces;
     CullBackFaces(list, &stage->camera);
     LightsTransform(stage->lights, 2, nullptr, LightMove::Copy);
-    LightFaces(list, &stage->camera, {stage->lights, 2}, display.format.pack);
+    LightFaces(list, &stage->camera, {stage->lights, 2}, displayFormat.pack);
     TransformPolygonsToCamera(list, &stage->camera);
     ClipPolygons(list, &stage->camera, 7);
     ProjectPolygons(list, &stage->camera);
@@ -85,7 +85,6 @@ void RunPipeline(Stage* stage) {
 void DrawFilled(Stage* stage, const Area& area) {
     stage->depth.assign(
         static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height), 0);
-    clipRect = {0, 0, area.width, area.height};
     DrawJob job{};
     job.flags = kSceneJobFlags;
     job.faces = &sceneFaces;
@@ -94,8 +93,8 @@ void DrawFilled(Stage* stage, const Area& area) {
     job.depth = stage->depth.data();
     job.depthPitch = area.width * 4;
     job.level = -1;
+    job.clip = {0, 0, area.width, area.height};
     DrawFaces(&job);
-    ResetClipRect();
 }
 
 // The used vertices' box becomes a ball of this radius around the origin; a sky keeps its centre.

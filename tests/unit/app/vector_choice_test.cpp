@@ -5,7 +5,7 @@
 
 #include "app/vector_choice.h"
 #include "demo/reset.h"
-#include "raster/simd/paths.h"
+#include "raster/paths.h"
 
 namespace ombrel {
 namespace {
@@ -29,7 +29,7 @@ TEST_F(VectorChoice, PutsTheNamedTableInPlace) {
         EXPECT_EQ(ChooseVectorPath(&understood), path);
         EXPECT_TRUE(understood);
         for (int i = 0; i < kFillerCount; ++i) {
-            EXPECT_EQ(activeFillers[i], FillersOf(path)[i]) << NameOf(path) << " " << i;
+            EXPECT_EQ(activeFillers[i], RasterPathOf(path).fillers[i]) << NameOf(path) << " " << i;
         }
     }
 }
@@ -50,7 +50,7 @@ TEST_F(VectorChoice, IsTakenBackByTheReset) {
     ChooseVectorPath(nullptr);
     ResetWorld();
     for (int i = 0; i < kFillerCount; ++i) {
-        EXPECT_EQ(activeFillers[i], kScalarFillers[i]) << i;
+        EXPECT_EQ(activeFillers[i], kPlainPath.fillers[i]) << i;
     }
 }
 

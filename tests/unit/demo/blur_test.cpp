@@ -53,7 +53,7 @@ void CompareWithReference() {
 class BlurOfPath : public testing::TestWithParam<VectorPath> {
 protected:
     void SetUp() override {
-        if (!ProcessorRuns(GetParam()) || BlurRowOf(GetParam()) == nullptr) {
+        if (!ProcessorRuns(GetParam())) {
             GTEST_SKIP() << "this machine has no " << NameOf(GetParam());
         }
         UseBlur(GetParam());

@@ -15,6 +15,7 @@
 #include "base/rect.h"
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
+#include "raster/paths.h"
 
 namespace ombrel {
 
@@ -22,8 +23,8 @@ inline constexpr Pixel16 kBackground = 0x1234;
 inline constexpr std::int32_t kPadding = 3; // cells behind each row
 
 // What a cleared depth cell of a filler holds.
-inline std::uint32_t ClearDepth(DepthRule rule) {
-    return rule == DepthRule::W ? 0U : 0xFFFFFFFFU;
+inline std::uint32_t ClearDepth(std::string_view rule) {
+    return rule == "W" ? 0U : 0xFFFFFFFFU;
 }
 
 struct Canvas {
@@ -31,7 +32,7 @@ struct Canvas {
     std::vector<Pixel16> frame;
     std::vector<std::uint32_t> depth;
 
-    Canvas(std::int32_t canvasWidth, std::int32_t canvasHeight, DepthRule rule = DepthRule::W,
+    Canvas(std::int32_t canvasWidth, std::int32_t canvasHeight, std::string_view rule = "W",
            Pixel16 color = kBackground)
         : width(canvasWidth), height(canvasHeight),
           frame(static_cast<std::size_t>((canvasWidth + kPadding) * canvasHeight), color),
@@ -46,7 +47,8 @@ struct Canvas {
     std::uint32_t& DepthAt(std::int32_t x, std::int32_t y) { return depth[IndexOf(x, y)]; }
 
     FillTarget Target(std::uint32_t level = 7) {
-        return {frame.data(), (width + kPadding) * 2, depth.data(), (width + kPadding) * 4, level};
+        return {frame.data(), (width + kPadding) * 2, depth.data(), (width + kPadding) * 4, level,
+                clipRect};
     }
     bool operator==(const Canvas&) const = default;
 
@@ -99,15 +101,18 @@ inline ScreenPolygon MakePolygon(const std::array<Point, 3>& points, Texture* te
     return polygon;
 }
 
+inline Filler PlainFiller(FillerId id) {
+    return kPlainPath.fillers[static_cast<int>(id)];
+}
 // Draws with the plain filler of a number, leaving the polygon as it was.
 inline void DrawWith(std::int32_t id, ScreenPolygon polygon, const FillTarget& target) {
-    kScalarFillers[id](&polygon, target);
+    kPlainPath.fillers[id](&polygon, target);
 }
 inline void DrawWith(FillerId id, const ScreenPolygon& polygon, const FillTarget& target) {
     DrawWith(static_cast<std::int32_t>(id), polygon, target);
 }
-inline const FillerRules& RulesOf(std::int32_t id) {
-    return kFillerTable[id].rules;
+inline const FillerRow& RulesOf(std::int32_t id) {
+    return kFillerTable[id];
 }
 
 // Random numbers in a closed range.

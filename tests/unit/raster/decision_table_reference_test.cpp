@@ -158,8 +158,8 @@ std::unique_ptr<Scenery> MakeScenery() {
         scenery->levels[i] = MakeTexture(scenery.get(), 256 >> i);
         scenery->chain[i] = &scenery->levels[i];
     }
-    scenery->job = {0,  scenery->list.get(), scenery->frame, 1234, scenery->depth, 2468, -1, 100,
-                    100};
+    scenery->job = {0,   scenery->list.get(), scenery->frame, 1234, scenery->depth, 2468, -1, 100,
+                    100, {1, 2, 30, 40}};
     return scenery;
 }
 
@@ -242,6 +242,9 @@ std::string WrongTarget(const DrawJob& job, const RenderFace& face, const Record
     const bool hasDepth = KindOf(job.flags) != kNoDepth;
     if (hasDepth && (call.target.depth != job.depth || call.target.depthPitch != job.depthPitch)) {
         return "depth";
+    }
+    if (std::memcmp(&call.target.clip, &job.clip, sizeof job.clip) != 0) {
+        return "clip rectangle";
     }
     if (Blended(job, face) && call.target.level != ExpectedLevel(job, face)) {
         return "level";

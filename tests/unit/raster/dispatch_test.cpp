@@ -43,7 +43,7 @@ protected:
             list_->pointers[i] = &list_->records[i];
             list_->records[i].state = FACE_LIVE;
         }
-        job_ = {0, list_.get(), &pixel_, 1280, &cell_, 2560, -1, 100, 500};
+        job_ = {0, list_.get(), &pixel_, 1280, &cell_, 2560, -1, 100, 500, {0, 0, 640, 480}};
         Face().texture.single = &texture_.record;
     }
     void TearDown() override { ResetFillers(); }

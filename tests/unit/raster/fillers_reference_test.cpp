@@ -16,6 +16,7 @@
 #include "base/convert.h"
 #include "base/float_mode.h"
 #include "raster/fillers.h"
+#include "raster/paths.h"
 #include "support/filler_recorder.h"
 #include "support/random_triangles.h"
 #include "support/reference_fillers.h"
@@ -91,7 +92,7 @@ TEST_P(RandomTriangles, AreDrawnAsByTheReference) {
 
     ScopedFloatMode chop(FloatMode::Chop);
     const RandomComparison result =
-        CompareRandomTriangles(&stage, row, kScalarFillers[number], scenes);
+        CompareRandomTriangles(&stage, row, kPlainPath.fillers[number], scenes);
     ASSERT_EQ(result.failure, "");
     EXPECT_EQ(result.triangles, std::int64_t{scenes} * kTrianglesPerScene);
     // Triangles that draw nothing prove little: most of them must be seen.
@@ -121,108 +122,6 @@ TEST(FillerFamily, HasTheSame45NamesInBothTables) {
     }
     for (const FillerRow& row : kFillerTable) {
         EXPECT_NE(reference::FindFiller(row.name), nullptr) << row.name;
-    }
-}
-
-// --- every named function is the filler of its own row ------------------------------------------
-
-TEST(FillerFamily, EveryNamedFillerPassesItsArgumentsOn) {
-    RecordFillers();
-    const RecordedCall& lastCall = recordedCalls[0];
-    ScreenPolygon polygon = {};
-    Pixel16 framePixel = 0;
-    std::uint32_t depthCell = 0;
-    Pixel16* frame = &framePixel;
-    std::uint32_t* depth = &depthCell;
-    const std::int32_t framePitch = 1282;
-    const std::int32_t depthPitch = 2564;
-    const std::uint32_t level = 5;
-    int number = 0;
-// The argument lists typed by hand: with depth, with a level, or both.
-#define CHECK_COMMON(Fn)                                                                           \
-    EXPECT_STREQ(kFillerTable[lastCall.number].name, #Fn);                                         \
-    EXPECT_EQ(lastCall.address, &polygon);                                                         \
-    EXPECT_EQ(lastCall.target.frame, frame);                                                       \
-    EXPECT_EQ(lastCall.target.framePitch, framePitch);                                             \
-    EXPECT_EQ(recordedCount, 1);                                                                   \
-    ForgetCalls();                                                                                 \
-    ++number
-#define CHECK_DEPTH                                                                                \
-    EXPECT_EQ(lastCall.target.depth, depth);                                                       \
-    EXPECT_EQ(lastCall.target.depthPitch, depthPitch)
-#define CHECK_LEVEL EXPECT_EQ(lastCall.target.level, level)
-#define PLAIN(Fn)                                                                                  \
-    Fn(&polygon, frame, framePitch);                                                               \
-    CHECK_COMMON(Fn)
-#define PLAIN_BLEND(Fn)                                                                            \
-    Fn(&polygon, frame, framePitch, level);                                                        \
-    CHECK_COMMON(Fn);                                                                              \
-    CHECK_LEVEL
-#define DEPTH(Fn)                                                                                  \
-    Fn(&polygon, frame, framePitch, depth, depthPitch);                                            \
-    CHECK_COMMON(Fn);                                                                              \
-    CHECK_DEPTH
-#define DEPTH_BLEND(Fn)                                                                            \
-    Fn(&polygon, frame, framePitch, depth, depthPitch, level);                                     \
-    CHECK_COMMON(Fn);                                                                              \
-    CHECK_DEPTH;                                                                                   \
-    CHECK_LEVEL
-    PLAIN(FillFlat);
-    PLAIN_BLEND(FillFlatBlend);
-    PLAIN(FillGouraud);
-    PLAIN_BLEND(FillGouraudBlend);
-    PLAIN(FillTex);
-    PLAIN(FillTexAlt);
-    PLAIN_BLEND(FillTexBlend);
-    PLAIN(FillTexFlat);
-    PLAIN_BLEND(FillTexFlatBlend);
-    PLAIN(FillTexGouraud);
-    PLAIN_BLEND(FillTexGouraudBlend);
-    DEPTH(FillFlatZ);
-    DEPTH_BLEND(FillFlatZBlend);
-    DEPTH(FillGouraudZ);
-    DEPTH(FillGouraudZKeyedKind);
-    DEPTH_BLEND(FillGouraudZBlend);
-    DEPTH(FillTexZ);
-    DEPTH(FillTexZKeyed);
-    DEPTH(FillTexKeyedZWrite);
-    DEPTH(FillTexZAlt);
-    DEPTH_BLEND(FillTexZBlend);
-    DEPTH(FillTexFlatZ);
-    DEPTH(FillTexFlatKeyedZWrite);
-    DEPTH_BLEND(FillTexFlatZBlend);
-    DEPTH(FillTexGouraudZ);
-    DEPTH_BLEND(FillTexGouraudZBlend);
-    DEPTH(FillFlatW);
-    DEPTH_BLEND(FillFlatWBlend);
-    DEPTH(FillGouraudW);
-    DEPTH_BLEND(FillGouraudWBlend);
-    DEPTH(FillTexWAffine);
-    DEPTH(FillTexWAlt);
-    DEPTH(FillTexWPerPixel);
-    DEPTH(FillTexWSpan);
-    DEPTH_BLEND(FillTexWAffineBlend);
-    DEPTH_BLEND(FillTexWPerPixelBlend);
-    DEPTH_BLEND(FillTexWSpanBlend);
-    DEPTH(FillTexFlatWAffine);
-    DEPTH(FillTexFlatWPerPixel);
-    DEPTH(FillTexFlatWSpan);
-    DEPTH_BLEND(FillTexFlatWAffineBlend);
-    DEPTH_BLEND(FillTexFlatWPerPixelBlend);
-    DEPTH_BLEND(FillTexFlatWSpanBlend);
-    DEPTH(FillTexGouraudW);
-    DEPTH_BLEND(FillTexGouraudWBlend);
-#undef PLAIN
-#undef PLAIN_BLEND
-#undef DEPTH
-#undef DEPTH_BLEND
-#undef CHECK_COMMON
-#undef CHECK_DEPTH
-#undef CHECK_LEVEL
-    EXPECT_EQ(number, 45);
-    ResetFillers();
-    for (int i = 0; i < kFillerCount; ++i) {
-        EXPECT_EQ(activeFillers[i], kScalarFillers[i]) << kFillerTable[i].name;
     }
 }
 

@@ -10,6 +10,7 @@
 #include "base/rect.h"
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
+#include "raster/paths.h"
 #include "support/reference_fillers.h"
 
 namespace ombrel {
@@ -71,9 +72,8 @@ protected:
         ASSERT_NE(row, nullptr);
         Picture fast = *picture;
         ScreenPolygon fastPolygon = *polygon;
-        clipRect = drawing.clip;
-        kScalarFillers[number](&fastPolygon,
-                               {fast.frame, kSide * 2, fast.depth, kSide * 4, drawing.level});
+        kPlainPath.fillers[number](&fastPolygon, {fast.frame, kSide * 2, fast.depth, kSide * 4,
+                                                  drawing.level, drawing.clip});
         reference::Fill(*row, polygon,
                         {picture->frame, kSide * 2, picture->depth, kSide * 4, drawing.level,
                          drawing.clip, tables.data()});

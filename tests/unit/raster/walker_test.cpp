@@ -2,7 +2,8 @@
 // rounding, degenerate triangles, clipping, seams between neighbours, depth order.
 #include "canvas.h"
 
-#include "raster/walker.h"
+#include "lanes/reciprocal.h"
+#include "raster/paths.h"
 
 namespace ombrel {
 namespace {
@@ -52,7 +53,7 @@ TEST_F(WalkerTest, TriangleOneRowTallDrawsItsTopRowOnly) {
     for (std::int32_t id = 0; id < kFillerCount; ++id) {
         Canvas canvas(64, 48, RulesOf(id).depth);
         DrawWith(id, polygon, canvas.Target());
-        const bool closed = RulesOf(id).edges == EdgeRule::Closed;
+        const bool closed = RulesOf(id).edges == "Closed";
         for (std::int32_t y = 0; y < 48; ++y) {
             for (std::int32_t x = 0; x < 64; ++x) {
                 const bool top = y == 20 && x >= 10 && (x < 30 || (closed && x == 30));
@@ -71,7 +72,7 @@ TEST_F(WalkerTest, SpanWithEqualRoundedEndsDrawsNothing) {
     const ScreenPolygon polygon =
         MakePolygon({{{10, 10, 5, 0, 0}, {11, 10, 5, 7, 0}, {10, 30, 5, 7, 7}}}, &texture.record);
     for (std::int32_t id = 0; id < kFillerCount; ++id) {
-        if (RulesOf(id).edges == EdgeRule::Closed) {
+        if (RulesOf(id).edges == "Closed") {
             continue;
         }
         Canvas canvas(64, 48, RulesOf(id).depth);
@@ -95,7 +96,7 @@ TEST_F(WalkerTest, TriangleOutsideReturnsBeforeItIsLookedAt) {
     for (const auto& points : outside) {
         for (std::int32_t id = 0; id < kFillerCount; ++id) {
             ScreenPolygon polygon = MakePolygon(points);
-            kScalarFillers[id](&polygon, {nullptr, 0, nullptr, 0, 7});
+            kPlainPath.fillers[id](&polygon, {nullptr, 0, nullptr, 0, 7, clipRect});
             // Rounding is one half up, then cut toward zero.
             const float x = points[0].x < 0 ? points[0].x + 1.0F : points[0].x;
             EXPECT_EQ(polygon.vertices[0].x, x) << kFillerTable[id].name;
@@ -110,8 +111,7 @@ TEST_F(WalkerTest, VerticesAreRoundedInTheRecord) {
     ScreenPolygon polygon =
         MakePolygon({{{10.5F, 20.49F, 5, 0, 0}, {30.0F, 2.5F, 5, 0, 0}, {-3.0F, -0.75F, 5, 0, 0}}});
     Canvas canvas(64, 48);
-    FillFlatW(&polygon, canvas.frame.data(), (64 + kPadding) * 2, canvas.depth.data(),
-              (64 + kPadding) * 4);
+    PlainFiller(FillerId::FillFlatW)(&polygon, canvas.Target());
     EXPECT_EQ(polygon.vertices[0].x, 11.0F);
     EXPECT_EQ(polygon.vertices[0].y, 20.0F);
     EXPECT_EQ(polygon.vertices[1].x, 30.0F);
@@ -124,7 +124,7 @@ TEST_F(WalkerTest, VerticesAreRoundedInTheRecord) {
 TEST_F(WalkerTest, VerticesAreRoundedWhenNothingIsDrawnToo) {
     ScreenPolygon polygon =
         MakePolygon({{{100.7F, 1, 5, 0, 0}, {101, 1.6F, 5, 0, 0}, {102, 9, 5, 0, 0}}});
-    FillFlat(&polygon, nullptr, 0);
+    PlainFiller(FillerId::FillFlat)(&polygon, {nullptr, 0, nullptr, 0, 7, clipRect});
     EXPECT_EQ(polygon.vertices[0].x, 101.0F);
     EXPECT_EQ(polygon.vertices[1].y, 2.0F);
 }
@@ -193,8 +193,8 @@ TEST_F(WalkerTest, EqualDepthDoesNotOverwrite) {
     const std::array<Point, 3> points = {
         {{5, 5, 30, 0, 0}, {50, 9, 80, 7, 0}, {20, 40, 200, 0, 7}}};
     for (std::int32_t id = 0; id < kFillerCount; ++id) {
-        const DepthRule rule = RulesOf(id).depth;
-        if (rule != DepthRule::Z && rule != DepthRule::W) {
+        const std::string_view rule = RulesOf(id).depth;
+        if (rule != "Z" && rule != "W") {
             continue;
         }
         Canvas canvas(64, 48, rule);
@@ -288,7 +288,7 @@ TEST_F(WalkerTest, RectangleSplitAtAnyInnerPointIsWatertight) {
             const std::vector<std::array<Point, 3>> mesh = {
                 {a, b, p}, {p, b, c}, {c, d, p}, {d, p, a}};
             const std::int32_t id = (px + py * 7) % kFillerCount;
-            if (RulesOf(id).edges == EdgeRule::Closed) {
+            if (RulesOf(id).edges == "Closed") {
                 continue;
             }
             const std::vector<std::int32_t> cover = CoverOf(id, mesh, &texture.record);
@@ -310,7 +310,7 @@ TEST_F(WalkerTest, ShakenGridIsWatertight) {
     Dice dice{std::mt19937(13)};
     const Canvas canvas(64, 48);
     for (std::int32_t id = 0; id < kFillerCount; ++id) {
-        if (RulesOf(id).edges == EdgeRule::Closed) {
+        if (RulesOf(id).edges == "Closed") {
             continue;
         }
         for (std::int32_t round = 0; round < 6; ++round) {
@@ -347,9 +347,8 @@ TEST_F(WalkerTest, ShakenGridIsWatertight) {
 TEST_F(WalkerTest, DepthTestedFacesMayComeInAnyOrder) {
     Dice dice{std::mt19937(14)};
     for (std::int32_t id = 0; id < kFillerCount; ++id) {
-        const FillerRules& rules = RulesOf(id);
-        if ((rules.depth != DepthRule::Z && rules.depth != DepthRule::W) ||
-            rules.write == WriteRule::Blend) {
+        const FillerRow& rules = RulesOf(id);
+        if ((rules.depth != "Z" && rules.depth != "W") || rules.write == "Blend") {
             continue;
         }
         std::vector<Pixel16> texels(256);
@@ -382,7 +381,7 @@ TEST_F(WalkerTest, DepthTestedFacesMayComeInAnyOrder) {
             for (const std::size_t i : order) {
                 DrawWith(id, faces[i], canvas.Target());
             }
-            const bool larger = rules.depth == DepthRule::W;
+            const bool larger = rules.depth == "W";
             for (std::size_t p = 0; p < canvas.frame.size(); ++p) {
                 std::uint32_t nearest = ClearDepth(rules.depth);
                 for (const Canvas& face : alone) {
@@ -406,7 +405,7 @@ TEST_F(WalkerTest, DepthTestedFacesMayComeInAnyOrder) {
 
 // A line: both edges have the same slope, so the short one stays on the left and gives the depth.
 TEST_F(WalkerTest, EqualSlopesAreNotSwapped) {
-    Canvas canvas(64, 48, DepthRule::Z);
+    Canvas canvas(64, 48, "Z");
     DrawWith(FillerId::FillFlatZ,
              MakePolygon({{{5, 5, 10, 0, 0}, {15, 15, 110, 0, 0}, {35, 35, 30, 0, 0}}}),
              canvas.Target());
@@ -440,7 +439,7 @@ TEST_F(WalkerTest, EdgesThatWrapStayWithinTheClipRectangle) {
 TEST_F(WalkerTest, R2_FillFlatZHasClosedEdges) {
     const ScreenPolygon polygon =
         MakePolygon({{{4, 4, 1, 0, 0}, {12, 4, 1, 0, 0}, {4, 12, 1, 0, 0}}});
-    Canvas canvas(64, 48, DepthRule::Z);
+    Canvas canvas(64, 48, "Z");
     DrawWith(FillerId::FillFlatZ, polygon, canvas.Target());
     for (std::int32_t y = 0; y < 48; ++y) {
         for (std::int32_t x = 0; x < 64; ++x) {
@@ -451,7 +450,7 @@ TEST_F(WalkerTest, R2_FillFlatZHasClosedEdges) {
 
 TEST_F(WalkerTest, R2_ClosedEdgesEndAtTheClipRectangle) {
     clipRect = {2, 3, 30, 20};
-    Canvas canvas(64, 48, DepthRule::Z);
+    Canvas canvas(64, 48, "Z");
     // All vertices within the limits, right and bottom edge exactly on them.
     DrawWith(FillerId::FillFlatZ,
              MakePolygon({{{30, 3, 1, 0, 0}, {30, 20, 1, 0, 0}, {2, 20, 1, 0, 0}}}),
@@ -469,7 +468,7 @@ TEST_F(WalkerTest, R2_ClosedEdgesEndAtTheClipRectangle) {
 
 TEST_F(WalkerTest, R2_OneColumnSpansAreDrawnWhenClippedToo) {
     // The tip at (20, 30) is a span from 20 to 20; another vertex lies outside, so columns are cut.
-    Canvas canvas(64, 48, DepthRule::Z);
+    Canvas canvas(64, 48, "Z");
     DrawWith(FillerId::FillFlatZ,
              MakePolygon({{{-10, 10, 1, 0, 0}, {40, 10, 1, 0, 0}, {20, 30, 1, 0, 0}}}),
              canvas.Target());

@@ -1,19 +1,20 @@
 #!/usr/bin/python3
-"""Checks the objects of the vector twins: none may define a weak symbol. Of a weak function that two
-objects define the linker keeps one, and if that one was built for a newer processor, the program
-stops on an older one. Usage: check_twins.py BUILD_FOLDER. The last line counts."""
+"""Checks the objects that are built for newer processors: none may define a weak symbol. Of a weak
+function that two objects define the linker keeps one, and if that one was built for a newer
+processor, the program stops on an older one. Usage: check_weak_symbols.py BUILD_FOLDER. The last
+line counts."""
 import pathlib
 import subprocess
 import sys
 
-# One file an instruction set, below the simd folders.
-KINDS = ["twins_sse41", "twins_avx2", "twins_avx512"]
+# One file an instruction set; of the fillers there must be one each.
+KINDS = ["path_sse41", "path_avx2", "path_avx512"]
 
 
 def main():
     folder = pathlib.Path(sys.argv[1])
-    objects = sorted(p for p in folder.rglob("*.cpp.o*") if "simd" in p.parts and
-                     p.name.split(".")[0].endswith(("_sse41", "_avx2", "_avx512")))
+    objects = sorted(p for p in folder.rglob("*.cpp.o*")
+                     if p.name.split(".")[0].endswith(("_sse41", "_avx2", "_avx512")))
     names = [p.name.split(".")[0] for p in objects]
     passed = failed = 0
     for kind in KINDS:

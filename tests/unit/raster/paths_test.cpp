@@ -1,7 +1,8 @@
-// The vector twins of the fillers: every filler of every path that this processor runs, and the
-// source of the widest path as plain code. Random triangles against the slow reference; spans of
-// every length at every alignment against the scalar family; the arithmetic that replaces tables
-// and divisions, entry by entry.
+// The code paths: every filler of every lane set that this processor runs, and the sixteen-lane
+// source as plain code. Random triangles against the slow reference; spans of every length at every
+// alignment against the plain fillers; the arithmetic that replaces tables and divisions, entry by
+// entry.
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <tuple>
@@ -13,10 +14,11 @@
 #include "base/float_mode.h"
 #include "base/rect.h"
 #include "base/vector_path.h"
+#include "lanes/reciprocal.h"
 #include "raster/blend_tables.h"
-#include "raster/simd/paths.h"
-#include "raster/simd/reciprocal.h"
+#include "raster/paths.h"
 #include "support/guard_memory.h"
+#include "support/made_up_rule.h"
 #include "support/random_triangles.h"
 #include "support/reference_fillers.h"
 #include "support/sixteen_lanes.h"
@@ -24,20 +26,20 @@
 namespace ombrel {
 namespace {
 
-struct TwinTable {
+struct PathEntry {
     const char* name;
     const Filler* fillers; // null: not on this processor
 };
 
-TwinTable TableOf(VectorPath path) {
-    return {NameOf(path), ProcessorRuns(path) ? FillersOf(path) : nullptr};
+PathEntry EntryOf(VectorPath path) {
+    return {NameOf(path), ProcessorRuns(path) ? RasterPathOf(path).fillers : nullptr};
 }
-const TwinTable kTables[] = {
-    TableOf(VectorPath::Sse),
-    TableOf(VectorPath::Avx2),
-    TableOf(VectorPath::Avx512),
-    {"sixteen", ProcessorRuns(VectorPath::Avx2) ? kSixteenLaneFillers : nullptr}};
-constexpr int kTableCount = 4;
+const PathEntry kPaths[] = {
+    EntryOf(VectorPath::Sse),
+    EntryOf(VectorPath::Avx2),
+    EntryOf(VectorPath::Avx512),
+    {"sixteen", ProcessorRuns(VectorPath::Avx2) ? kSixteenLanePath.fillers : nullptr}};
+constexpr int kPathCount = 4;
 
 int NumberOf(const char* name) {
     for (int i = 0; i < kFillerCount; ++i) {
@@ -50,34 +52,34 @@ int NumberOf(const char* name) {
 
 // --- random triangles ----------------------------------------------------------------------------
 
-class Twins : public RandomStageTest<std::tuple<int, int>> {};
+class Paths : public RandomStageTest<std::tuple<int, int>> {};
 
 // 512 scenes of 16 triangles in the production's mode, a quarter as many in the other one.
-TEST_P(Twins, DrawRandomTrianglesAsTheReference) {
-    const TwinTable& table = kTables[std::get<0>(GetParam())];
+TEST_P(Paths, DrawRandomTrianglesAsTheReference) {
+    const PathEntry& path = kPaths[std::get<0>(GetParam())];
     const reference::Filler& row = reference::kFillers[std::get<1>(GetParam())];
-    if (table.fillers == nullptr) {
-        GTEST_SKIP() << "this processor has no " << table.name;
+    if (path.fillers == nullptr) {
+        GTEST_SKIP() << "this processor has no " << path.name;
     }
-    const Filler twin = table.fillers[NumberOf(row.name)];
+    const Filler filler = path.fillers[NumberOf(row.name)];
     const auto scenes = ToIntChop(512.0F * RandomShare());
     {
         const ScopedFloatMode chop(FloatMode::Chop);
-        const RandomComparison result = CompareRandomTriangles(&stage, row, twin, scenes);
+        const RandomComparison result = CompareRandomTriangles(&stage, row, filler, scenes);
         ASSERT_EQ(result.failure, "");
         EXPECT_GT(result.visible * 4, result.triangles);
     }
     const ScopedFloatMode nearest(FloatMode::Nearest);
-    const RandomComparison result = CompareRandomTriangles(&stage, row, twin, scenes / 4);
+    const RandomComparison result = CompareRandomTriangles(&stage, row, filler, scenes / 4);
     EXPECT_EQ(result.failure, "");
 }
 
 std::string NameOfPair(const testing::TestParamInfo<std::tuple<int, int>>& info) {
-    return std::string(kTables[std::get<0>(info.param)].name) + "_" +
+    return std::string(kPaths[std::get<0>(info.param)].name) + "_" +
            reference::kFillers[std::get<1>(info.param)].name;
 }
-INSTANTIATE_TEST_SUITE_P(Paths, Twins,
-                         testing::Combine(testing::Range(0, kTableCount),
+INSTANTIATE_TEST_SUITE_P(Each, Paths,
+                         testing::Combine(testing::Range(0, kPathCount),
                                           testing::Range(0, reference::kCount)),
                          NameOfPair);
 
@@ -86,8 +88,8 @@ INSTANTIATE_TEST_SUITE_P(Paths, Twins,
 constexpr std::int32_t kSpans = 71; // lengths 0..70
 constexpr std::int32_t kTexels = 128;
 
-// A picture in memory that ends at a page on one side or the other, and a copy for the scalar
-// member.
+// A picture in memory that ends at a page on one side or the other, and a copy for the plain
+// filler.
 struct SpanStage {
     std::int32_t width, height;
     GuardMemory frame, depth, texels;
@@ -145,12 +147,12 @@ ScreenPolygon Wedge(const SpanStage& stage, std::int32_t x, bool toTheRight) {
     return polygon;
 }
 
-// Draws the wedge with a twin and its scalar member; true when not a byte differs.
-bool SameSpans(SpanStage* stage, int number, Filler twin, ScreenPolygon polygon,
+// Draws the wedge with a filler of a path and the plain one; true when not a byte differs.
+bool SameSpans(SpanStage* stage, int number, Filler filler, ScreenPolygon polygon,
                std::uint32_t seed) {
     // Depths in front of the wedge and behind it in stretches of all lengths.
     RandomSource source = MakeRandomSource(seed);
-    const bool isW = kFillerTable[number].rules.depth == DepthRule::W;
+    const bool isW = kFillerTable[number].depth == "W";
     bool near = false;
     for (std::uint32_t& cell : stage->depthCopy) {
         near = RandomBelow(&source, 6) == 0 ? !near : near;
@@ -161,22 +163,23 @@ bool SameSpans(SpanStage* stage, int number, Filler twin, ScreenPolygon polygon,
     std::memcpy(stage->depth.bytes, stage->depthCopy.data(), count * 4);
     std::memcpy(stage->frame.bytes, stage->frameCopy.data(), count * 2);
     ScreenPolygon other = polygon;
-    kScalarFillers[number](&other, {stage->frameCopy.data(), stage->width * 2,
-                                    stage->depthCopy.data(), stage->width * 4, 3});
-    twin(&polygon, {reinterpret_cast<Pixel16*>(stage->frame.bytes), stage->width * 2,
-                    reinterpret_cast<std::uint32_t*>(stage->depth.bytes), stage->width * 4, 3});
+    kPlainPath.fillers[number](&other, {stage->frameCopy.data(), stage->width * 2,
+                                        stage->depthCopy.data(), stage->width * 4, 3, clipRect});
+    filler(&polygon,
+           {reinterpret_cast<Pixel16*>(stage->frame.bytes), stage->width * 2,
+            reinterpret_cast<std::uint32_t*>(stage->depth.bytes), stage->width * 4, 3, clipRect});
     return std::memcmp(stage->frame.bytes, stage->frameCopy.data(), count * 2) == 0 &&
            std::memcmp(stage->depth.bytes, stage->depthCopy.data(), count * 4) == 0 &&
            GuardIntact(stage->frame) && GuardIntact(stage->depth) &&
            std::memcmp(&polygon, &other, sizeof polygon) == 0;
 }
 
-class TwinSpans : public testing::TestWithParam<int> {};
+class PathSpans : public testing::TestWithParam<int> {};
 
-TEST_P(TwinSpans, OfEveryLengthAtEveryAlignmentAreTheScalarOnes) {
-    const TwinTable& table = kTables[GetParam()];
-    if (table.fillers == nullptr) {
-        GTEST_SKIP() << "this processor has no " << table.name;
+TEST_P(PathSpans, OfEveryLengthAtEveryAlignmentAreThePlainOnes) {
+    const PathEntry& path = kPaths[GetParam()];
+    if (path.fillers == nullptr) {
+        GTEST_SKIP() << "this processor has no " << path.name;
     }
     const ScopedFloatMode chop(FloatMode::Chop);
     BuildBlendTables(8, BlendTables[0]);
@@ -187,13 +190,13 @@ TEST_P(TwinSpans, OfEveryLengthAtEveryAlignmentAreTheScalarOnes) {
             // The wedge touches both sides of the picture, or leaves a pixel there.
             SpanStage stage = MakeSpanStage(kSpans + x, side);
             for (int number = 0; number < kFillerCount; ++number) {
-                const Filler twin = table.fillers[number];
+                const Filler filler = path.fillers[number];
                 for (const std::int32_t cut : {0, 1, 5, 20}) {
                     clipRect = {cut, 0, stage.width - cut, stage.height};
-                    EXPECT_TRUE(SameSpans(&stage, number, twin, Wedge(stage, x, true), ++seed))
+                    EXPECT_TRUE(SameSpans(&stage, number, filler, Wedge(stage, x, true), ++seed))
                         << kFillerTable[number].name << " from " << x << ", cut " << cut;
                     EXPECT_TRUE(
-                        SameSpans(&stage, number, twin, Wedge(stage, kSpans, false), ++seed))
+                        SameSpans(&stage, number, filler, Wedge(stage, kSpans, false), ++seed))
                         << kFillerTable[number].name << " up to " << kSpans << ", cut " << cut;
                 }
             }
@@ -202,10 +205,53 @@ TEST_P(TwinSpans, OfEveryLengthAtEveryAlignmentAreTheScalarOnes) {
     }
     clipRect = saved;
 }
-INSTANTIATE_TEST_SUITE_P(Paths, TwinSpans, testing::Range(0, kTableCount),
+INSTANTIATE_TEST_SUITE_P(Paths, PathSpans, testing::Range(0, kPathCount),
                          [](const testing::TestParamInfo<int>& info) {
-                             return std::string(kTables[info.param].name);
+                             return std::string(kPaths[info.param].name);
                          });
+
+// --- a rule that the table does not have ---------------------------------------------------------
+
+// Draws the wedge with a filler; returns the picture.
+std::vector<Pixel16> PictureOf(SpanStage* stage, const ScreenPolygon& wedge, Filler filler,
+                               MadeUpFiller madeUp) {
+    std::vector<Pixel16> frame = stage->frameCopy;
+    std::vector<std::uint32_t> depth(frame.size(), 0x10000000 / 545);
+    const FillTarget target = {frame.data(),
+                               stage->width * 2,
+                               depth.data(),
+                               stage->width * 4,
+                               3,
+                               {0, 0, stage->width, kSpans}};
+    ScreenPolygon polygon = wedge;
+    if (madeUp != nullptr) {
+        EXPECT_TRUE(madeUp(&polygon, target));
+    } else {
+        filler(&polygon, target);
+    }
+    return frame;
+}
+
+TEST(MadeUpRule, DrawsOverPlainAndVectorLanes) {
+    const ScopedFloatMode chop(FloatMode::Chop);
+    SpanStage stage = MakeSpanStage(kSpans + 9, GuardSide::Behind);
+    const ScreenPolygon wedge = Wedge(stage, 4, true);
+    // What is drawn over black are the colours; over the other picture they are to be xored.
+    const std::vector<Pixel16> there = stage.frameCopy;
+    stage.frameCopy.assign(there.size(), 0);
+    const Filler set = kPlainPath.fillers[static_cast<int>(FillerId::FillTexGouraudW)];
+    std::vector<Pixel16> wanted = PictureOf(&stage, wedge, set, nullptr);
+    EXPECT_GT(std::count_if(wanted.begin(), wanted.end(), [](Pixel16 p) { return p != 0; }), 500);
+    stage.frameCopy = there;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        wanted[i] = static_cast<Pixel16>(wanted[i] ^ there[i]);
+    }
+    EXPECT_EQ(PictureOf(&stage, wedge, nullptr, kMadeUpPlain), wanted);
+    if (kMadeUpVector != nullptr && ProcessorRuns(VectorPath::Sse)) {
+        EXPECT_EQ(PictureOf(&stage, wedge, nullptr, kMadeUpVector), wanted);
+    }
+    FreeSpanStage(&stage);
+}
 
 // --- arithmetic in the place of tables and divisions ---------------------------------------------
 
@@ -223,21 +269,19 @@ void FillSquare(Filler filler, Texture* texture, Pixel16* frame, std::uint32_t l
             vertex.v = vertex.y;
         }
         polygon.texture.single = texture;
-        filler(&polygon, {frame, 512, nullptr, 0, level});
+        filler(&polygon, {frame, 512, nullptr, 0, level, {0, 0, 256, 256}});
     }
 }
 
-class TwinArithmetic : public testing::TestWithParam<int> {};
+class PathArithmetic : public testing::TestWithParam<int> {};
 
-TEST_P(TwinArithmetic, GivesAllEntriesOfAllBlendTables) {
-    const TwinTable& table = kTables[GetParam()];
-    if (table.fillers == nullptr) {
-        GTEST_SKIP() << "this processor has no " << table.name;
+TEST_P(PathArithmetic, GivesAllEntriesOfAllBlendTables) {
+    const PathEntry& path = kPaths[GetParam()];
+    if (path.fillers == nullptr) {
+        GTEST_SKIP() << "this processor has no " << path.name;
     }
     constexpr int count = kBlendTableSize;
     BuildBlendTables(8, BlendTables[0]);
-    const Rect saved = clipRect;
-    clipRect = {0, 0, 256, 256};
     // One row and column more than the square, so that its far corners lie inside.
     std::vector<Pixel16> texels(512 * 512), frame(count);
     for (std::size_t i = 0; i < count; ++i) {
@@ -247,21 +291,20 @@ TEST_P(TwinArithmetic, GivesAllEntriesOfAllBlendTables) {
     for (std::uint32_t level = 0; level < 8; ++level) {
         // Every source over black, black over everything that can be there.
         frame.assign(count, 0);
-        FillSquare(table.fillers[static_cast<int>(FillerId::FillTexBlend)], &texture, frame.data(),
+        FillSquare(path.fillers[static_cast<int>(FillerId::FillTexBlend)], &texture, frame.data(),
                    level);
         EXPECT_EQ(std::memcmp(frame.data(), BlendTables[level], count * 2), 0) << level;
         for (std::size_t i = 0; i < count; ++i) {
             frame[i] = static_cast<Pixel16>(i);
         }
-        FillSquare(table.fillers[static_cast<int>(FillerId::FillFlatBlend)], &texture, frame.data(),
+        FillSquare(path.fillers[static_cast<int>(FillerId::FillFlatBlend)], &texture, frame.data(),
                    level);
         EXPECT_EQ(std::memcmp(frame.data(), BlendTables[7 - level], count * 2), 0) << level;
     }
-    clipRect = saved;
 }
-INSTANTIATE_TEST_SUITE_P(Paths, TwinArithmetic, testing::Range(0, kTableCount),
+INSTANTIATE_TEST_SUITE_P(Paths, PathArithmetic, testing::Range(0, kPathCount),
                          [](const testing::TestParamInfo<int>& info) {
-                             return std::string(kTables[info.param].name);
+                             return std::string(kPaths[info.param].name);
                          });
 
 // Next to every multiple is where a reciprocal goes wrong.
@@ -299,7 +342,7 @@ void DivideByAllLengths() {
     }
 }
 
-TEST(TwinReciprocal, DividesTowardZeroInBothRoundingModes) {
+TEST(Reciprocal, DividesTowardZeroInBothRoundingModes) {
     {
         const ScopedFloatMode chop(FloatMode::Chop);
         DivideByAllLengths();

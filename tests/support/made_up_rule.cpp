@@ -1,0 +1,36 @@
+#include "made_up_rule.h"
+
+#include "lanes/pixels_plain.h"
+#include "raster/triangle.h"
+#if defined(__SSE4_1__)
+#include "lanes/pixels_sse41.h"
+#endif
+
+namespace ombrel {
+namespace {
+
+// Says all that there is to say about it; src/ does not know it.
+struct ExclusiveOr {
+    static constexpr bool kMixes = true;
+    template <class L> OMBREL_INLINE static void Prepare(std::uint32_t, Brush<L>*) {}
+    template <class L>
+    OMBREL_INLINE static Pixels<L> Write(const Brush<L>&, Pixels<L> source, Pixels<L> there) {
+        return source ^ there;
+    }
+};
+using MadeUp = Rules<W, Affine, Gouraud, ExclusiveOr, Open>;
+
+template <class L> bool Fill(ScreenPolygon* polygon, const FillTarget& target) {
+    return FillOrdinary<L, MadeUp>(polygon, target);
+}
+
+} // namespace
+
+const MadeUpFiller kMadeUpPlain = Fill<PlainPixels>;
+#if defined(__SSE4_1__)
+const MadeUpFiller kMadeUpVector = Fill<Sse41Pixels>;
+#else
+const MadeUpFiller kMadeUpVector = nullptr;
+#endif
+
+} // namespace ombrel
