@@ -31,9 +31,13 @@ add_custom_command(OUTPUT ${frame_hashes}
 set(made_files ${frame_hashes})
 install(FILES ${frame_hashes} DESTINATION ${CMAKE_INSTALL_DATADIR}/ombrel)
 
-# --help is written once: the manual page and the completion of a program are made from it.
+# --help is written once: the manual page and the completion of a program are made from it, where it
+# can run.
 set(from_help ${CMAKE_SOURCE_DIR}/tools/from_help.py)
 set(documented ${installed_programs})
+if(CMAKE_CROSSCOMPILING)
+  set(documented)
+endif()
 foreach(program ${documented})
   set(page ${CMAKE_BINARY_DIR}/man/${program}.1.gz)
   set(completion ${CMAKE_BINARY_DIR}/completion/${program})

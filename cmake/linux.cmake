@@ -27,6 +27,15 @@ endif()
 ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
+# The recorder of the archives, which needs nothing but the C library and so writes no PNG files.
+file(GLOB capture_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/*.cpp)
+add_executable(larkfen-hashes tools/capture.cpp ${capture_sources})
+target_compile_definitions(larkfen-hashes PRIVATE OMBREL_WITHOUT_PNG)
+target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_demo
+                                             ombrel_platform_offscreen)
+if(NOT OMBREL_SANITIZE)
+  target_link_options(larkfen-hashes PRIVATE -static-libstdc++ -static-libgcc)
+endif()
 # The inspector's pictures are lettered and written as those of the other tools.
 target_sources(larkfen-inspect PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-gallery/tiny_font.cpp
                                        ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/picture.cpp)
@@ -58,5 +67,6 @@ endif()
 include(cmake/install.cmake)
 
 # --- the release: cmake --build --preset package makes the three archives in build/package/ ---------
-add_custom_target(packages COMMAND ${CMAKE_SOURCE_DIR}/tools/package.py DEPENDS larkfen USES_TERMINAL
+add_custom_target(packages COMMAND ${CMAKE_SOURCE_DIR}/tools/package.py DEPENDS larkfen larkfen-hashes
+                  USES_TERMINAL
                   VERBATIM)

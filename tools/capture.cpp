@@ -162,27 +162,28 @@ void WritePicture(Recorder* recorder, const ombrel::PresentedFrame& shown) {
 void RecordFrame(Recorder* recorder, const ombrel::PresentedFrame& shown) {
     const Options& options = recorder->options;
     const bool picked = (shown.number - options.first) % options.every == 0;
-    if (options.verify || (!options.hashFile.empty() && picked)) {
-        const std::uint64_t hash =
-            ombrel::HashPicture(shown.pixels, shown.pitch, shown.width, shown.height);
-        if (options.verify) {
-            CompareFrame(&recorder->verification, shown.number, hash);
-        }
-        if (!options.hashFile.empty() && picked) {
-            WriteHashLine(recorder, shown, hash);
-        }
+    const bool wantsLine = !options.hashFile.empty() && picked;
+    std::uint64_t hash = 0;
+    if (options.verify || options.resume || wantsLine) {
+        hash = ombrel::HashPicture(shown.pixels, shown.pitch, shown.width, shown.height);
+    }
+    if (options.verify) {
+        CompareFrame(&recorder->verification, shown.number, hash);
+    }
+    if (wantsLine) {
+        WriteHashLine(recorder, shown, hash);
     }
     const bool wantsPicture = !options.pngFolder.empty() && picked;
-    if (wantsPicture || recorder->video.pipe != nullptr) {
+    if (wantsPicture || WantsPixels(recorder->video)) {
         ToRgb(shown.pixels, shown.pitch, shown.width, shown.height, options.scale, &recorder->rgb);
     }
     if (wantsPicture) {
         WritePicture(recorder, shown);
     }
-    if (recorder->video.pipe != nullptr) {
-        Note(recorder, WriteVideo(&recorder->video, recorder->rgb));
+    if (recorder->video.open) {
+        Note(recorder, WriteVideo(&recorder->video, recorder->rgb, hash));
     }
-    recorder->recorded += picked || recorder->video.pipe != nullptr ? 1 : 0;
+    recorder->recorded += picked || recorder->video.open ? 1 : 0;
 }
 
 void OnFrame(const ombrel::PresentedFrame& shown, void* user) {
@@ -219,6 +220,26 @@ void OnMessage(const char* text, ombrel::MessageKind kind, void*) {
     }
 }
 
+std::string OpenVideoOf(Recorder* recorder) {
+    const Options& options = recorder->options;
+    const ombrel::CommandLine line = ombrel::ParseCommandLine(options.production.c_str());
+    const bool silent = line.noSound || KindOfVideo(options.videoFile) != VideoKind::Mp4;
+    std::string soundtrack = silent ? "" : ombrel::FindDataFile("./data/sfx/soundtrack.mp3");
+    if (!soundtrack.empty() && !CanDecode(soundtrack)) {
+        std::fprintf(stderr, "%s: no sound in it; the video is silent\n", soundtrack.c_str());
+        soundtrack.clear();
+    }
+    VideoRequest request{
+        options.videoFile,           soundtrack,   options.first,  line.width * options.scale,
+        line.height * options.scale, options.rate, options.resume, ""};
+    request.settings =
+        options.end == INT64_MAX ? " to the end" : " to " + std::to_string(options.end - 1);
+    for (const SwitchSetting& setting : options.settings) {
+        request.settings += ", " + setting.name + "=" + std::to_string(setting.value);
+    }
+    return OpenVideo(request, &recorder->video);
+}
+
 std::string OpenOutputs(Recorder* recorder) {
     const Options& options = recorder->options;
     if (!options.pngFolder.empty()) {
@@ -244,18 +265,7 @@ std::string OpenOutputs(Recorder* recorder) {
             return options.hashFile + ": " + std::strerror(errno);
         }
     }
-    if (options.videoFile.empty()) {
-        return "";
-    }
-    const ombrel::CommandLine line = ombrel::ParseCommandLine(options.production.c_str());
-    std::string soundtrack = line.noSound ? "" : ombrel::FindDataFile("./data/sfx/soundtrack.mp3");
-    if (!soundtrack.empty() && !CanDecode(soundtrack)) {
-        std::fprintf(stderr, "%s: no sound in it; the video is silent\n", soundtrack.c_str());
-        soundtrack.clear();
-    }
-    return OpenVideo({options.videoFile, soundtrack, options.first, line.width * options.scale,
-                      line.height * options.scale},
-                     &recorder->video);
+    return options.videoFile.empty() ? "" : OpenVideoOf(recorder);
 }
 
 // The hash file gets its name only when it is whole.
@@ -285,7 +295,7 @@ void CloseOutputs(Recorder* recorder) {
     }
     if (!recorder->problem.empty()) {
         DropVideo(&recorder->video);
-    } else if (recorder->video.pipe != nullptr) {
+    } else if (recorder->video.open) {
         Note(recorder, CloseVideo(&recorder->video));
     }
 }

@@ -18,6 +18,8 @@ def copyright_text():
              (ROOT / "LICENSE").read_text("utf-8")]
     texts += [path.read_text("utf-8") for path in sorted((ROOT / "tools/package/licences").iterdir())
               if "mingw" not in path.name]
+    texts.append("On Debian systems the GNU Library General Public License, version 2, is in\n"
+                 "/usr/share/common-licenses/LGPL-2.\n")
     return RULE.join(texts)
 
 

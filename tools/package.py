@@ -1,6 +1,7 @@
 #!/usr/bin/python3
-"""Makes the release: ombrel-win32.zip, ombrel-win64.zip and ombrel-linux.tar.gz from built programs.
-The same sources give the same bytes: order, times, owners and modes of the files are fixed here, and
+"""Makes the release: ombrel-win32.zip, ombrel-win64.zip and ombrel-linux.tar.gz from built programs,
+each with one folder in it, and in that the production, its data, the recorder and the list of frame
+hashes that it compares with (larkfen-capture --verify). The same sources give the same bytes: order, times, owners and modes of the files are fixed here, and
 the programs are built without dates and without the place of the checkout."""
 import argparse
 import gzip
@@ -14,18 +15,32 @@ import tarfile
 import time
 import zipfile
 
+import frame_hashes
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PARTS = ROOT / "tools/package"
 DATE = 1777636800  # of every file in the archives: the first of May 2026, noon
 
-# Archive          | preset    | program       | strip                      | folder
+FOLDER = "ombrel/"  # in every archive
+
+# Archive          | preset    | ending of programs | strip
 ARCHIVES = [
-    ("ombrel-win32.zip",    "win32",   "larkfen.exe", "i686-w64-mingw32-strip",   ""),
-    ("ombrel-win64.zip",    "win64",   "larkfen.exe", "x86_64-w64-mingw32-strip", ""),
-    ("ombrel-linux.tar.gz", "release", "larkfen",     "strip",                    "ombrel/"),
+    ("ombrel-win32.zip",    "win32",   ".exe", "i686-w64-mingw32-strip"),
+    ("ombrel-win64.zip",    "win64",   ".exe", "x86_64-w64-mingw32-strip"),
+    ("ombrel-linux.tar.gz", "release", "",     "strip"),
 ]
+# In the archive    | as the build calls it
+PROGRAMS = [
+    ("larkfen",         "larkfen"),
+    ("larkfen-capture", "larkfen-hashes"),
+]
+TEXTS = ["readme.txt", "file_id.diz", "ombrel.nfo"]
 LICENCES = {"windows": ["fonts.txt", "mingw-w64.txt"],
             "linux": ["fonts.txt", "lame.txt", "sdl.txt"]}
+
+
+VERSION = re.search(r"^project\(ombrel VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text(),
+                    re.M)[1]
 
 
 class Fault(Exception):
@@ -33,8 +48,10 @@ class Fault(Exception):
 
 
 def text(path, system):
-    """A text of ours as one system shows it: its own paragraphs, its own line ends."""
-    whole = path.read_text(encoding="ascii" if path.suffix == ".diz" else "utf-8")
+    """A text of ours as one system shows it: its own paragraphs, its own line ends; with the version
+    and the year."""
+    whole = path.read_text(encoding="utf-8" if path.parent.name == "licences" else "ascii")
+    whole = whole.replace("@version@", VERSION).replace("@year@", str(time.gmtime(DATE).tm_year))
     for name in ("windows", "linux"):
         block = re.compile(rf"^@{name}@\n(.*?)(?=^@)", re.M | re.S)
         whole = block.sub(r"\1" if name == system else "", whole)
@@ -66,13 +83,15 @@ def stripped(program, strip):
     return content
 
 
-def files(preset, program, strip, build):
+def files(preset, ending, strip, build):
     """[(name, content, executable)] of one archive, in the order of their names."""
     system = "linux" if preset == "release" else "windows"
-    out = [(program, stripped(build / preset / program, strip), True),
-           ("readme.txt", text(PARTS / "readme.txt", system), False),
-           ("file_id.diz", text(PARTS / "file_id.diz", system), False),
-           ("licences/ombrel.txt", text(ROOT / "LICENSE", system), False)]
+    out = [(name + ending, stripped(build / preset / (target + ending), strip), True)
+           for name, target in PROGRAMS]
+    out += [(name, text(PARTS / name, system), False) for name in TEXTS]
+    hashes = frame_hashes.hash_list(ROOT / "tests/scenario/frames.txt.gz", VERSION)
+    out += [("licences/ombrel.txt", text(ROOT / "LICENSE", system), False),
+            ("frame-hashes.txt", hashes.encode("ascii"), False)]
     out += [(f"licences/{name}", text(PARTS / "licences" / name, system), False)
             for name in LICENCES[system]]
     out += [(f"data/{name}", (ROOT / "data" / name).read_bytes(), False) for name in data_files()]
@@ -84,7 +103,7 @@ def zip_bytes(members):
     out = io.BytesIO()
     with zipfile.ZipFile(out, "w", zipfile.ZIP_DEFLATED, compresslevel=9) as archive:
         for name, content, executable in members:
-            entry = zipfile.ZipInfo(name, time.gmtime(DATE)[:6])
+            entry = zipfile.ZipInfo(FOLDER + name, time.gmtime(DATE)[:6])
             entry.compress_type = zipfile.ZIP_DEFLATED
             entry.create_system = 3  # the modes are those of Unix
             entry.external_attr = (0o100755 if executable else 0o100644) << 16
@@ -92,12 +111,12 @@ def zip_bytes(members):
     return out.getvalue()
 
 
-def tar_bytes(members, folder):
-    """A compressed tar archive, everything in one folder of its own."""
+def tar_bytes(members):
+    """A compressed tar archive."""
     plain = io.BytesIO()
     with tarfile.open(fileobj=plain, mode="w", format=tarfile.USTAR_FORMAT) as archive:
         for name, content, executable in members:
-            entry = tarfile.TarInfo(folder + name)
+            entry = tarfile.TarInfo(FOLDER + name)
             entry.size, entry.mtime = len(content), DATE
             entry.mode = 0o755 if executable else 0o644
             entry.uname = entry.gname = "root"
@@ -117,11 +136,12 @@ def main():
     options.out.mkdir(parents=True, exist_ok=True)
     try:
         for preset in () if options.no_build else ("win32", "win64"):
-            for command in (["--preset", preset], ["--build", f"build/{preset}", "--target", "larkfen"]):
+            for command in (["--preset", preset], ["--build", f"build/{preset}", "--target",
+                                                   *(target for _, target in PROGRAMS)]):
                 subprocess.run(["cmake", *command], cwd=ROOT, check=True)
-        for archive, preset, program, strip, folder in ARCHIVES:
-            members = files(preset, program, strip, options.build)
-            content = tar_bytes(members, folder) if folder else zip_bytes(members)
+        for archive, preset, ending, strip in ARCHIVES:
+            members = files(preset, ending, strip, options.build)
+            content = zip_bytes(members) if archive.endswith(".zip") else tar_bytes(members)
             part = options.out / (archive + ".part")
             part.write_bytes(content)
             os.replace(part, options.out / archive)

@@ -19,5 +19,7 @@ equalizer=f=3800:t=q:w=0.8:g=0.9,treble=g=0.8:f=9000:t=q:w=0.7,\
 volume=9.8dB,aresample=176400,\
 alimiter=limit=0.78:attack=4:release=90:level=false,aresample=44100,\
 afade=t=out:st=188:d=6" -t 194.5 -c:a pcm_s24le "$work/master.wav"
+# The field "sources" tells check_music.py what the file was made from.
+made=$(cat "$work/soundtrack.sco" "$here/soundtrack.orc" "$here/build.sh" | sha256sum | cut -c 1-16)
 lame --quiet -b 192 --cbr -q 0 -m j --add-id3v2 --tt "Ombrel" --ta "dru3 of Quellant" \
-    --tl "Ombrel" --ty 2026 "$work/master.wav" "$out"
+    --tl "Ombrel" --ty 2026 --tv "TXXX=sources=$made" "$work/master.wav" "$out"

@@ -4,6 +4,7 @@
 Usage: check_music.py [SONG.mp3]      (default: data/sfx/soundtrack.mp3; needs ffmpeg and numpy)
 Prints each measure with its bounds; those that are missed begin with WRONG, and the exit code is 1.
 """
+import hashlib
 import pathlib
 import re
 import subprocess
@@ -178,10 +179,20 @@ def read_score(text):
 
 
 def compose():
+    """The text of the score, as compose.py writes it now."""
     with tempfile.TemporaryDirectory() as folder:
         out = pathlib.Path(folder) / "song.sco"
         subprocess.run([sys.executable, str(HERE / "compose.py"), str(out)], check=True)
-        return read_score(out.read_text("ascii"))
+        return out.read_text("ascii")
+
+
+def check_sources(encoded, score_text):
+    """The field "sources" of the file stands for what it was made from (see build.sh)."""
+    rest = [(HERE / name).read_bytes() for name in ("soundtrack.orc", "build.sh")]
+    made = hashlib.sha256(score_text.encode("ascii") + b"".join(rest)).hexdigest()[:16]
+    tag = encoded[:4096]
+    found = made.encode("ascii") in tag or made.encode("utf-16-le") in tag
+    measure("file made from these sources", found, 1, 1)
 
 
 def named(score, name, first, last):
@@ -355,9 +366,12 @@ def main():
     if len(sys.argv) > 1 and sys.argv[1] in ("-h", "--help"):
         print(__doc__)
         return 0
-    song = listen.decode(sys.argv[1] if len(sys.argv) > 1 else SONG)
+    path = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else SONG
+    song = listen.decode(path)
     power = listen.k_power(song)
-    score = compose()
+    text = compose()
+    score = read_score(text)
+    check_sources(path.read_bytes(), text)
     check_master(song, power)
     check_curve(power)
     check_hook(song)

@@ -274,7 +274,11 @@ def orchestra():
 def main():
     measures()
     song = listen.decode(music.SONG)
-    score = music.compose()
+    text = music.compose()
+    score = music.read_score(text)
+    encoded = music.SONG.read_bytes()
+    expect("sources as they are", "", music.check_sources, encoded, text)
+    expect("a note changed since", "made from these", music.check_sources, encoded, text + "\n")
     recording(song, listen.k_power(song), score)
     tunes(score)
     arrangement(score)

@@ -393,7 +393,7 @@ def white():
     play("Impact", WHITE, 4, 0.60)
     play("Crash", WHITE, 5, 0.30, 2.4)
     parts = ((WHITE, "Glyd", 0.050, 0.28), (WHITE + 2, "A13sus", 0.050, 0.28),
-             (GLOBE, "Dmaj9", 0.068, 0.34))
+             (GLOBE, "Dmaj9", 0.060, 0.30))
     for time, name, level, voices in parts:
         notes, root = chord(name)
         for note in notes:
@@ -419,7 +419,7 @@ def white():
     play("Sub", GLOBE, 1.95, 26, 0.30, 26)
     head = [(beat, note, beats) for beat, note, beats in HOOK[1:5]]
     first = GLOBE / BAR
-    for up, level in ((0, 0.50), (-12, 0.50)):
+    for up, level in ((0, 0.56), (-12, 0.54)):
         tune("Choir", first, head, level, up, 0.05, 0.3, 1)
     tune("Lead", first, head, 0.14, 0, 0.8)
     for up, level in ((0, 0.14), (12, 0.13), (24, 0.05)):
@@ -575,7 +575,7 @@ def dots():
         else:
             sweep(bar, [(b, n + 12) for b, n in zip((2, 2.75, 3.5), motif)], 0.12, (0.9, 0.1), 0.6)
     tune("Reed", 50, DEEP, 0.22, 0, 0.5)
-    tune("Choir", 54, since(DEEP, 16), 0.34, -12, 0.08, 0.3, 1)
+    tune("Choir", 54, since(DEEP, 16), 0.38, -12, 0.08, 0.3, 1)
     bubbles(at(50), 14, 40, 0.035)
     play("Crash", at(54), 4, 0.14, 2.4)
     play("Crash", at(58), 4, 0.16, 2.4)

@@ -376,8 +376,8 @@ instr Lead
   aoL vco2 0.24 * p7, kcps * 2 * cent(5), 16, 0.5, iph3
   aoR vco2 0.24 * p7, kcps * 2 * cent(-5), 16, 0.5, iph4
   kcut expseg 3400, 0.03, 8600, 0.4, 6200, 5, 5400
-  aL zdf_ladder a1 + a4 + (a5 + ap) * 0.7 + asub + aoL, kcut, 1.2
-  aR zdf_ladder a2 + a3 + (a5 + ap) * 0.7 + asub + aoR, kcut, 1.2
+  aL zdf_ladder (a1 + a4) * 0.85 + a5 + ap * 0.7 + asub + aoL, kcut, 1.2
+  aR zdf_ladder (a2 + a3) * 0.85 + a5 + ap * 0.7 + asub + aoR, kcut, 1.2
   aL *= kenv * p5
   aR *= kenv * p5
   gaTopL += aL

@@ -11,9 +11,9 @@ namespace ombrel {
 // be no window.
 int RunProduction(const char* commandLine);
 
-// The data folder of a program in that folder: "data" beside it, else "share/ombrel/data" beside its
-// folder (an installed program), else "data" two folders up (a program in the build tree), else the
-// one beside it, though it is not there.
+// The data folder of a program in that folder: "data" beside it, else "../share/ombrel/data" (an
+// installed program), else "../../data" (a program in the build tree), else the one beside it,
+// though it is not there.
 std::string DataFolderOf(const std::string& programFolder);
 
 } // namespace ombrel

@@ -1,5 +1,4 @@
 // Definitions of the process-wide variables that belong to base, with their initial values.
-#include "base/pixel16.h"
 #include "base/rect.h"
 #include "base/shell_state.h"
 
@@ -13,14 +12,10 @@ constexpr DriverState kInitialDriver{0, -1, 1, 0, 0, 0, 0, 10, 0, false, 0.0F, 0
 
 } // namespace
 
-constinit DisplayFormat displayFormat = kFormat565;
 constinit Rect clipRect = kInitialClip;
 constinit ShellState shell = kInitialShell;
 constinit DriverState driver = kInitialDriver;
 
-void ResetDisplayFormat() {
-    displayFormat = kFormat565;
-}
 void ResetClipRect() {
     clipRect = kInitialClip;
 }

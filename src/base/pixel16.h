@@ -43,8 +43,5 @@ struct DisplayFormat {
     ColorPacker pack;          // PackRgb555 when rgbBits is 15, else PackRgb565
 };
 inline constexpr DisplayFormat kFormat565{16, 16, PackRgb565};
-// The one in force. Written by OpenDisplay; read by start-up and the scenes.
-extern DisplayFormat displayFormat;
-void ResetDisplayFormat();
 
 } // namespace ombrel

@@ -43,7 +43,6 @@ void ResetWorld() {
     ResetBlur();
     ResetTrigTables();
     ResetDisplayState();
-    ResetDisplayFormat();
     ResetClipRect();
     ResetRandom15();
     ResetShellState();

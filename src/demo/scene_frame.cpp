@@ -120,7 +120,7 @@ FaceSettings FaceSettingsOf(World* scene, const SceneSwitches& set) {
     settings.cullBack = set.backFace == 1;
     settings.lit = set.lighting == 1;
     settings.sortMode = set.sort == 1 ? kSorted : kUnsorted;
-    settings.pack = displayFormat.pack;
+    settings.pack = display.format.pack;
     return settings;
 }
 

@@ -220,7 +220,7 @@ void DrawTexts() {
 }
 
 void DrawBorder() {
-    const Pixel16 black = static_cast<Pixel16>(displayFormat.pack(0, 0, 0));
+    const Pixel16 black = static_cast<Pixel16>(display.format.pack(0, 0, 0));
     const std::int32_t w = shell.screenWidth;
     const std::int32_t h = shell.screenHeight;
     FillSurfaceRect({0, 0, kBorder, h}, black, display.backSurface);

@@ -90,7 +90,7 @@ void SetUpLights() {
 void LoadFixedObject(const FixedObject& object) {
     Mesh* const mesh = &(world.*object.mesh);
     loadObject(mesh, object.path,
-               LoadRequest{object.scale, &object.position, kFixedOptions, 0, displayFormat});
+               LoadRequest{object.scale, &object.position, kFixedOptions, 0, display.format});
     MeshRotate(mesh, 0.0F, 0.0F, 90.0F, 0);
     // REQUIRED R40: vertex 0 of the ground objects stands 50 to the side of where its file has it.
     if (object.shifted && mesh->slotCount > 0 && mesh->curVertices != nullptr &&
@@ -103,10 +103,10 @@ void LoadFixedObject(const FixedObject& object) {
 void LoadLightMarker() {
     Mesh* const mesh = &world.lightMarker;
     loadObject(mesh, kLightMarkerPath,
-               LoadRequest{kLightMarkerScale, &kOrigin, kFixedOptions, 0, displayFormat});
+               LoadRequest{kLightMarkerScale, &kOrigin, kFixedOptions, 0, display.format});
     for (std::int32_t i = 0; i < mesh->faceCount; ++i) {
         if (IsDrawable(mesh->faces[i].active)) {
-            mesh->faces[i].color = displayFormat.pack(0, 0, 0);
+            mesh->faces[i].color = display.format.pack(0, 0, 0);
         }
     }
 }
@@ -164,10 +164,10 @@ int StartUp() {
     for (const FixedObject& object : kFixedObjects) {
         LoadFixedObject(object);
     }
-    LoadSceneList(&world, "./data/scene1.po", displayFormat);
+    LoadSceneList(&world, "./data/scene1.po", display.format);
     LoadLightMarker();
-    LoadGlyphSet("./data/2d/font-48.bmp", &fonts.big, displayFormat);
-    LoadGlyphSet("./data/2d/font-48-16px.bmp", &fonts.small, displayFormat);
+    LoadGlyphSet("./data/2d/font-48.bmp", &fonts.big, display.format);
+    LoadGlyphSet("./data/2d/font-48-16px.bmp", &fonts.small, display.format);
 
     ParkCursor();
     startUp.cameraStart = (180.0F - world.camera.fov) * 0.3F * (1.0F / 90.0F);

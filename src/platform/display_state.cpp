@@ -5,7 +5,12 @@ namespace ombrel {
 
 namespace {
 
-constexpr DisplayState kInitialDisplay{};
+constexpr DisplayState InitialDisplay() {
+    DisplayState initial{};
+    initial.format = kFormat565;
+    return initial;
+}
+constexpr DisplayState kInitialDisplay = InitialDisplay();
 
 } // namespace
 

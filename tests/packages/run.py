@@ -2,6 +2,8 @@
 starts from the folder it was unpacked into."""
 import argparse
 import calendar
+import gzip
+import itertools
 import pathlib
 import re
 import shutil
@@ -25,14 +27,17 @@ ZIPS = ("ombrel-win32.zip", "ombrel-win64.zip")
 TAR = "ombrel-linux.tar.gz"
 FIRST_OF_MAY = calendar.timegm(NOON)
 I386, AMD64 = 0x14c, 0x8664
+PROGRAMS = ("larkfen", "larkfen-capture")
+VERSION = re.search(r"project\(ombrel VERSION (\S+)", (ROOT / "CMakeLists.txt").read_text())[1]
 
 
 def names(program, *licences):
     """The files that an archive must hold, in order."""
     data = [line.split(" | ")[0] for line in (ROOT / "art/MANIFEST").read_text().splitlines()
             if line and not line.startswith("#")]
-    return sorted([program, "readme.txt", "file_id.diz", "licences/ombrel.txt",
-                   "licences/fonts.txt", *(f"licences/{name}" for name in licences),
+    recorder = program.replace("larkfen", "larkfen-capture")
+    return sorted([program, recorder, "readme.txt", "file_id.diz", "ombrel.nfo", "frame-hashes.txt",
+                   "licences/ombrel.txt", "licences/fonts.txt", *(f"licences/{name}" for name in licences),
                    *(f"data/{name}" for name in data)])
 
 
@@ -50,9 +55,10 @@ def zip_contents(folder):
         with zipfile.ZipFile(folder / archive) as file:
             entries = file.infolist()
         got = [entry.filename for entry in entries]
-        expect(got == names("larkfen.exe", "mingw-w64.txt"), f"{archive} holds {got}")
+        expect(got == ["ombrel/" + name for name in names("larkfen.exe", "mingw-w64.txt")],
+               f"{archive} holds {got}")
         for entry in entries:
-            mode = 0o100755 if entry.filename == "larkfen.exe" else 0o100644
+            mode = 0o100755 if entry.filename.endswith(".exe") else 0o100644
             expect((entry.date_time, entry.external_attr >> 16) == (NOON, mode), str(entry))
 
 
@@ -61,9 +67,10 @@ def tar_contents(folder):
     with tarfile.open(folder / TAR) as file:
         entries = file.getmembers()
     got = [entry.name for entry in entries]
-    expect(got == ["ombrel/" + name for name in names("larkfen", "lame.txt", "sdl.txt")], f"{TAR} holds {got}")
+    expect(got == ["ombrel/" + name for name in names("larkfen", "lame.txt", "sdl.txt")],
+           f"{TAR} holds {got}")
     for entry in entries:
-        mode = 0o755 if entry.name == "ombrel/larkfen" else 0o644
+        mode = 0o755 if entry.name.startswith("ombrel/larkfen") else 0o644
         expect((entry.mtime, entry.mode, entry.uid, entry.gid, entry.uname, entry.gname) ==
                (FIRST_OF_MAY, mode, 0, 0, "root", "root"), str(entry.get_info()))
 
@@ -71,8 +78,9 @@ def tar_contents(folder):
 def texts(work):
     """the texts: line ends of the system, the right half of the readme, a small file_id.diz"""
     for archive in (*ZIPS, TAR):
-        place = work / archive / ("ombrel" if archive == TAR else "")
-        for path in (place / "readme.txt", place / "file_id.diz", *(place / "licences").iterdir()):
+        place = work / archive / "ombrel"
+        ours = [place / name for name in ("readme.txt", "file_id.diz", "ombrel.nfo")]
+        for path in (*ours, *(place / "licences").iterdir()):
             raw = path.read_bytes()
             ends = b"\n" if archive == TAR else b"\r\n"
             expect(raw.endswith(ends) and raw.count(ends) == raw.count(b"\n"),
@@ -83,6 +91,12 @@ def texts(work):
         expect(("libsdl2-2.0-0" in readme) == (archive == TAR), archive)
         lines = (place / "file_id.diz").read_text("ascii").splitlines()
         expect(len(lines) <= 10 and max(map(len, lines)) <= 45, f"{archive}: file_id.diz")
+        for path in ours:
+            said = path.read_text("ascii")
+            expect(VERSION in said and "2026" in said and "@" not in said, f"{archive}: {path.name}")
+            expect(max(map(len, said.splitlines())) < 80, f"{archive}: {path.name} is wide")
+        expect(all("repository" in path.read_text("ascii") for path in (ours[0], ours[2])),
+               f"{archive}: where to find us")
         licence = (place / "licences/ombrel.txt").read_text("ascii")
         expect(licence == (ROOT / "LICENSE").read_text("ascii"), f"{archive}: our licence")
 
@@ -90,17 +104,29 @@ def texts(work):
 def data(work):
     """the data: byte for byte the files of data/"""
     for archive in (*ZIPS, TAR):
-        place = work / archive / ("ombrel" if archive == TAR else "")
+        place = work / archive / "ombrel"
         for path in (place / "data").rglob("*"):
             if path.is_file():
                 own = ROOT / "data" / path.relative_to(place / "data")
                 expect(path.read_bytes() == own.read_bytes(), f"{archive}: {path.name}")
 
 
+def hash_lists(work):
+    """the list of frame hashes: the stored frames, in every archive"""
+    with gzip.open(ROOT / "tests/scenario/frames.txt.gz", "rt") as file:
+        stored = [line.split() for line in file]
+    wanted = [f"frame {words[1]} hash {words[9]}" for words in stored]
+    for archive in (*ZIPS, TAR):
+        lines = (work / archive / "ombrel/frame-hashes.txt").read_text("ascii").splitlines()
+        expect([line for line in lines if line[0] != "#"] == wanted, archive)
+
+
 def windows_programs(work):
     """the Windows programs: kind, no time of the linker, no symbols, imports of the system only"""
-    for archive, machine in zip(ZIPS, (I386, AMD64)):
-        program = work / archive / "larkfen.exe"
+    for archive, machine, name in itertools.product(ZIPS, (I386, AMD64), PROGRAMS):
+        if (machine == I386) != ("win32" in archive):
+            continue
+        program = work / archive / f"ombrel/{name}.exe"
         raw = program.read_bytes()
         start = struct.unpack_from("<I", raw, 0x3c)[0] + 4
         kind, _, made, symbols = struct.unpack_from("<HHII", raw, start)
@@ -111,10 +137,15 @@ def windows_programs(work):
             pe_file.check_imports_listed(program, ROOT / "tests/windows/xp_imports.txt")
 
 
-def linux_program(work):
-    """the Linux program: no symbols, no path of the checkout, no library but the C library, and of
+def linux_programs(work):
+    """the Linux programs: no symbols, no path of the checkout, no library but the C library, and of
     that nothing newer than the readme tells"""
-    program = work / TAR / "ombrel/larkfen"
+    for name in PROGRAMS:
+        linux_program(work, work / TAR / "ombrel" / name)
+
+
+def linux_program(work, program):
+    """One of them."""
     told = subprocess.run(["readelf", "-W", "-S", "-d", str(program)], check=True,
                           stdout=subprocess.PIPE).stdout.decode()
     expect(".symtab" not in told and ".debug" not in told, "it holds symbols")
@@ -139,6 +170,21 @@ def twice(folder, work, build):
         expect((again / archive).read_bytes() == (folder / archive).read_bytes(), archive)
 
 
+def linux_verify(work):
+    """ombrel-linux.tar.gz, unpacked: its recorder finds the frames as published"""
+    done = subprocess.run([work / TAR / "ombrel/larkfen-capture", "--verify", "--frames", "0:12"],
+                          cwd="/", stdout=subprocess.PIPE, check=False)
+    expect(done.returncode == 0 and done.stdout.startswith(b"12 of 12 frames as published ("),
+           str(done))
+
+
+def win64_verify(desk, work):
+    """ombrel-win64.zip, unpacked: its recorder finds the frames as published"""
+    code, said = desk.wine([work / "ombrel-win64.zip/ombrel/larkfen-capture.exe", "--verify",
+                            "--frames", "0:12"], folder="/", last="of 12 frames")
+    expect(code == 0 and "12 of 12 frames as published (" in said, said)
+
+
 def linux_start(desk, work):
     """ombrel-linux.tar.gz, unpacked: shows the production, ends on Escape with 0"""
     env = dict(desk.env, SDL_AUDIODRIVER="dummy", SDL_VIDEODRIVER="x11")
@@ -157,7 +203,7 @@ def win64_start(desk, work):
     """ombrel-win64.zip, unpacked: shows the production, ends on Escape with 0"""
     desk.prepare()
     stage = Stage(desk, "unpacked",
-                  [windows_path(work / "ombrel-win64.zip/larkfen.exe"), "-w", "-ns"], folder="/")
+                  [windows_path(work / "ombrel-win64.zip/ombrel/larkfen.exe"), "-w", "-ns"], folder="/")
     _, client = stage.window()
     find_frame(desk, "win64", by_hash(stored_frames()), (*client[:2], 640, 480))
     stage.end("Escape")
@@ -192,11 +238,13 @@ def main():
     shutil.rmtree(work, ignore_errors=True)
     unpack(folder, work)
     results = run(((zip_contents, (folder,)), (tar_contents, (folder,)), (texts, (work,)),
-                   (data, (work,)), (windows_programs, (work,)), (linux_program, (work,)),
+                   (data, (work,)), (hash_lists, (work,)),
+                   (windows_programs, (work,)), (linux_programs, (work,)),
                    (twice, (folder, work, build))))
     desk = Desk(build / "win64", place=build / "package-tests")
     try:
-        results += run(((linux_start, (desk, work)), (win64_start, (desk, work))))
+        results += run(((linux_verify, (work,)), (win64_verify, (desk, work)),
+                        (linux_start, (desk, work)), (win64_start, (desk, work))))
     finally:
         desk.close()
     shutil.rmtree(work)

@@ -58,7 +58,6 @@ void Begin(bool windowed) {
     HWND window = win32State.window;
     ResetWin32State();
     ResetDisplayState();
-    ResetDisplayFormat();
     ResetClipRect();
     win32State.window = window;
     win32State.instance = GetModuleHandleA(nullptr);
@@ -432,7 +431,7 @@ void FailingClippers() {
 void FramesThatFail() {
     Begin(true);
     Check(Open(true) == 1, "the display opens");
-    Check(displayFormat.rgbBits == 16 || win32State.ownFormat, "the format is known");
+    Check(display.format.rgbBits == 16 || win32State.ownFormat, "the format is known");
     LockFrame();
     Check(display.back.pixels && display.back.pitch >= 1280, "the back surface is memory");
     win32Calls.blt = NotingBlt;
@@ -537,7 +536,7 @@ void Formats() {
     Begin(true);
     win32Calls.getPixelFormat = Format15;
     Open(true);
-    Check(displayFormat.rgbBits == 15 && displayFormat.pack(255, 255, 255) == 0x7FFF,
+    Check(display.format.rgbBits == 15 && display.format.pack(255, 255, 255) == 0x7FFF,
           "R50_ 15 bits choose the 5-5-5 packer");
     Check(!win32State.ownFormat, "15 bits: surfaces take the screen's format");
     CloseDisplay();
@@ -546,7 +545,7 @@ void Formats() {
     win32Calls.getPixelFormat = Format16;
     win32Calls.createSurface = SomeCreateFails;
     Open(true);
-    Check(displayFormat.pack(255, 255, 255) == 0xFFFF, "else the 5-6-5 packer");
+    Check(display.format.pack(255, 255, 255) == 0xFFFF, "else the 5-6-5 packer");
     Surface* glyph = MakeOffscreenSurface(48, 42, SurfaceMemory::Any, 0x10007);
     Check(notes.wanted.dwSize == sizeof(DDSURFACEDESC2) &&
               notes.wanted.dwFlags == (DDSD_CAPS | DDSD_HEIGHT | DDSD_WIDTH) &&
@@ -565,7 +564,7 @@ void Formats() {
     win32Calls.createSurface = SomeCreateFails;
     Open(true);
     Check(win32State.ownFormat, "32 bits: surfaces have a format of their own");
-    Check(displayFormat.rgbBits == 16, "32 bits: for the loaders that is 16 bits");
+    Check(display.format.rgbBits == 16, "32 bits: for the loaders that is 16 bits");
     Check(win32State.path == PresentPath::Blit, "32 bits: blits that convert are used");
     glyph = MakeOffscreenSurface(48, 42, SurfaceMemory::Any, 0);
     Check((notes.wanted.dwFlags & DDSD_PIXELFORMAT) &&

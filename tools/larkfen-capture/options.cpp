@@ -8,6 +8,7 @@
 
 #include "app/command_line.h"
 #include "demo/switches.h"
+#include "video.h"
 
 namespace capture {
 
@@ -99,6 +100,12 @@ std::string ReadOption(const std::string& name, const std::string& value, Option
         options->scale = static_cast<std::int32_t>(scale);
         return problem;
     }
+    if (name == "--fps") {
+        std::int64_t rate = 0;
+        std::string problem = ReadCount("--fps", value, 240, &rate);
+        options->rate = static_cast<std::int32_t>(rate);
+        return problem;
+    }
     if (name == "--hashes") {
         return ReadPath("--hashes", value, &options->hashFile);
     }
@@ -108,9 +115,9 @@ std::string ReadOption(const std::string& name, const std::string& value, Option
     return ReadSwitch(value, options);
 }
 
-constexpr const char* kOptionNames[] = {"--data",   "--frames",      "--every",
-                                        "--png",    "--video",       "--scale",
-                                        "--hashes", "--hashes-file", "--switch"};
+constexpr const char* kOptionNames[] = {"--fps",         "--data",  "--frames", "--every",
+                                        "--png",         "--video", "--scale",  "--hashes",
+                                        "--hashes-file", "--switch"};
 
 bool IsOption(const std::string& name) {
     for (const char* known : kOptionNames) {
@@ -131,6 +138,33 @@ bool IsProductionSwitch(const std::string& text) {
         }
     }
     return false;
+}
+
+// Empty, or what a file of this kind cannot be. Chooses the rate where it is left open.
+std::string CheckVideo(Options* options) {
+    constexpr std::int64_t kLongestLoop =
+        1200; // frames of a moving picture: all of it is in memory
+    constexpr std::int32_t kLoopRate = 20;
+    if (options->videoFile.empty()) {
+        return options->rate != 0 ? "--fps: give --video with it"
+               : options->resume  ? "--resume: give --video with it"
+                                  : "";
+    }
+    const VideoKind kind = KindOfVideo(options->videoFile);
+    const bool loop = kind != VideoKind::Mp4;
+    if (options->rate == 0) {
+        options->rate = loop ? kLoopRate : kFramesPerSecond;
+    }
+    if (loop && options->resume) {
+        return "--resume: only an .mp4 file grows in pieces";
+    }
+    if (loop && (options->end == INT64_MAX || options->end - options->first > kLongestLoop)) {
+        return "--video: a .gif or .webp file shows at most 30 seconds; give --frames A:B";
+    }
+    if (kind == VideoKind::Gif && (options->rate > 50 || 100 % options->rate != 0)) {
+        return "--fps: a .gif file has 1, 2, 4, 5, 10, 20, 25 or 50 pictures a second";
+    }
+    return "";
 }
 
 // Empty, or why these frames cannot be those of the list.
@@ -164,8 +198,8 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
             options->version = true;
             return "";
         }
-        if (argument == "--verify") {
-            options->verify = true;
+        if (argument == "--verify" || argument == "--resume") {
+            (argument == "--verify" ? options->verify : options->resume) = true;
             continue;
         }
         if (IsProductionSwitch(argument)) {
@@ -198,7 +232,8 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
     if (!Records(*options) && !asksHelp) {
         return "nothing to record: give --png, --video, --hashes or --verify; --help tells more";
     }
-    return CheckVerify(*options);
+    const std::string problem = CheckVideo(options);
+    return problem.empty() ? CheckVerify(*options) : problem;
 }
 
 bool Records(const Options& options) {
@@ -217,8 +252,14 @@ std::string HelpText() {
         "  --frames A:B       frames A to B - 1, counted from 0; either may be left out; the run\n"
         "                     ends after frame B - 1\n"
         "  --png DIR          writes every frame to DIR/frame-000123.png\n"
-        "  --video FILE.mp4   writes a video, 40 frames a second, with the soundtrack; needs the\n"
-        "                     program ffmpeg\n"
+        "  --video FILE       writes a video: FILE.mp4 with the soundtrack, or FILE.gif or "
+        "FILE.webp\n"
+        "                     of up to 30 seconds without it; needs the program ffmpeg\n"
+        "  --fps N            pictures a second of the video, 40 without it, 20 in a .gif or "
+        ".webp;\n"
+        "                     each shows the frame that is due at its time\n"
+        "  --resume           lets the .mp4 grow in pieces of ten seconds, which stay in\n"
+        "                     FILE.pieces when it breaks off; the same call goes on behind them\n"
         "  --hashes FILE      writes a line a frame: frame 123 scene 0 faces 4567 hash 0123...\n"
         "                     (scene that drew it, faces drawn, hash of its pixels); - is\n"
         "                     standard output\n"
@@ -226,7 +267,8 @@ std::string HelpText() {
         "how\n"
         "                     many are the same, or names the first that differs, the processor\n"
         "                     and its path of code\n"
-        "  --hashes-file FILE the list to compare with, as --hashes writes it; without it\n"
+        "  --hashes-file FILE\n"
+        "                     the list to compare with, as --hashes writes it; without it\n"
         "                     frame-hashes.txt beside the data folder or beside the program\n"
         "  --every N          only every Nth frame as picture and hash line; a video is whole\n"
         "  --scale N          pictures and video N times as large, 1 to 16\n"

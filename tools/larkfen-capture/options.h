@@ -27,6 +27,8 @@ struct Options {
     std::string hashFile;      // empty: no hashes; "-": standard output
     std::string publishedFile; // list of frame hashes; empty: found by the program
     std::int32_t scale = 1;
+    std::int32_t rate = 0; // pictures a second of the video; 0: what suits its kind
+    bool resume = false;
     std::vector<SwitchSetting> settings;
 };
 

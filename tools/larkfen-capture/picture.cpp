@@ -5,7 +5,8 @@
 #include <cstdio>
 #include <cstring>
 
-#if __has_include(<png.h>)
+#if __has_include(<png.h>) && !defined(OMBREL_WITHOUT_PNG)
+#define OMBREL_PNG
 #include <png.h>
 #endif
 
@@ -38,7 +39,7 @@ void ToRgb(const ombrel::Pixel16* pixels, std::int32_t pitch, std::int32_t width
     }
 }
 
-#if __has_include(<png.h>)
+#ifdef OMBREL_PNG
 
 std::string WritePng(const std::string& path, const std::vector<std::uint8_t>& rgb,
                      std::int32_t width, std::int32_t height) {

@@ -75,7 +75,7 @@ void RunPipeline(Stage* stage) {
     FaceList* const list = &sceneFaces;
     CullBackFaces(list, &stage->camera);
     LightsTransform(stage->lights, 2, nullptr, LightMove::Copy);
-    LightFaces(list, &stage->camera, {stage->lights, 2}, displayFormat.pack);
+    LightFaces(list, &stage->camera, {stage->lights, 2}, display.format.pack);
     TransformPolygonsToCamera(list, &stage->camera);
     ClipPolygons(list, &stage->camera, 7);
     ProjectPolygons(list, &stage->camera);

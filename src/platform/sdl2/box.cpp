@@ -301,6 +301,8 @@ bool OpenBox(Box* box) {
     return box->renderer != nullptr;
 }
 
+// A box in a window of its own takes the video with it: what a display server still has to say of a
+// window that is gone has nobody to hear it then (a decorated window of Wayland crashes of that).
 void CloseBox(Box* box) {
     if (box->window == sdl2.window) {
         return;
@@ -311,6 +313,7 @@ void CloseBox(Box* box) {
     if (box->window != nullptr) {
         sdl.DestroyWindow(box->window);
     }
+    CloseVideo();
 }
 
 // What is left of the keys and clicks of the box is not the production's; a press of Escape from

@@ -37,9 +37,9 @@ int OpenDisplay(std::int32_t width, std::int32_t height, std::int32_t bitsPerPix
     display.flip = flip;
 
     // Choose the colour packer by what the visible surface reports.
-    displayFormat.bitsPerPixel = bitsPerPixel;
-    displayFormat.rgbBits = ScreenRgbBits();
-    displayFormat.pack = displayFormat.rgbBits == 15 ? PackRgb555 : PackRgb565;
+    display.format.bitsPerPixel = bitsPerPixel;
+    display.format.rgbBits = ScreenRgbBits();
+    display.format.pack = display.format.rgbBits == 15 ? PackRgb555 : PackRgb565;
 
     // Make the back surface, and the one it changes places with.
     const bool flips = windowed == 0 && flip != 0;

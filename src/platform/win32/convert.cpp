@@ -105,7 +105,7 @@ int PresentBitmap(const RECT& target) {
     bitmap.header.biPlanes = 1;
     bitmap.header.biBitCount = 16;
     bitmap.header.biCompression = BI_BITFIELDS;
-    const bool short15 = displayFormat.rgbBits == 15;
+    const bool short15 = display.format.rgbBits == 15;
     bitmap.masks[0] = short15 ? 0x7C00 : 0xF800;
     bitmap.masks[1] = short15 ? 0x03E0 : 0x07E0;
     bitmap.masks[2] = 0x001F;

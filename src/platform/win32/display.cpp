@@ -82,10 +82,10 @@ void ReadPrimaryFormat(std::int32_t bitsPerPixel) {
     win32Calls.getPixelFormat(win32State.primary, &format);
     const auto count = static_cast<std::int32_t>(format.dwRGBBitCount);
     win32State.ownFormat = count != 15 && count != 16;
-    displayFormat.bitsPerPixel = bitsPerPixel;
-    displayFormat.rgbBits = win32State.ownFormat ? 16 : count;
+    display.format.bitsPerPixel = bitsPerPixel;
+    display.format.rgbBits = win32State.ownFormat ? 16 : count;
     // REQUIRED R50: only the packer heeds 15 bits.
-    displayFormat.pack = displayFormat.rgbBits == 15 ? PackRgb555 : PackRgb565;
+    display.format.pack = display.format.rgbBits == 15 ? PackRgb555 : PackRgb565;
 }
 
 // 0 only where a flipping display has no back buffer; a surface that cannot be made stays null.

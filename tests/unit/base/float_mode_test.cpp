@@ -129,18 +129,13 @@ TEST(Pixel16, PackAndSplit) {
 }
 
 TEST(Globals, ResetRestoresTheStart) {
-    displayFormat = {32, 15, PackRgb555};
     clipRect = {1, 2, 3, 4};
     shell.screenWidth = 1;
     shell.noSound = true;
     driver.sceneIndex = 6;
     driver.frameCounter = 77;
-    ResetDisplayFormat();
     ResetClipRect();
     ResetShellState();
-    EXPECT_EQ(displayFormat.bitsPerPixel, 16);
-    EXPECT_EQ(displayFormat.rgbBits, 16);
-    EXPECT_EQ(displayFormat.pack(255, 0, 0), 0xF800U);
     EXPECT_EQ(clipRect.left, 0);
     EXPECT_EQ(clipRect.right, 640);
     EXPECT_EQ(clipRect.bottom, 480);

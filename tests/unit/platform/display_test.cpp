@@ -15,7 +15,6 @@ protected:
     void SetUp() override {
         ResetOffscreen();
         ResetShellState();
-        ResetDisplayFormat();
         ResetClipRect();
     }
     void TearDown() override { SetUp(); }
@@ -27,6 +26,16 @@ void ExpectRect(const Rect& r, std::int32_t left, std::int32_t top, std::int32_t
     EXPECT_EQ(r.top, top);
     EXPECT_EQ(r.right, right);
     EXPECT_EQ(r.bottom, bottom);
+}
+
+TEST_F(DisplayTest, ResetRestoresTheStart) {
+    display.format = {32, 15, PackRgb555};
+    display.width = 7;
+    ResetDisplayState();
+    EXPECT_EQ(display.format.bitsPerPixel, 16);
+    EXPECT_EQ(display.format.rgbBits, 16);
+    EXPECT_EQ(display.format.pack(255, 0, 0), 0xF800U);
+    EXPECT_EQ(display.width, 0);
 }
 
 TEST_F(DisplayTest, OpenSetsEveryField) {
@@ -45,24 +54,24 @@ TEST_F(DisplayTest, OpenSetsEveryField) {
     ExpectRect(display.clip2d, 0, 0, 512, 384);
     ExpectRect(display.source, 0, 0, 512, 384);
     ExpectRect(clipRect, 0, 0, 512, 384);
-    EXPECT_EQ(displayFormat.bitsPerPixel, 16);
-    EXPECT_EQ(displayFormat.rgbBits, 16);
-    EXPECT_EQ(displayFormat.pack, &PackRgb565);
+    EXPECT_EQ(display.format.bitsPerPixel, 16);
+    EXPECT_EQ(display.format.rgbBits, 16);
+    EXPECT_EQ(display.format.pack, &PackRgb565);
 }
 
 TEST_F(DisplayTest, FifteenBitsChooseTheOtherPacker) {
     script.screenRgbBits = 15;
     EXPECT_EQ(OpenDisplay(640, 480, 16, 0, 0), 1);
-    EXPECT_EQ(displayFormat.rgbBits, 15);
-    EXPECT_EQ(displayFormat.pack, &PackRgb555);
-    EXPECT_EQ(displayFormat.pack(255, 255, 255), 0x7FFFU);
-    EXPECT_EQ(displayFormat.pack(8, 8, 8), 0x0421U);
+    EXPECT_EQ(display.format.rgbBits, 15);
+    EXPECT_EQ(display.format.pack, &PackRgb555);
+    EXPECT_EQ(display.format.pack(255, 255, 255), 0x7FFFU);
+    EXPECT_EQ(display.format.pack(8, 8, 8), 0x0421U);
     // Any other count is taken for 5-6-5.
     ResetOffscreen();
     script.screenRgbBits = 32;
     EXPECT_EQ(OpenDisplay(640, 480, 16, 0, 0), 1);
-    EXPECT_EQ(displayFormat.pack, &PackRgb565);
-    EXPECT_EQ(displayFormat.pack(8, 4, 8), 0x0821U);
+    EXPECT_EQ(display.format.pack, &PackRgb565);
+    EXPECT_EQ(display.format.pack(8, 4, 8), 0x0821U);
 }
 
 TEST_F(DisplayTest, BackSurfaceIsClippedToTheFrame) {
