@@ -10,14 +10,20 @@ namespace ombrel {
 constinit const FrontEndKernels* activeFrontEnd = nullptr;
 
 const FrontEndKernels* FrontEndOf(VectorPath path) {
-#ifdef OMBREL_X86_KERNELS
-    constexpr const FrontEndKernels* kTable[kVectorPathCount] = {nullptr, &kSse41Kernels,
-                                                                 &kAvx2Kernels, &kAvx2Kernels};
-    return kTable[static_cast<int>(path)];
-#else
-    static_cast<void>(path);
-    return nullptr;
+    switch (path) {
+#if defined(OMBREL_X86_KERNELS)
+    case VectorPath::Sse:
+        return &kSse41Kernels;
+    case VectorPath::Avx2:
+    case VectorPath::Avx512:
+        return &kAvx2Kernels;
+#elif defined(OMBREL_NEON_KERNELS)
+    case VectorPath::Neon:
+        return &kNeonKernels;
 #endif
+    default:
+        return nullptr;
+    }
 }
 
 void UseFrontEnd(VectorPath path) {

@@ -43,5 +43,6 @@ struct FrontEndKernels {
 
 extern const FrontEndKernels kSse41Kernels;
 extern const FrontEndKernels kAvx2Kernels;
+extern const FrontEndKernels kNeonKernels;
 
 } // namespace ombrel

@@ -103,8 +103,8 @@ TEST(FrontEndFrames, ShippedWorldHasTheBitsOfThePlainCodeOnEveryPath) {
     }
     EXPECT_EQ(plain.size(), 2U * kFramesOfAScene);
     EXPECT_GT(faces, 200000);
-    for (const VectorPath path : {VectorPath::Sse, VectorPath::Avx2, VectorPath::Avx512}) {
-        if (!ProcessorRuns(path)) {
+    for (const VectorPath path : kPathsHere) {
+        if (path == VectorPath::Scalar || !ProcessorRuns(path)) {
             continue;
         }
         const std::vector<DrawnFrame> fast = FlyThrough(path);
