@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""Makes the release: ombrel-win32.zip, ombrel-win64.zip and ombrel-linux.tar.gz from built programs,
-each with one folder in it, and in that the production, its data, the recorder and the list of frame
-hashes that it compares with (larkfen-capture --verify). The same sources give the same bytes: order, times, owners and modes of the files are fixed here, and
+"""Makes the release: ombrel-win32.zip, ombrel-win64.zip, ombrel-linux.tar.gz and
+ombrel-linux-arm64.tar.gz from built programs, each with one folder in it, and in that the production,
+its data, the recorder and the list of frame hashes that it compares with (larkfen-capture --verify).
+The same sources give the same bytes: order, times, owners and modes of the files are fixed here, and
 the programs are built without dates and without the place of the checkout."""
 import argparse
 import gzip
@@ -23,11 +24,12 @@ DATE = 1777636800  # of every file in the archives: the first of May 2026, noon
 
 FOLDER = "ombrel/"  # in every archive
 
-# Archive          | preset    | ending of programs | strip
+# Archive                | preset    | ending of programs | strip
 ARCHIVES = [
-    ("ombrel-win32.zip",    "win32",   ".exe", "i686-w64-mingw32-strip"),
-    ("ombrel-win64.zip",    "win64",   ".exe", "x86_64-w64-mingw32-strip"),
-    ("ombrel-linux.tar.gz", "release", "",     "strip"),
+    ("ombrel-win32.zip",          "win32",   ".exe", "i686-w64-mingw32-strip"),
+    ("ombrel-win64.zip",          "win64",   ".exe", "x86_64-w64-mingw32-strip"),
+    ("ombrel-linux.tar.gz",       "release", "",     "strip"),
+    ("ombrel-linux-arm64.tar.gz", "arm64",   "",     "aarch64-linux-gnu-strip"),
 ]
 # In the archive    | as the build calls it
 PROGRAMS = [
@@ -85,7 +87,7 @@ def stripped(program, strip):
 
 def files(preset, ending, strip, build):
     """[(name, content, executable)] of one archive, in the order of their names."""
-    system = "linux" if preset == "release" else "windows"
+    system = "windows" if preset.startswith("win") else "linux"
     out = [(name + ending, stripped(build / preset / (target + ending), strip), True)
            for name, target in PROGRAMS]
     out += [(name, text(PARTS / name, system), False) for name in TEXTS]
@@ -131,11 +133,13 @@ def main():
     parser.add_argument("--out", type=pathlib.Path, default=ROOT / "build/package",
                         help="where the archives go")
     parser.add_argument("--no-build", action="store_true",
-                        help="take the Windows programs as they stand")
+                        help="take the programs for other systems as they stand")
     options = parser.parse_args()
     options.out.mkdir(parents=True, exist_ok=True)
     try:
-        for preset in () if options.no_build else ("win32", "win64"):
+        if not options.no_build:
+            subprocess.run([ROOT / "tools/arm64_sysroot.sh"], check=True)
+        for preset in () if options.no_build else ("win32", "win64", "arm64"):
             for command in (["--preset", preset], ["--build", f"build/{preset}", "--target",
                                                    *(target for _, target in PROGRAMS)]):
                 subprocess.run(["cmake", *command], cwd=ROOT, check=True)

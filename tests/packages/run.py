@@ -24,7 +24,7 @@ from wine_desk import SLOW, Desk, Failure, Stage, expect, windows_path
 TITLE = "Ombrel - a fast prod from Quellant"
 NOON = (2026, 5, 1, 12, 0, 0)
 ZIPS = ("ombrel-win32.zip", "ombrel-win64.zip")
-TAR = "ombrel-linux.tar.gz"
+TAR, TAR_ARM64 = TARS = ("ombrel-linux.tar.gz", "ombrel-linux-arm64.tar.gz")
 FIRST_OF_MAY = calendar.timegm(NOON)
 I386, AMD64 = 0x14c, 0x8664
 PROGRAMS = ("larkfen", "larkfen-capture")
@@ -43,7 +43,7 @@ def names(program, *licences):
 
 def unpack(folder, work):
     """Every archive into an empty folder of its own, as a user does."""
-    for archive in (*ZIPS, TAR):
+    for archive in (*ZIPS, *TARS):
         place = work / archive
         place.mkdir(parents=True)
         shutil.unpack_archive(folder / archive, place)
@@ -63,32 +63,33 @@ def zip_contents(folder):
 
 
 def tar_contents(folder):
-    """the tar archive: the same below ombrel/, owned by nobody in particular"""
-    with tarfile.open(folder / TAR) as file:
-        entries = file.getmembers()
-    got = [entry.name for entry in entries]
-    expect(got == ["ombrel/" + name for name in names("larkfen", "lame.txt", "sdl.txt")],
-           f"{TAR} holds {got}")
-    for entry in entries:
-        mode = 0o755 if entry.name.startswith("ombrel/larkfen") else 0o644
-        expect((entry.mtime, entry.mode, entry.uid, entry.gid, entry.uname, entry.gname) ==
-               (FIRST_OF_MAY, mode, 0, 0, "root", "root"), str(entry.get_info()))
+    """the tar archives: the same, owned by nobody in particular"""
+    wanted = ["ombrel/" + name for name in names("larkfen", "lame.txt", "sdl.txt")]
+    for archive in TARS:
+        with tarfile.open(folder / archive) as file:
+            entries = file.getmembers()
+        got = [entry.name for entry in entries]
+        expect(got == wanted, f"{archive} holds {got}")
+        for entry in entries:
+            mode = 0o755 if entry.name.startswith("ombrel/larkfen") else 0o644
+            expect((entry.mtime, entry.mode, entry.uid, entry.gid, entry.uname, entry.gname) ==
+                   (FIRST_OF_MAY, mode, 0, 0, "root", "root"), str(entry.get_info()))
 
 
 def texts(work):
     """the texts: line ends of the system, the right half of the readme, a small file_id.diz"""
-    for archive in (*ZIPS, TAR):
+    for archive in (*ZIPS, *TARS):
         place = work / archive / "ombrel"
         ours = [place / name for name in ("readme.txt", "file_id.diz", "ombrel.nfo")]
         for path in (*ours, *(place / "licences").iterdir()):
             raw = path.read_bytes()
-            ends = b"\n" if archive == TAR else b"\r\n"
+            ends = b"\n" if archive in TARS else b"\r\n"
             expect(raw.endswith(ends) and raw.count(ends) == raw.count(b"\n"),
                    f"{archive}: line ends of {path.name}")
-            expect((b"\r" in raw) == (archive != TAR), f"{archive}: line ends of {path.name}")
+            expect((b"\r" in raw) == (archive in ZIPS), f"{archive}: line ends of {path.name}")
         readme = (place / "readme.txt").read_text("ascii")
-        expect(("BASS.dll" in readme) == (archive != TAR) and "@" not in readme, archive)
-        expect(("libsdl2-2.0-0" in readme) == (archive == TAR), archive)
+        expect(("BASS.dll" in readme) == (archive in ZIPS) and "@" not in readme, archive)
+        expect(("libsdl2-2.0-0" in readme) == (archive in TARS), archive)
         lines = (place / "file_id.diz").read_text("ascii").splitlines()
         expect(len(lines) <= 10 and max(map(len, lines)) <= 45, f"{archive}: file_id.diz")
         for path in ours:
@@ -103,7 +104,7 @@ def texts(work):
 
 def data(work):
     """the data: byte for byte the files of data/"""
-    for archive in (*ZIPS, TAR):
+    for archive in (*ZIPS, *TARS):
         place = work / archive / "ombrel"
         for path in (place / "data").rglob("*"):
             if path.is_file():
@@ -116,7 +117,7 @@ def hash_lists(work):
     with gzip.open(ROOT / "tests/scenario/frames.txt.gz", "rt") as file:
         stored = [line.split() for line in file]
     wanted = [f"frame {words[1]} hash {words[9]}" for words in stored]
-    for archive in (*ZIPS, TAR):
+    for archive in (*ZIPS, *TARS):
         lines = (work / archive / "ombrel/frame-hashes.txt").read_text("ascii").splitlines()
         expect([line for line in lines if line[0] != "#"] == wanted, archive)
 
@@ -141,22 +142,24 @@ def linux_programs(work):
     """the Linux programs: no symbols, no path of the checkout, no library but the C library, and of
     that nothing newer than the readme tells"""
     for name in PROGRAMS:
-        linux_program(work, work / TAR / "ombrel" / name)
+        linux_program(work / TAR / "ombrel" / name, "X86-64", "ld-linux-x86-64.so.2")
+        linux_program(work / TAR_ARM64 / "ombrel" / name, "AArch64", "ld-linux-aarch64.so.1")
 
 
-def linux_program(work, program):
+def linux_program(program, machine, loader):
     """One of them."""
-    told = subprocess.run(["readelf", "-W", "-S", "-d", str(program)], check=True,
+    told = subprocess.run(["readelf", "-W", "-h", "-S", "-d", str(program)], check=True,
                           stdout=subprocess.PIPE).stdout.decode()
+    expect(machine in told, f"it is not for {machine}")
     expect(".symtab" not in told and ".debug" not in told, "it holds symbols")
     expect("RPATH" not in told and "RUNPATH" not in told, "it looks for libraries elsewhere")
     needed = {line.split("[")[1].split("]")[0] for line in told.splitlines() if "(NEEDED)" in line}
-    allowed = {"libm.so.6", "libc.so.6", "ld-linux-x86-64.so.2"}
+    allowed = {"libm.so.6", "libc.so.6", loader}
     expect(needed <= allowed and "libc.so.6" in needed, str(sorted(needed)))
     versions = subprocess.run(["readelf", "-W", "-V", str(program)], check=True,
                               stdout=subprocess.PIPE).stdout.decode()
     newest = max((int(part) for part in re.findall(r"GLIBC_2\.(\d+)", versions)), default=0)
-    told = (work / TAR / "ombrel/readme.txt").read_text("ascii")
+    told = (program.parent / "readme.txt").read_text("ascii")
     expect(17 < newest <= 35 and "glibc 2.35" in told, f"it asks for glibc 2.{newest}")
     expect(str(ROOT).encode() not in program.read_bytes(), "it holds the path of the checkout")
 
@@ -166,14 +169,14 @@ def twice(folder, work, build):
     again = work / "again"
     subprocess.run([ROOT / "tools/package.py", "--no-build", "--build", build, "--out", again],
                    check=True, stdout=subprocess.DEVNULL)
-    for archive in (*ZIPS, TAR):
+    for archive in (*ZIPS, *TARS):
         expect((again / archive).read_bytes() == (folder / archive).read_bytes(), archive)
 
 
-def linux_verify(work):
-    """ombrel-linux.tar.gz, unpacked: its recorder finds the frames as published"""
-    done = subprocess.run([work / TAR / "ombrel/larkfen-capture", "--verify", "--frames", "0:12"],
-                          cwd="/", stdout=subprocess.PIPE, check=False)
+def linux_verify(work, archive, *emulator):
+    """a tar archive, unpacked: its recorder finds the frames as published"""
+    done = subprocess.run([*emulator, work / archive / "ombrel/larkfen-capture", "--verify",
+                           "--frames", "0:12"], cwd="/", stdout=subprocess.PIPE, check=False)
     expect(done.returncode == 0 and done.stdout.startswith(b"12 of 12 frames as published ("),
            str(done))
 
@@ -185,10 +188,10 @@ def win64_verify(desk, work):
     expect(code == 0 and "12 of 12 frames as published (" in said, said)
 
 
-def linux_start(desk, work):
-    """ombrel-linux.tar.gz, unpacked: shows the production, ends on Escape with 0"""
+def linux_start(desk, work, archive, *emulator):
+    """a tar archive, unpacked: shows the production, ends on Escape with 0"""
     env = dict(desk.env, SDL_AUDIODRIVER="dummy", SDL_VIDEODRIVER="x11")
-    with subprocess.Popen([work / TAR / "ombrel/larkfen", "-w"], env=env, cwd="/",
+    with subprocess.Popen([*emulator, work / archive / "ombrel/larkfen", "-w"], env=env, cwd="/",
                           stdin=subprocess.DEVNULL) as process:
         try:
             find_frame(desk, "linux", by_hash(stored_frames()), (320, 272, 640, 480))
@@ -230,7 +233,7 @@ def main():
                         help="the folder of the build folders; the archives stand in its package/")
     build = parser.parse_args().build.resolve()
     folder, work = build / "package", build / "package-tests/unpacked"
-    missing = [name for name in (*ZIPS, TAR) if not (folder / name).exists()]
+    missing = [name for name in (*ZIPS, *TARS) if not (folder / name).exists()]
     if missing:
         print(f"FAILED {folder} has no {missing}: cmake --build --preset package makes them")
         print("0 passed, 1 failed")
@@ -243,8 +246,10 @@ def main():
                    (twice, (folder, work, build))))
     desk = Desk(build / "win64", place=build / "package-tests")
     try:
-        results += run(((linux_verify, (work,)), (win64_verify, (desk, work)),
-                        (linux_start, (desk, work)), (win64_start, (desk, work))))
+        arm64 = (TAR_ARM64, "qemu-aarch64-static", "-L", build / "sysroot-arm64")
+        results += run(((linux_verify, (work, TAR)), (linux_verify, (work, *arm64)),
+                        (win64_verify, (desk, work)), (linux_start, (desk, work, TAR)),
+                        (linux_start, (desk, work, *arm64)), (win64_start, (desk, work))))
     finally:
         desk.close()
     shutil.rmtree(work)
