@@ -48,23 +48,26 @@ class Step:
     env: dict = dataclasses.field(default_factory=dict)
 
 
-def build(preset, sizes, targets="all", options=""):
-    """The step that configures a preset and builds targets of it."""
-    return Step(f"build {preset}", sizes, f"cmake --preset {preset} {options} && "
+def build(preset, sizes, targets="all", options="", first=""):
+    """The step that configures a preset and builds targets of it, after a first command."""
+    first = f"{first} && " if first else ""
+    return Step(f"build {preset}", sizes, f"{first}cmake --preset {preset} {options} && "
                 f"nice -n 5 cmake --build build/{preset} --target {targets}", tests=IS_BUILD,
                 limit=2400, load=WHOLE)
 
 
-def frames(name, program, sizes, needs, first=None, **env):
-    """The step that holds the frames which a build draws to the stored ones."""
-    some = f"--first {first} " if first else ""
+def frames(name, program, sizes, needs, first=None, like=None, **env):
+    """The step that holds the frames which a build draws to the stored ones, or to those that
+    another program draws."""
+    some = (f"--first {first} " if first else "") + (f"--like {like} " if like else "")
     return Step(f"frames: {name}", sizes, f"tools/check_frames.py {some}{program}", needs,
                 tests=IS_ONE, env=env)
 
 
-def programs(names, sizes, build_name, suffix="", options="", **env):
+def programs(names, sizes, build_name, suffix="", options="", emulator="", **env):
     """A step for each test program of a build."""
-    return [Step(f"{name}{suffix}", sizes, f"build/{build_name}/{name} {options}".strip(),
+    return [Step(f"{name}{suffix}", sizes,
+                 f"{emulator} build/{build_name}/{name} {options}".strip(),
                  (f"build {build_name}",), env=env) for name in names]
 
 
@@ -78,6 +81,12 @@ FOR_SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
 # frames and the smaller test of the table are enough.
 NOT_SANITIZED = "--gtest_filter=-Frames.*:Faults.*:DecisionTable.AllCombinations*"
 
+# On an emulated processor every test runs but the whole decision table, and a few random cases.
+ARM64 = ("build arm64",)
+NOT_EMULATED = "'--gtest_filter=-DecisionTable.AllCombinations*'"
+ON_ARM64 = "qemu-aarch64-static -L build/sysroot-arm64"
+ARM64_UNITS = [f"unit_{name}" for name in ("base", "math", "assets", "scene", "raster", "demo")]
+
 # --- the table ----------------------------------------------------------------------------------
 # Steps start in this order as soon as what they need is there and a processor is free: what others
 # wait for stands first, then what takes longest.
@@ -90,6 +99,8 @@ STEPS = [
     build("clang", ALL, CAPTURE),
     build("o0", ALL, CAPTURE),
     build("win32", ALL),
+    build("arm64", ALL, f"larkfen larkfen-hashes {CAPTURE} {' '.join(ARM64_UNITS)}", "-DOMBREL_TESTS=ON",
+          "tools/arm64_sysroot.sh"),
 
     # What is seen: in real time, beside everything else.
     Step("Windows programs, quick", SHORT, "tests/windows/run.sh build/win64 --quick", WIN64,
@@ -132,6 +143,15 @@ STEPS = [
     frames("clang", f"build/clang/{CAPTURE}", ALL, ("build clang",)),
     frames("g++ -O0", f"build/o0/{CAPTURE}", ALL, ("build o0",), first=400),
 
+    # 64-bit ARM, on an emulated processor.
+    *programs(ARM64_UNITS, ALL, "arm64", " arm64", NOT_EMULATED, ON_ARM64,
+              OMBREL_RANDOM_SHARE="0.05"),
+    *[frames(f"arm64 {path}, scene {scene}", f"{ON_ARM64} build/arm64/{CAPTURE}{switch}", ALL,
+             RELEASE + ARM64, first=300, like=like, RASTER_USE=path)
+      for path in ("scalar", "neon")
+      for scene, switch, like in (("one", "", None),
+                                  ("two", " --switch sceneIndex=1", f"build/release/{CAPTURE}"))],
+
     # Sanitizers and fuzzing.
     Step("scenario: faults sanitized", ALL, "build/sanitize/scenario --gtest_filter='Faults.*'",
          ("build sanitize",), limit=1200, env=FOR_SANITIZERS),
@@ -143,7 +163,8 @@ STEPS = [
          load=WHOLE),
 
     # The archives.
-    Step("make the archives", ALL, "tools/package.py", RELEASE + WIN64 + WIN32, tests=IS_BUILD),
+    Step("make the archives", ALL, "tools/package.py", RELEASE + WIN64 + WIN32 + ARM64,
+         tests=IS_BUILD),
     Step("archives, unpacked", ALL, "tests/packages/run.sh build", ("make the archives",),
          load=WAITS),
 ]
