@@ -37,9 +37,10 @@ class Program:
     """larkfen started in a folder of its own, beside the data it shall find."""
 
     def __init__(self, folder, screen, *arguments, **environment):
-        env = {**os.environ, "SDL_AUDIODRIVER": "dummy", **environment}
+        env = {**os.environ, "SDL_AUDIODRIVER": "dummy"}
         for name in ("DISPLAY", "WAYLAND_DISPLAY", "SDL_VIDEODRIVER"):
             env.pop(name, None)
+        env.update(environment)
         if screen:
             env["DISPLAY"] = screen.name
         self.process = subprocess.Popen([folder / "larkfen", *arguments], env=env, cwd="/",

@@ -16,6 +16,8 @@ from PIL import Image
 
 from programs import (ROOT, SLOW, TITLE, Count, Program, answer, box_is_drawn, check, is_box,
                       is_main, press, words)
+import desktop
+import wayland
 import x11
 
 def seconds_to_vanish(folder, screen):
@@ -435,6 +437,9 @@ def main():
             finally:
                 screen.close()
             picture_tests(full, capture, work, (1920, 1080), keep)
+            frames = capture_frames(capture, full, work / "frames", 400)
+            desktop.run_all(build, bare, full, frames, digest565, play_to_file, work, keep)
+            wayland.run_all(full, frames, digest565, work, keep)
             no_display_test(bare)
             lost_display_test(bare)
             argument_tests(capture, full / "data", work)

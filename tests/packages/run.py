@@ -4,6 +4,7 @@ import argparse
 import calendar
 import gzip
 import itertools
+import os
 import pathlib
 import re
 import shutil
@@ -202,6 +203,65 @@ def linux_start(desk, work, archive, *emulator):
             process.kill()
 
 
+def closure(*programs):
+    """Every library file that these load when they start, the loader included."""
+    files = set()
+    for program in programs:
+        told = subprocess.run(["ldd", str(program)], check=True, stdout=subprocess.PIPE).stdout
+        files |= set(re.findall(r"(/\S+) \(0x", told.decode()))
+    return files
+
+
+def make_root(work, name, libraries):
+    """A root directory with the unpacked program and these libraries, and nothing else at all."""
+    root = work / name
+    shutil.copytree(work / TAR / "ombrel", root)
+    for file in libraries:
+        target = root / file.lstrip("/")
+        target.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(pathlib.Path(file).resolve(), target)
+    return root
+
+
+def in_root(root, *arguments):
+    """The command that starts the program with that root."""
+    own_user = [] if os.geteuid() == 0 else ["/usr/bin/unshare", "--user", "--map-root-user"]
+    return [*own_user, "/usr/sbin/chroot", root, "/larkfen", *arguments]
+
+
+def empty_root(work):
+    """ombrel-linux.tar.gz in a root directory with the C library alone: asks for SDL2 in one line"""
+    program = work / TAR / "ombrel/larkfen"
+    root = make_root(work, "root-of-c", closure(program))
+    for arguments, code, said in ((["-w"], 1, "larkfen: SDL2 is missing (on Debian: apt install "
+                                               "libsdl2-2.0-0): libSDL2-2.0.so.0: cannot open "
+                                               "shared object file: No such file or directory\n"),
+                                  (["--version"], 0, "larkfen 1.")):
+        done = subprocess.run(in_root(root, *arguments), stdout=subprocess.PIPE, env={},
+                              stderr=subprocess.STDOUT, text=True, timeout=SLOW, check=False)
+        expect(done.returncode == code and done.stdout.startswith(said) and
+               done.stdout.count("\n") == 1, f"{arguments}: {done.returncode} {done.stdout}")
+
+
+def sdl_root(desk, work):
+    """ombrel-linux.tar.gz in a root directory with the C library and SDL2: plays, says nothing"""
+    listed = subprocess.run(["/sbin/ldconfig", "-p"], check=True, stdout=subprocess.PIPE).stdout
+    sdl = re.search(r"libSDL2-2\.0\.so\.0 .*x86-64.* => (\S+)", listed.decode())[1]
+    root = make_root(work, "root-of-sdl", closure(work / TAR / "ombrel/larkfen", sdl) | {sdl})
+    env = {"DISPLAY": desk.env["DISPLAY"], "SDL_AUDIODRIVER": "dummy"}
+    with subprocess.Popen(in_root(root, "-w"), env=env, stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True) as process:
+        try:
+            find_frame(desk, "linux-root", by_hash(stored_frames()), (320, 272, 640, 480))
+            # (Without its files of languages the X library sets no title in the old way.)
+            desk.screen.focus_on(lambda title, x, y, w, h: (w, h) == (640, 480))
+            desk.key("Escape")
+            said, _ = process.communicate(timeout=SLOW)
+            expect((process.returncode, said) == (0, ""), f"{process.returncode}: {said}")
+        finally:
+            process.kill()
+
+
 def win64_start(desk, work):
     """ombrel-win64.zip, unpacked: shows the production, ends on Escape with 0"""
     desk.prepare()
@@ -249,7 +309,8 @@ def main():
         arm64 = (TAR_ARM64, "qemu-aarch64-static", "-L", build / "sysroot-arm64")
         results += run(((linux_verify, (work, TAR)), (linux_verify, (work, *arm64)),
                         (win64_verify, (desk, work)), (linux_start, (desk, work, TAR)),
-                        (linux_start, (desk, work, *arm64)), (win64_start, (desk, work))))
+                        (linux_start, (desk, work, *arm64)), (empty_root, (work,)),
+                        (sdl_root, (desk, work)), (win64_start, (desk, work))))
     finally:
         desk.close()
     shutil.rmtree(work)

@@ -8,7 +8,7 @@ namespace ombrel {
 // end.
 void Say(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
-// That a file is missing or unreadable; path as the code or a data file writes it.
+// That a file is missing or unreadable, once a file; path as the code or a data file writes it.
 void SayMissing(const char* path);
 
 } // namespace ombrel
