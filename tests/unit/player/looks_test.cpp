@@ -1,0 +1,159 @@
+// Looks: each shows something, none leaves a trace in the show.
+#include "player/looks.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "app/frame_driver.h"
+#include "base/hash.h"
+#include "demo/reset.h"
+#include "platform/display.h"
+#include "platform/offscreen/offscreen.h"
+#include "player/show.h"
+#include "player/trace.h"
+#include "support/hand_made_data.h"
+
+namespace ombrel {
+namespace {
+
+constexpr std::int32_t kWidth = 320, kHeight = 240;
+
+std::uint64_t ShownHash() {
+    LockFrame();
+    const std::uint64_t hash =
+        HashPicture(display.back.pixels, display.back.pitch, display.width, display.height);
+    (void)UnlockFrame();
+    return hash;
+}
+std::uint64_t HashOf(const LookPicture& picture) {
+    return HashPicture(picture.pixels.data(), picture.width * 2, picture.width, picture.height);
+}
+
+class Looks : public testing::Test {
+protected:
+    Looks() {
+        ResetWorld();
+        ResetOffscreen();
+        WriteWholeFolder(folder_, "1"); // scene two begins with frame 33
+        EXPECT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0}));
+    }
+    ~Looks() override {
+        CloseShow();
+        ResetOffscreen();
+    }
+
+private:
+    DataFolderForTest folder_;
+};
+
+TEST_F(Looks, HaveNamesThatFindThem) {
+    std::set<std::string> names;
+    for (int i = 0; i < kLookCount; ++i) {
+        Look found = Look::None;
+        ASSERT_TRUE(LookOfName(LookName(static_cast<Look>(i)), &found));
+        EXPECT_EQ(static_cast<int>(found), i);
+        EXPECT_STRNE(LookMeaning(found), "");
+        names.insert(LookName(found));
+    }
+    EXPECT_EQ(names.size(), static_cast<std::size_t>(kLookCount));
+    Look untouched = Look::Depth;
+    EXPECT_FALSE(LookOfName("no such look", &untouched));
+    EXPECT_EQ(untouched, Look::Depth);
+}
+
+TEST_F(Looks, ThereIsNothingToLookAtBeforeTheFirstFrame) {
+    LookPicture picture;
+    for (int i = 0; i < kLookCount; ++i) {
+        EXPECT_FALSE(DrawLook(static_cast<Look>(i), &picture)) << i;
+    }
+    FrameFigures figures;
+    EXPECT_FALSE(CountFrame(&figures));
+    EXPECT_EQ(FindObject(10, 10).name, "");
+}
+
+// The frame after a look, and all after it, are those of a show that nobody looked into.
+TEST_F(Looks, LeaveNoTrace) {
+    SeekShow(59, nullptr, nullptr);
+    std::vector<std::uint64_t> played;
+    for (int i = 0; i < kLookCount + 1; ++i) {
+        StepShow();
+        played.push_back(ShownHash());
+    }
+    SeekShow(59, nullptr, nullptr);
+    for (int i = 0; i < kLookCount; ++i) {
+        StepShow();
+        ASSERT_EQ(ShownHash(), played[static_cast<std::size_t>(i)]) << "before look " << i;
+        LookPicture picture;
+        ASSERT_TRUE(DrawLook(static_cast<Look>(i), &picture)) << i;
+        FindObject(kWidth / 2, kHeight / 2);
+        EXPECT_EQ(ShownHash(), played[static_cast<std::size_t>(i)]) << "after look " << i;
+    }
+    StepShow();
+    EXPECT_EQ(ShownHash(), played.back());
+}
+
+TEST_F(Looks, NoneIsThePictureAndTheOthersDiffer) {
+    SeekShow(60, nullptr, nullptr);
+    LookPicture picture;
+    ASSERT_TRUE(DrawLook(Look::None, &picture));
+    EXPECT_EQ(picture.width, kWidth);
+    EXPECT_EQ(picture.height, kHeight);
+    EXPECT_EQ(HashOf(picture), ShownHash());
+    std::set<std::uint64_t> hashes = {ShownHash()};
+    for (const Look look : {Look::Wires, Look::Dots, Look::LightsOff, Look::NoBlur, Look::Depth,
+                            Look::Overdraw, Look::Fillers, Look::Density, Look::Objects}) {
+        ASSERT_TRUE(DrawLook(look, &picture));
+        EXPECT_TRUE(hashes.insert(HashOf(picture)).second) << LookName(look);
+    }
+}
+
+TEST_F(Looks, TheTraceAgreesWithItself) {
+    SeekShow(60, nullptr, nullptr);
+    Trace trace;
+    ASSERT_TRUE(TraceFrame(&trace));
+    ASSERT_GT(trace.triangles.size(), 0U);
+    EXPECT_LE(trace.triangles.size(), static_cast<std::size_t>(trace.faces));
+    std::int64_t covered = 0, asked = 0;
+    for (std::size_t i = 0; i < trace.shown.size(); ++i) {
+        covered += trace.coverings[i];
+        // What is shown has a depth, and covers its pixel.
+        EXPECT_EQ(trace.shown[i] >= 0, trace.depth[i] != 0) << i;
+        EXPECT_TRUE(trace.shown[i] < 0 || trace.coverings[i] > 0) << i;
+    }
+    for (const TracedTriangle& triangle : trace.triangles) {
+        asked += triangle.pixels;
+        EXPECT_GE(trace.owners[static_cast<std::size_t>(triangle.record)], 0);
+    }
+    EXPECT_EQ(covered, asked);
+    FrameFigures figures;
+    ASSERT_TRUE(CountFrame(&figures));
+    EXPECT_EQ(figures.pixels, asked);
+    EXPECT_EQ(figures.triangles, static_cast<std::int32_t>(trace.triangles.size()));
+}
+
+TEST_F(Looks, ObjectsHaveTheNamesOfTheirFiles) {
+    SeekShow(10, nullptr, nullptr); // scene one, inside the box: the sky is behind everything
+    const ObjectAt corner = FindObject(2, 2);
+    EXPECT_EQ(corner.name, "sky-sphere-04.cob");
+    EXPECT_GT(corner.faces, 0);
+    EXPECT_EQ(FindObject(-1, 0).name, "");
+    EXPECT_EQ(FindObject(0, kHeight).name, "");
+}
+
+TEST_F(Looks, LegendsCountTheirPixels) {
+    SeekShow(60, nullptr, nullptr);
+    LookPicture picture;
+    ASSERT_TRUE(DrawLook(Look::Fillers, &picture));
+    ASSERT_FALSE(picture.legend.empty());
+    for (const LegendRow& row : picture.legend) {
+        EXPECT_EQ(std::count(picture.pixels.begin(), picture.pixels.end(), row.color), row.pixels)
+            << row.name;
+        EXPECT_EQ(row.name.rfind("Fill", 0), 0U) << row.name;
+    }
+}
+
+} // namespace
+} // namespace ombrel
