@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Shows that the checks of check_world.py and compare.py find what they are for.
+"""Shows that the checks of check_world.py, check_pictures.py and compare.py find what they are for.
 
 Usage: check_test.py        each case breaks one thing in a copy; prints "N passed, N failed"
 """
@@ -12,6 +12,7 @@ import tempfile
 
 import numpy as np
 
+import check_pictures as pictures_of
 import check_world as world
 import compare
 
@@ -98,10 +99,14 @@ def skies():
         v = corners[:, 0::2]
         said = lambda p, f: complaints(lambda: world.check_sky(name, p, f))
         expect(name, said(verts, v), "")
-        expect("a face less", said(verts, v[1:]), "3 open edges")
+        expect("a face less", said(verts, v[:-1]), "3 open edges")
         expect("a face in the middle less", said(verts, np.delete(v, len(v) // 2, 0)), "open edges")
         expect("seen from outside", said(verts, v[:, ::-1]), "the wrong way")
         expect("too wide", said(verts * 1.1, v), "radius")
+        inner = np.concatenate([verts, 0.95 * verts[v[-9]]])
+        star = np.arange(len(verts), len(verts) + 3)
+        expect("a hole patched inside",
+               said(inner, np.concatenate([np.delete(v, -9, 0), [star]])), "open edges")
         expect("too narrow", said(verts * 0.8, v), "radius")
 
 
@@ -119,8 +124,61 @@ def flights():
     for offset, name in ((300.0, "far"), (50.0, "near")):
         cloud = way[800:801, 0:3] + (0, offset, 0)
         with contextlib.redirect_stdout(io.StringIO()):
-            least = world.report_flight("x", way, cloud, np.array([0]), ["stone"])
+            least = world.report_flight("scene one", way, cloud, np.array([0]), ["stone"])
         counts[0 if (least < 100) == (name == "near") else 1] += 1
+    # The sea counts until the dive, other things behind it too.
+    for dive, owner, near in ((700, 0, False), (900, 0, True), (700, 1, True)):
+        cloud = np.concatenate([way[800:801, 0:3] + (0, 50.0, 0), way[800:801, 0:3] + (0, 900.0, 0),
+                                way[800:801, 0:3] + (0, 900.0, 0)])
+        with contextlib.redirect_stdout(io.StringIO()):
+            least = world.report_flight("scene one", way, cloud, np.array([owner, 1, 0]),
+                                        ["sea", "stone"], "sea", dive)
+        counts[0 if (least < 100) == near else 1] += 1
+    cloud = np.array([(0.0, -9000.0, 0.0)])
+
+    def flown(path):
+        return complaints(lambda: world.report_flight("scene one", path, cloud, np.array([0]),
+                                                      ["stone"]))
+
+    expect("the flight as it is", flown(way), "")
+    for column, name in ((4, "turned"), (3, "tilted")):
+        fast = way.copy()
+        fast[500:, column] += 1.5
+        expect(name, flown(fast), "degrees a frame")
+
+
+def frames():
+    """Measures of pictures, on pictures made for them."""
+    columns = np.zeros((480, 640, 3), np.uint8)
+    columns[:, 0:200] = (30, 90, 250)
+    columns[:, 200:400] = (240, 40, 130)
+    columns[:, 400:600] = (250, 170, 30)
+    moved = np.roll(columns, 150, axis=1)
+    good = {call: columns if call // 200 % 2 else moved for call in range(1811, 3900, 10)}
+    said = lambda pages: "; ".join(pictures_of.check_points(pages))
+    expect("good points", said(good), "")
+    white = moved.copy()
+    white[:60] = 150
+    expect("pale", said({**good, 2001: white}), "12.5 % of the picture are pale")
+    white[:57] = (150, 150, 140)
+    expect("not pale", said({**good, 2001: white}), "")
+    two = columns.copy()
+    two[:, 400:] = two[:, 0:1]
+    tenth = {call: two for call in list(good)[::11]}
+    expect("two groups in one picture of eleven", said({**good, **tenth}), "")
+    expect("two groups in one picture of six",
+           said({**good, **{call: two for call in list(good)[::6]}}), "groups of hues")
+    expect("grey counts for no group", str(pictures_of.hue_shares(columns // 8)), "[0.0, 0.0, 0.0")
+    expect("nothing moves", said({call: columns for call in good}), "the same picture")
+    dark = np.zeros((480, 640, 3), np.uint8)
+    all_frames = {f: dark for f in range(0, 6010, 10)}
+    read = lambda pages: "; ".join(pictures_of.check_texts(pages))
+    expect("texts on black", read(all_frames), "")
+    bright = dark.copy()
+    bright[60:110] = 200
+    expect("a text on white", read({**all_frames, 4100: bright}), "page 2, 4: 100 % pale behind it")
+    expect("texts that no picture shows", read({f: dark for f in all_frames if f < 5900}),
+           "see ya: no picture")
 
 
 def comparison():
@@ -159,6 +217,7 @@ objects()
 pictures()
 skies()
 flights()
+frames()
 comparison()
 print("%d passed, %d failed" % tuple(counts))
 sys.exit(1 if counts[1] else 0)

@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
 """Reads data/ as the program will and checks it against what the renderer can bear.
 
-Usage: check_world.py [DATA_FOLDER] [--flights]     exit status 1 when anything is wrong
+Usage: check_world.py [DATA_FOLDER] [--flights] [--frames CAPTURE]    status 1: something is wrong
 Prints one line an object: faces, vertices, materials, radius, texture; with --flights also speed,
-turn rate, height and clearance along both tracks.
+turn rate, height and clearance along both tracks, and how large texels get; with --frames the
+pictures too (check_pictures.py): CAPTURE is the recorder, larkfen-capture, and the run takes a
+minute.
 """
 import math
 import pathlib
@@ -12,6 +14,8 @@ import struct
 import sys
 
 import numpy as np
+
+import check_pictures
 
 FIXED = {                         # file: (scale x y z, origin x y z)
     "sky-sphere-04.cob": ((1000, 1000, 1000), (0, 2000, 0)),
@@ -22,6 +26,12 @@ FIXED = {                         # file: (scale x y z, origin x y z)
     "ground-lowpoly-03-alpha.cob": ((80, 125, 125), (0, 0, 0)),
     "light_debug.cob": ((100, 100, 100), (0, 0, 0)),
 }
+# A sky's shell: no face of it is smaller than this or nearer than that (thousands of units).
+SHELL_EDGE, SHELL_RADIUS = 0.7, 8.9
+LIGHT_BELOW = -60.0
+POINTS_FROM = 1801                # call of scene two that first draws points
+DIVE = 60                         # calls before it in which the eye goes down to the sea
+MOST_TURN = {"scene one": 0.65, "scene two": 0.65}     # degrees a frame
 problems = []
 
 
@@ -144,7 +154,11 @@ def check_winding(name, verts, v, inward):
 
 
 def check_sky(name, verts, v):
-    """Closed, seen from inside, and of a size that neither the sphere test nor zFar cuts."""
+    """Closed, seen from inside, and of a size that neither the sphere test nor zFar cuts.  Moon
+    and stars, smaller than any face of the shell, float inside it."""
+    p = verts[v]
+    size = np.linalg.norm(p - p[:, [1, 2, 0]], axis=2).max(axis=1)
+    v = v[(size > SHELL_EDGE) | (np.linalg.norm(p, axis=2).min(axis=1) > SHELL_RADIUS)]
     check_winding(name, verts, v, False)
     r = np.linalg.norm(verts[np.unique(v)], axis=1)
     if r.max() * 1000 > 9620 or r.max() * 1000 < 7601:
@@ -212,7 +226,9 @@ def thicken(points, faces, gap=60.0):
     return np.unique(np.round(np.concatenate(out)), axis=0)
 
 
-def report_flight(name, way, cloud, owner, names, white_from=None):
+def report_flight(name, way, cloud, owner, names, through=None, dive=None):
+    """Prints the flight; returns the least clearance.  From frame dive on the object named through
+    does not count: the eye goes through it."""
     pos, ang = way[:, 0:3], way[:, 3:6]
     speed = np.linalg.norm(np.diff(pos, axis=0), axis=1)
     turn = np.abs(np.diff(ang[:, 1]))
@@ -220,7 +236,11 @@ def report_flight(name, way, cloud, owner, names, white_from=None):
     jump = np.abs(np.diff(speed))
     near, who = [], []
     index = list(range(0, len(pos), 4))
+    solid = cloud if through is None else cloud[owner != names.index(through)]
+    solid_owner = owner if through is None else owner[owner != names.index(through)]
     for k in index:
+        if through is not None and k == dive - dive % 4:
+            cloud, owner = solid, solid_owner
         d = cloud - pos[k]
         d2 = np.einsum("ij,ij->i", d, d)
         i = int(d2.argmin())
@@ -238,11 +258,21 @@ def report_flight(name, way, cloud, owner, names, white_from=None):
             who[i]))
     worst = int(near.argmin())
     print("least clearance %.0f at frame %d (%s)" % (near[worst], index[worst], who[worst]))
+    if turn.max() > MOST_TURN[name] or tilt.max() > MOST_TURN[name]:
+        wrong("%s: turns %.2f, tilts %.2f degrees a frame" % (name, turn.max(), tilt.max()))
     return near.min()
 
 
 def main():
-    args = [a for a in sys.argv[1:] if not a.startswith("--")]
+    args, capture = list(sys.argv[1:]), None
+    if "--frames" in args:
+        at = args.index("--frames")
+        if at + 1 == len(args):
+            raise SystemExit("--frames needs the recorder (larkfen-capture)")
+        capture = args[at + 1]
+        del args[at:at + 2]
+    flights = "--flights" in args
+    args = [a for a in args if not a.startswith("--")]
     data = pathlib.Path(args[0] if args else pathlib.Path(__file__).parent / "../data")
     d3, tex = data / "3d", data / "texture"
     objects, materials = {}, 0
@@ -309,6 +339,8 @@ def main():
             wrong("%s: no spare vertex for the sphere test (%.2f of %.2f)" % (name, own, true))
         if name != "dummy.cob":
             pts = thicken(world, v)
+            # What hangs below the sea is light: the eye may pass through it.
+            pts = pts[pts[:, 1] > LIGHT_BELOW]
             clouds.append(pts)
             owner += [len(names)] * len(pts)
             names.append(name[:-4])
@@ -344,12 +376,16 @@ def main():
     way1, way2 = fly(one, 1 << 20)[:-1], fly(two, 3967)
     if len(way2) < 3967:
         wrong("scene2.trk lasts %d frames, 3967 are needed" % len(way2))
-    if "--flights" in sys.argv:
+    if flights:
         cloud = np.concatenate(clouds)
         owner = np.array(owner)
         for name, way in (("scene one", way1), ("scene two", way2)):
-            if report_flight(name, way, cloud, owner, names) < 100:
+            crossing = ("sea", POINTS_FROM - DIVE) if name == "scene two" else (None, None)
+            if report_flight(name, way, cloud, owner, names, *crossing) < 100:
                 wrong("%s: flies too near to something" % name)
+    if capture is not None:
+        for text in check_pictures.look(capture, data):
+            wrong(text)
     print("%d problem%s" % (len(problems), "" if len(problems) == 1 else "s"))
     return 1 if problems else 0
 

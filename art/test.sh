@@ -2,6 +2,8 @@
 # Checks data/ against the renderer's limits, the soundtrack against its measures, the checks against
 # data broken on purpose, and data/ against what the sources give without Blender and the soundtrack.
 # Usage: art/test.sh        (needs python3 with numpy and PIL, ffmpeg, and the two fonts)
+# The pictures that the production draws are checked once the recorder is built:
+#        art/check_world.py data --frames build/release/larkfen-capture
 here=$(cd "$(dirname "$0")" && pwd)
 PYTHON=${PYTHON:-/usr/bin/python3}
 export PYTHONDONTWRITEBYTECODE=1

@@ -6,7 +6,9 @@ import math
 
 import numpy as np
 
+import lights
 from geometry import Mesh, drop_degenerate, lathe, surface
+from paint import MOON
 
 SKY_SCALE, STAND_SCALE, GROUND_SCALE = (1000, 1000), (1100, 1100), (125, 80)
 GLOBE = 4600.0
@@ -72,8 +74,42 @@ def sky():
 
 def sky_night():
     m = Mesh()
+    moon_and_stars(m)
     sky_shell(m, 9000, 36, 18, "tex:constant:5")
     return weld(m)
+
+
+def moon_and_stars(m):
+    """Flat and crisp, just inside the shell and drawn before it: the blur alone softens them."""
+    def patch(bearing, up, degrees, corners, mat, radius, turn=0.0, squash=1.0):
+        b, e = math.radians(bearing), math.radians(up)
+        # seen from near the ground, not from the shell's middle
+        ahead = np.array((math.cos(e) * math.sin(b), math.cos(e) * math.cos(b), math.sin(e)))
+        eye = np.array((0.0, 0.0, -1780.0))
+        t = -eye @ ahead + math.sqrt((eye @ ahead) ** 2 + radius ** 2 - eye @ eye)
+        mid = eye + t * ahead
+        right = np.array((math.cos(b), -math.sin(b), 0.0))
+        top = np.cross(right, ahead)
+        size = t * math.tan(math.radians(degrees))
+        ring = [tuple(mid + size * (math.cos(turn + 2 * math.pi * k / corners) * right
+                                    + squash * math.sin(turn + 2 * math.pi * k / corners) * top))
+                for k in range(corners)]
+        m.add([tuple(mid)] + ring, [(0, 1 + k, 1 + (k + 1) % corners) for k in range(corners)]
+              if corners > 4 else [(1, 2, 3), (1, 3, 4)], (255, 255, 255), mat)
+
+    bearing, up = MOON
+    patch(bearing, up, 3.4, 22, "plain:constant:255,243,214", 8700)
+    for side, high, size in ((-0.9, 0.8, 0.95), (0.5, 1.2, 0.6), (0.9, -0.7, 0.75), (-0.4, -1.2, 0.5),
+                             (-1.7, -0.4, 0.45)):
+        patch(bearing + side, up + high, size, 9, "plain:constant:222,206,182", 8600)
+    rng = np.random.RandomState(3)
+    for k in range(110):
+        b, e = 360 * rng.rand(), 12 + 62 * rng.rand() ** 1.4
+        if math.hypot((b - bearing + 180) % 360 - 180, e - up) < 10:
+            continue
+        size = 0.30 + 0.22 * rng.rand() ** 3
+        patch(b, e, size, 4, ("plain:constant:255,244,220", "plain:constant:190,210,255",
+                              "plain:constant:255,214,170")[k % 3], 8700)
 
 
 def glass():
@@ -176,6 +212,9 @@ def stand():
                     for r in (8600, 7000, 5600, 4400, 3300, 2400, 1500)])
     uv = [[(0.75 + 0.248 * x / 8600, 0.25 + 0.248 * y / 8600) for x, y, _ in row] for row in pts]
     surface(m, pts, (255, 255, 255), "constant", wrap_i=True, uv=uv)
+    drift = lights.plankton()
+    m.join(drift, (0, 0, up))
+    m.join(lights.fireflies(), (0, 0, up))
     return weld(m)
 
 

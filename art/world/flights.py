@@ -54,35 +54,50 @@ def ring(bearing, radius, height, down, look_off=0.0):
 
 
 def scene_two():
-    first = ring(216, 3000, 405, 2)
-    start = ring(210, 3100, 415, 2)
-    keys = [("shapes the first tangent",) + first, ("behind the gates, low",) + start]
-    # one slow turn of the night garden; bearings fall, so that ay falls
-    plan = [(203, 3210, 440, 3, 0), (196, 3330, 480, 4, 0), (189, 3380, 520, 5, 0),
-            (181, 3320, 570, 7, 2), (172, 3150, 640, 10, 3), (162, 2930, 720, 12, 2),
-            (151, 2740, 800, 14, 0), (140, 2600, 870, 15, -1), (128, 2520, 930, 16, -2),
-            (115, 2500, 980, 17, -2), (102, 2460, 1010, 17, -1), (89, 2380, 1000, 15, 1),
-            (77, 2250, 950, 13, 3)]
-    names = ["towards the way", "beside the way", "three gates in line, lamps below",
-             "past the way", "the boat passes", "towards the shore", "pools of light cross",
-             "over the pines",
-             "east shore", "the basin in colour", "the tower to the right",
-             "the tower before the dial", "down towards the shore"]
-    for n, (b, r, h, d, off) in zip(names, plan):
-        x, y, z, ax, ay = ring(b, r, h, d, off)
-        keys.append((n, x, y, z, ax, ay))
-    # The points: from low, looking up, so that all far ground folds into one bright line and what
-    # stands above it is drawn on black; in under the canopy, out again with the gates, to rest.
-    dots = [(69, 2010, 850, 9, 3), (62, 1740, 700, 4, 1), (54, 1560, 570, -1, 0),
-            (45, 1500, 490, -6, 0), (37, 1440, 430, -10, 0), (30, 1330, 390, -14, 0),
-            (23, 1230, 360, -18, 0), (15, 1180, 345, -21, 0), (6, 1170, 340, -22, 0),
-            (-3, 1165, 345, -21, 3), (-12, 1170, 355, -19, 7), (-20, 1220, 372, -16.5, 11),
-            (-26, 1330, 395, -14, 14), (-31, 1430, 414, -12.3, 16), (-37.5, 1510, 430, -11, 17.5),
-            (-44, 1580, 445, -10, 18.5), (-47.5, 1650, 462, -9, 19), (-49.5, 1710, 478, -8.2, 19),
-            (-50, 1740, 486, -7.8, 19), (-50.2, 1750, 488, -7.7, 19)]
-    for k, (b, r, h, d, off) in enumerate(dots):
-        x, y, z, ax, ay = ring(b, r, h, d, off)
-        keys.append(("points %d" % (k + 1), x, y, z, ax, ay))
+    # The night of lights: beside the way, over paper boats; in under the parasol to its lanterns;
+    # out to sea, until the whole island is in sight.
+    keys = [
+        ("shapes the first tangent", -1480, 172, -3300, -1, 32),
+        ("on the water, paper boats before the gates", -1330, 160, -2980, -1, 33),
+        ("along the gates", -1180, 150, -2640, -2, 35),
+        ("boats close by", -1030, 180, -2330, -3, 36),
+        ("towards the shore", -880, 250, -2030, -6, 33),
+        ("the dial opens", -760, 330, -1660, -9, 28),
+        ("over the stones' circle", -640, 400, -1260, -11, 30),
+        ("under the canopy, lanterns turn", -610, 470, -830, -17, 38),
+        ("round the pole, out to the lighthouse", -420, 520, -560, -13, 44),
+        ("the parasol's other side", 150, 560, -640, -8, 20),
+        ("out of the parasol, over the tables", 860, 640, -900, 0, -34),
+        ("out to sea", 1720, 830, -1400, 9, -51),
+        ("the island smaller", 2580, 960, -1850, 12.5, -56),
+        ("the whole island", 3250, 960, -2150, 12.5, -57),
+        ("down to the water", 3120, 640, -2620, 9, -48),
+    ]
+
+    def at(name, b, r, h, down, ay):
+        a = math.radians(b)
+        keys.append((name, r * math.sin(a), h, r * math.cos(a), down, ay))
+
+    at("skims the water", 146, 3384, 45, 4, 326)
+    at("down through the sea, the bell above", 160, 2900, -430, -8, 341)
+    at("among the tentacles", 178, 2500, -820, -12, 361)
+    at("along them, down", 199, 2200, -1220, -15, 386)
+    at("the skirt sweeps past", 224, 1800, -1650, -21, 414)
+    at("inside the skirt", 252, 1300, -1980, -33, 442)
+    at("towards the spine", 283, 700, -2180, -55, 470)
+    at("under the spine", 315, 200, -2230, -80, 497)
+    at("straight up", 0, 0, -1950, -90, 527)
+    at("up into the spine", 0, 0, -1560, -90, 560)
+    at("the bell fills the sky", 0, 0, -1240, -90, 600)
+    at("back down", 225, 130, -1420, -81, 648)
+    at("away, down and out", 225, 900, -2020, -52, 702)
+    at("away, through the skirt", 225, 1750, -2290, -32, 742)
+    at("the medusa whole", 225, 2340, -2160, -24, 751)
+    at("credits", 225, 2650, -2040, -20.5, 751)
+    at("credits", 225, 2820, -1960, -18.8, 750)
+    at("rest", 225, 2890, -1920, -18.1, 749.2)
+    at("rest", 225, 2910, -1910, -17.9, 749)
+    at("rest", 225, 2910, -1910, -17.9, 749)
     return keys
 
 

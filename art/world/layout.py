@@ -10,6 +10,9 @@ import island
 
 GATES = ((-545, -2900, 19, 1.0), (-345, -2380, 22, 1.0), (-165, -1830, 14, 1.0))
 
+# The medusa's skirt is one piece, placed so many times; the middle of a piece: distance, height.
+SECTORS, SKIRT = 6, (1270.0, -1350.0)
+
 
 def causeway_points():
     """Pieces of the raised way, from the open sea to the dial: x, y, bearing."""
@@ -89,6 +92,13 @@ def rows():
         r.append(("spire", x, y, -30, b, s))
     r += [("boat", 430, -2680, -14, 60, 1.0), ("boat", -1560, -2250, -14, 300, 1.0),
           ("boat", 2350, 420, -14, 20, 1.1)]
+    r += [("garlands", 0, 0, 0, 0, 1), ("paper-boats", 0, 0, 0, 0, 1)]
+    # below the sea: the skirt of the medusa, once around
+    away, deep = SKIRT
+    for k in range(SECTORS):
+        b = 360.0 * k / SECTORS
+        a = math.radians(b)
+        r.append(("skirt", away * math.sin(a), away * math.cos(a), deep, b, 1))
     # the turning pair, a quiet one between, and the line that is never drawn
     r += [("lantern-ring", 0, 0, island.PLAZA_TOP, 0, 1), ("canopy", 0, 0, island.PLAZA_TOP, 0, 1),
           ("boat", -2050, 1750, 0, 130, 0.9), ("dummy", 0, 0, 40, 0, 1)]

@@ -14,6 +14,7 @@ import flights
 import fonts
 import island
 import layout
+import lights
 import models
 import paint
 
@@ -25,6 +26,15 @@ MODELS = {
     "islet": models.islet, "reef": models.reef, "spire": models.spire, "boat": models.boat,
     "lantern-ring": models.lantern_ring, "canopy": models.canopy,
 }
+
+# Objects of lights alone, without a picture.
+LIGHTS = {"skirt": lights.skirt, "garlands": lights.garlands, "paper-boats": lights.paper_boats}
+# Lights that turn with an object; they are added after its bake.
+# Heights in lights.py are above the sea.
+CARRIED = {"lantern-ring": [(lights.arms, -island.PLAZA_TOP)],
+           "pine": [(lights.in_the_pine, 0)],
+           "canopy": [(lights.swimmers, -island.PLAZA_TOP),
+                      (lambda: lights.on_the_ribs(models.canopy_point), 0)]}
 
 # Models that bring their own uv, and who paints them.
 PAINTED = {"canopy": paint.canopy}
@@ -147,8 +157,13 @@ def main():
             mesh.uvs = [tuple((float(u), float(v)) for u, v in f) for f in stored["uv"]]
             page = lift(stored["page"].astype(float))
             page = np.clip(page * np.array(TINT.get(name, (1, 1, 1))), 0, 255)
+        for lit, up in CARRIED.get(name, []):
+            mesh.join(lit(), (0, 0, up))
         picture(name, page)
         cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
+    for name, make in LIGHTS.items():
+        mesh = make()
+        cobfile.write(d3 / (name + ".cob"), name, mesh, None, spare=spare(mesh))
     dummy = models.dummy()
     cobfile.write(d3 / "dummy.cob", "dummy", dummy, None, spare=spare(dummy))
 

@@ -9,6 +9,9 @@ FIXED = {"sky-sphere-04", "sky-sphere-04-alpha0", "sky-sphere-04-alpha-s2", "sta
          "ground-lowpoly-03", "ground-lowpoly-03-alpha", "light_debug", "sea"}
 
 
+LIGHTS = {"skirt", "garlands", "paper-boats"}
+
+
 def entry(name):
     path = pathlib.PurePosixPath(name)
     if path.parent.name == "sfx":
@@ -25,7 +28,8 @@ def entry(name):
     if path.suffix == ".po":
         return ("art/world/layout.py", "python3", OURS)
     if path.suffix == ".cob":
-        source = ("fixed.py" if path.stem in FIXED else "island.py"
+        source = ("fixed.py" if path.stem in FIXED else
+                  "lights.py" if path.stem in LIGHTS else "island.py"
                   if path.stem.startswith(("isle", "dial")) else "models.py")
         tool = "python3" + (", uv by blender" if path.stem in BAKED else "")
         return ("art/world/" + source, tool, OURS)

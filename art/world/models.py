@@ -38,20 +38,26 @@ def ring_wall(mesh, inner, outer, z0, z1, segs, color, mat="matte", start=0.0):
           hard=True)
 
 
+GORES = 16
+
+
+def canopy_point(a, t, inside):
+    """A place of the great parasol's cloth: a is a part of the circle, t goes from 0 (top) to 1
+    (rim); it sags between the ribs, more towards the rim."""
+    radius, top, rim = 1100.0, 1560.0, 1120.0
+    g = (a * GORES) % 1.0
+    sag = 4 * g * (1 - g)
+    r = radius * math.sin(t * 1.32) / math.sin(1.32) * (1 - 0.035 * sag * t * t)
+    z = rim + (top - rim) * (math.cos(t * 1.32) - math.cos(1.32)) / (1 - math.cos(1.32))
+    z += -26 * sag * t * t * t - (9 if inside else 0)
+    return (r * math.cos(2 * math.pi * a), r * math.sin(2 * math.pi * a), z)
+
+
 def canopy():
     """The great parasol: 16 gores in coral and cream, outside and inside, valance, ribs."""
     m = Mesh()
-    gores, sub, rings = 16, 3, 9
-    radius, top, rim = 1100.0, 1560.0, 1120.0
-
-    def point(a, t, inside):
-        # t from 0 (top) to 1 (rim); cloth sags between the ribs, more towards the rim
-        g = (a * gores) % 1.0
-        sag = 4 * g * (1 - g)
-        r = radius * math.sin(t * 1.32) / math.sin(1.32) * (1 - 0.035 * sag * t * t)
-        z = rim + (top - rim) * (math.cos(t * 1.32) - math.cos(1.32)) / (1 - math.cos(1.32))
-        z += -26 * sag * t * t * t - (9 if inside else 0)
-        return (r * math.cos(2 * math.pi * a), r * math.sin(2 * math.pi * a), z)
+    gores, sub, rings = GORES, 3, 9
+    point = canopy_point
 
     # Gores of one colour share one column of the picture (paint.canopy): four columns, outside
     # coral and cream, inside coral and cream; the valance has a strip of its own.

@@ -6,7 +6,7 @@ import numpy as np
 from bitmap import fft_noise, lerp, ramp, smooth
 
 SUN_BEARING, SUN_UP = 65.0, 11.0
-MOON = (318.0, 24.0)                # bearing, elevation
+MOON = (11.0, 15.0)                 # bearing, elevation
 
 
 def sky_day():
@@ -104,8 +104,8 @@ def sky_day():
 
 
 def sky_night(day):
-    """A quarter of the size, night tint, the day's clouds, a moon and stars that outlive the
-    blur."""
+    """A quarter of the size, night tint, the day's clouds, the moon's glow.  Moon and stars are
+    faces (fixed.moon_and_stars)."""
     n = 4
     d = day.reshape(256, n, 256, n, 3).mean(axis=(1, 3))
     d = np.minimum(d, 226)
@@ -121,12 +121,6 @@ def sky_night(day):
     a = np.hypot(side * np.cos(np.radians(up)), up - MOON[1])
     glow = 0.55 * np.exp(-(a / 9.0) ** 1.1)
     d = lerp(d, np.full(d.shape, (132, 140, 176)), glow)
-    d = lerp(d, np.full(d.shape, (255, 240, 206)), smooth(3.3, 2.5, a))
-    rng = np.random.RandomState(3)
-    for _ in range(150):
-        i, j = rng.randint(4, 252), rng.randint(2, 254)
-        if up[i, j] > 12 and a[i, j] > 9:
-            d[i, j] = np.maximum(d[i, j], 110 + 120 * rng.rand() ** 2)
     return d
 
 

@@ -9,7 +9,7 @@ Transform
 0 1 0 0
 0 0 1 0
 0 0 0 1
-World Vertices 202
+World Vertices 222
 0 0.2998 -0.412
 0.2341 0.1863 -0.4215
 0.292 -0.0674 -0.4148
@@ -211,8 +211,28 @@ World Vertices 202
 2.243 -1.3225 4.1169
 2.6267 -1.5406 4.2345
 2.6893 -0.9 4.3
+1.5 0.4 4.43
+1.641 0.4 4.2005
+1.4295 0.523 4.2005
+1.4295 0.277 4.2005
+-0.6 -1.3 4.48
+-0.459 -1.3 4.2505
+-0.6705 -1.177 4.2505
+-0.6705 -1.423 4.2505
+-1.9 1.3 4.13
+-1.759 1.3 3.9005
+-1.9705 1.423 3.9005
+-1.9705 1.177 3.9005
+0.6 1.5 4.46
+0.741 1.5 4.2305
+0.5295 1.623 4.2305
+0.5295 1.377 4.2305
+2 -1.5 4.18
+2.141 -1.5 3.9505
+1.9295 -1.377 3.9505
+1.9295 -1.623 3.9505
 0 0 7.9916
-Texture Vertices 412
+Texture Vertices 413
 0.375 0.8805
 0.3758 0.7759
 0.3957 0.7762
@@ -625,7 +645,8 @@ Texture Vertices 412
 0.9725 0.8082
 0.9864 0.8529
 0.9668 0.8529
-Faces 346
+0 0
+Faces 366
 Face verts 3 flags 0 mat 0
 <0,0> <8,2> <7,1>
 Face verts 3 flags 0 mat 0
@@ -1318,6 +1339,46 @@ Face verts 3 flags 0 mat 0
 <160,406> <189,408> <182,407>
 Face verts 3 flags 0 mat 0
 <200,409> <182,411> <189,410>
+Face verts 3 flags 0 mat 1
+<201,412> <203,412> <202,412>
+Face verts 3 flags 0 mat 1
+<201,412> <204,412> <203,412>
+Face verts 3 flags 0 mat 1
+<201,412> <202,412> <204,412>
+Face verts 3 flags 0 mat 1
+<202,412> <203,412> <204,412>
+Face verts 3 flags 0 mat 2
+<205,412> <207,412> <206,412>
+Face verts 3 flags 0 mat 2
+<205,412> <208,412> <207,412>
+Face verts 3 flags 0 mat 2
+<205,412> <206,412> <208,412>
+Face verts 3 flags 0 mat 2
+<206,412> <207,412> <208,412>
+Face verts 3 flags 0 mat 1
+<209,412> <211,412> <210,412>
+Face verts 3 flags 0 mat 1
+<209,412> <212,412> <211,412>
+Face verts 3 flags 0 mat 1
+<209,412> <210,412> <212,412>
+Face verts 3 flags 0 mat 1
+<210,412> <211,412> <212,412>
+Face verts 3 flags 0 mat 3
+<213,412> <215,412> <214,412>
+Face verts 3 flags 0 mat 3
+<213,412> <216,412> <215,412>
+Face verts 3 flags 0 mat 3
+<213,412> <214,412> <216,412>
+Face verts 3 flags 0 mat 3
+<214,412> <215,412> <216,412>
+Face verts 3 flags 0 mat 4
+<217,412> <219,412> <218,412>
+Face verts 3 flags 0 mat 4
+<217,412> <220,412> <219,412>
+Face verts 3 flags 0 mat 4
+<217,412> <218,412> <220,412>
+Face verts 3 flags 0 mat 4
+<218,412> <219,412> <220,412>
 mat# 0
 rgb 1,1,1
 alpha 1 ka 0.1 ks 0.1 exp 0
@@ -1328,3 +1389,39 @@ Shader class: transparency
 Shader name: "none"
 Shader class: reflectance
 Shader name: "plastic"
+mat# 1
+rgb 1,0.6676,0.1578
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "constant"
+mat# 2
+rgb 1,0.4324,0.0794
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "constant"
+mat# 3
+rgb 1,0.1971,0.5892
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "constant"
+mat# 4
+rgb 0.1578,0.9029,0.7853
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "constant"

@@ -186,7 +186,9 @@ void LookAtWorld(WorldFindings* findings, const RunFrame& f) {
                      " in the marker colour");
         }
     }
-    const std::int32_t around = ObjectAroundEye();
+    // The points have no insides: their eye is below the sea.
+    const bool points = sceneTwo.started && switches.renderMode1 == 0;
+    const std::int32_t around = points ? -1 : ObjectAroundEye();
     if (around >= 0) {
         ++findings->inside;
         Note(findings, f.number, "the eye is inside object " + std::to_string(around));

@@ -1,7 +1,7 @@
 // What every frame of the shipped world must hold, looked at while the production plays:
 //   covered   where nothing clears the frame, every pixel is drawn
 //   budget    the face list is neither near its end nor, at the busiest, poor
-//   outside   the eye is inside no object
+//   outside   the eye is inside no object, where faces are filled
 //   texels    no corner of a drawn face lies outside its texture
 // The checks read what the frame left behind and change no pixel, but for the marker colour.
 #pragma once
