@@ -17,7 +17,7 @@ namespace ombrel {
 
 inline constexpr std::int32_t kFaceLimit = 60000; // in any frame
 inline constexpr std::int32_t kBusyLeast = 20000; // in the busiest frame
-inline constexpr std::int32_t kBusyMost = 45000;
+inline constexpr std::int32_t kBusyMost = 59000;
 inline constexpr Pixel16 kMarker = 0x07E0; // a green that the world does not have
 
 struct WorldFindings {
