@@ -149,21 +149,21 @@ def flights():
 
 def frames():
     """Measures of pictures, on pictures made for them."""
-    columns = np.zeros((480, 640, 3), np.uint8)
-    columns[:, 0:200] = (30, 90, 250)
-    columns[:, 200:400] = (240, 40, 130)
-    columns[:, 400:600] = (250, 170, 30)
-    moved = np.roll(columns, 150, axis=1)
+    columns = np.zeros((48, 64, 3), np.uint8)
+    columns[:, 0:20] = (30, 90, 250)
+    columns[:, 20:40] = (240, 40, 130)
+    columns[:, 40:60] = (250, 170, 30)
+    moved = np.roll(columns, 15, axis=1)
     good = {call: columns if call // 200 % 2 else moved for call in range(1811, 3900, 10)}
     said = lambda pages: "; ".join(pictures_of.check_points(pages))
     expect("good points", said(good), "")
     white = moved.copy()
-    white[:60] = 150
+    white[:6] = 150
     expect("pale", said({**good, 2001: white}), "12.5 % of the picture are pale")
-    white[:57] = (150, 150, 140)
+    white[:6] = (150, 150, 140)
     expect("not pale", said({**good, 2001: white}), "")
     two = columns.copy()
-    two[:, 400:] = two[:, 0:1]
+    two[:, 40:] = two[:, 0:1]
     tenth = {call: two for call in list(good)[::11]}
     expect("two groups in one picture of eleven", said({**good, **tenth}), "")
     expect("two groups in one picture of six",
