@@ -70,3 +70,10 @@ include(cmake/install.cmake)
 add_custom_target(packages COMMAND ${CMAKE_SOURCE_DIR}/tools/package.py DEPENDS larkfen larkfen-hashes
                   USES_TERMINAL
                   VERBATIM)
+
+# The video beside the archives: cmake --build --preset video; a second call goes on where one broke off.
+set(package_folder ${CMAKE_BINARY_DIR}/../package)
+add_custom_target(video COMMAND ${CMAKE_COMMAND} -E make_directory ${package_folder}
+                        COMMAND larkfen-capture -w --scale 4 --fps 60 --resume
+                                --video ${package_folder}/ombrel.mp4
+                  USES_TERMINAL VERBATIM)

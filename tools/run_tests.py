@@ -164,7 +164,10 @@ STEPS = [
     Step("fuzzing: the seeds, and 5 seconds each", ALL, "tools/fuzz.py", ("build fuzz",),
          load=WHOLE),
 
-    # The archives.
+    # What is installed, packed and recorded.
+    Step("what is installed, and the Debian package", DEFAULT, "tests/release/run.sh build/release",
+         RELEASE),
+    Step("videos of the recorder", ALL, "tests/capture/run.sh build/release", RELEASE, limit=1200),
     Step("make the archives", ALL, "tools/package.py", RELEASE + WIN64 + WIN32 + ARM64,
          tests=IS_BUILD),
     Step("archives, unpacked", ALL, "tests/packages/run.sh build", ("make the archives",),
