@@ -34,7 +34,7 @@ target_compile_definitions(larkfen-hashes PRIVATE OMBREL_WITHOUT_PNG)
 target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_demo
                                              ombrel_platform_offscreen)
 if(NOT OMBREL_SANITIZE)
-  target_link_options(larkfen-hashes PRIVATE -static-libstdc++ -static-libgcc)
+  target_link_options(larkfen-hashes PRIVATE -static-libstdc++ -static-libgcc LINKER:--gc-sections)
 endif()
 # The inspector's pictures are lettered and written as those of the other tools.
 target_sources(larkfen-inspect PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-gallery/tiny_font.cpp

@@ -134,7 +134,7 @@ def windows_programs(work):
         kind, _, made, symbols = struct.unpack_from("<HHII", raw, start)
         expect((kind, made, symbols) == (machine, 0, 0), f"{kind:x} {made} {symbols}")
         expect(str(ROOT).encode() not in raw, "it holds the path of the checkout")
-        pe_file.check_program(program)
+        (pe_file.check_program if name == "larkfen" else pe_file.check_imports)(program)
         if machine == I386:
             pe_file.check_imports_listed(program, ROOT / "tests/windows/xp_imports.txt")
 

@@ -78,6 +78,12 @@ def check_program(path):
     expect(b">true/pm</dpiAware>" in parts.get(MANIFEST, [b""])[0], "no manifest with DPI")
 
 
+def check_imports(path):
+    """It imports nothing but DLLs of the system."""
+    dlls = {dll for dll, _ in imports(path)}
+    expect(dlls and dlls <= SYSTEM_DLLS, f"imports {sorted(dlls - SYSTEM_DLLS)}")
+
+
 def check_imports_listed(path, allowed):
     """Every imported function is one of the list."""
     listed = {tuple(line.split()) for line in allowed.read_text().splitlines()
