@@ -22,16 +22,17 @@ namespace {
 
 // Whether the rounded triangle is outside, or has no area.
 template <class V> bool DrawsNothing(const V p[3]) {
-    return (p[0].y < clipRect.top && p[1].y < clipRect.top && p[2].y < clipRect.top) ||
-           (p[0].y > clipRect.bottom && p[1].y > clipRect.bottom && p[2].y > clipRect.bottom) ||
-           (p[0].x < clipRect.left && p[1].x < clipRect.left && p[2].x < clipRect.left) ||
-           (p[0].x > clipRect.right && p[1].x > clipRect.right && p[2].x > clipRect.right) ||
+    return (p[0].y < kBenchClip.top && p[1].y < kBenchClip.top && p[2].y < kBenchClip.top) ||
+           (p[0].y > kBenchClip.bottom && p[1].y > kBenchClip.bottom &&
+            p[2].y > kBenchClip.bottom) ||
+           (p[0].x < kBenchClip.left && p[1].x < kBenchClip.left && p[2].x < kBenchClip.left) ||
+           (p[0].x > kBenchClip.right && p[1].x > kBenchClip.right && p[2].x > kBenchClip.right) ||
            (p[0].x == p[1].x && p[1].x == p[2].x) || (p[0].y == p[1].y && p[1].y == p[2].y);
 }
 // Whether columns need to be clipped.
 template <class V> bool Crosses(const V p[3]) {
     for (int i = 0; i < 3; ++i) {
-        if (p[i].x < clipRect.left || p[i].x > clipRect.right)
+        if (p[i].x < kBenchClip.left || p[i].x > kBenchClip.right)
             return true;
     }
     return false;
@@ -65,7 +66,7 @@ void PlainFlat(ScreenPolygon* polygon, const FillTarget& target) {
     if (p[1].y < p[0].y)
         std::swap(p[0], p[1]);
 
-    const int top = std::max(p[0].y, clipRect.top), end = std::min(p[2].y, clipRect.bottom);
+    const int top = std::max(p[0].y, kBenchClip.top), end = std::min(p[2].y, kBenchClip.bottom);
     const int rows = p[2].y - p[0].y;
     const int dxLong = (p[2].x - p[0].x) * 65536 / rows, dwLong = (p[2].w - p[0].w) / rows;
     int xLong = p[0].x * 65536 + dxLong * (top - p[0].y), wLong = p[0].w + dwLong * (top - p[0].y);
@@ -101,11 +102,11 @@ void PlainFlat(ScreenPolygon* polygon, const FillTarget& target) {
             int w = longLeft ? wLong : wShort;
             const int dw = ((longLeft ? wShort : wLong) - w) / (xr - xl);
             if (clips) {
-                if (xl < clipRect.left) {
-                    w += dw * (clipRect.left - xl);
-                    xl = clipRect.left;
+                if (xl < kBenchClip.left) {
+                    w += dw * (kBenchClip.left - xl);
+                    xl = kBenchClip.left;
                 }
-                xr = std::min(xr, clipRect.right);
+                xr = std::min(xr, kBenchClip.right);
             }
             for (int x = xl; x < xr; ++x) {
                 if (static_cast<std::uint32_t>(w) > depth[x]) {
@@ -189,7 +190,7 @@ template <bool blended> void PlainTexGouraud(ScreenPolygon* polygon, const FillT
     if (p[1].y < p[0].y)
         std::swap(p[0], p[1]);
 
-    const int top = std::max(p[0].y, clipRect.top), end = std::min(p[2].y, clipRect.bottom);
+    const int top = std::max(p[0].y, kBenchClip.top), end = std::min(p[2].y, kBenchClip.bottom);
     LitEdge longEdge, shortEdge;
     longEdge.Set(p[0], p[2], top - p[0].y);
     bool longLeft;
@@ -227,7 +228,7 @@ template <bool blended> void PlainTexGouraud(ScreenPolygon* polygon, const FillT
             int w = left.w, u = left.u, v = left.v;
             int r = left.r + 0x8000, g = left.g + 0x8000, b = left.b + 0x8000;
             if (clips) {
-                const int skip = clipRect.left - xl;
+                const int skip = kBenchClip.left - xl;
                 if (skip > 0) {
                     w += dw * skip;
                     u += du * skip;
@@ -235,9 +236,9 @@ template <bool blended> void PlainTexGouraud(ScreenPolygon* polygon, const FillT
                     r += dr * skip;
                     g += dg * skip;
                     b += db * skip;
-                    xl = clipRect.left;
+                    xl = kBenchClip.left;
                 }
-                xr = std::min(xr, clipRect.right);
+                xr = std::min(xr, kBenchClip.right);
             }
             for (int x = xl; x < xr; ++x) {
                 if (static_cast<std::uint32_t>(w) > depth[x]) {

@@ -38,7 +38,7 @@ std::int64_t CountPixels(ScreenPolygon polygon, FillScene* scene) {
 } // namespace
 
 FillTarget FillScene::Target() {
-    return {frame.data(), kWidth * 2, depth.data(), kWidth * 4, 4, {0, 0, kWidth, kHeight}};
+    return {frame.data(), kWidth * 2, depth.data(), kWidth * 4, 4, kBenchClip};
 }
 
 void FillScene::Clear(std::string_view rule) {
@@ -46,7 +46,6 @@ void FillScene::Clear(std::string_view rule) {
 }
 
 FillScene* MakeFillScene(std::int32_t trianglePixels) {
-    clipRect = {0, 0, kWidth, kHeight};
     BuildBlendTables(kBlendTableCount, &BlendTables[0][0]);
     auto* scene = new FillScene{};
     scene->frame.resize(kWidth * kHeight);

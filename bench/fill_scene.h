@@ -9,6 +9,8 @@
 
 namespace ombrel {
 
+inline constexpr Rect kBenchClip{0, 0, 640, 480};
+
 struct FillScene {
     std::vector<ScreenPolygon> polygons;
     std::vector<Pixel16> frame, texels;

@@ -53,6 +53,7 @@ struct Canvas {
     Pixel16* frame;
     std::uint32_t* depth;
     std::int32_t pixels, cells; // in all
+    Rect clip;
 };
 
 Canvas MakeCanvas(ByteSource* source) {
@@ -69,8 +70,8 @@ Canvas MakeCanvas(ByteSource* source) {
     c.depth = reinterpret_cast<std::uint32_t*>(PlaceIn(depthRoom, atEnd, cells * 4));
     c.pixels = pixels;
     c.cells = cells;
-    clipRect = {source->Below(c.width + 1), source->Below(c.height + 1), source->Below(c.width + 1),
-                source->Below(c.height + 1)};
+    c.clip = {source->Below(c.width + 1), source->Below(c.height + 1), source->Below(c.width + 1),
+              source->Below(c.height + 1)};
     return c;
 }
 
@@ -79,14 +80,14 @@ void Clear(const Canvas& c) {
     std::fill_n(c.depth, c.cells, kUntouchedCell);
 }
 
-bool IsClippedAway(std::int32_t x, std::int32_t y) {
-    return x < clipRect.left || x >= clipRect.right || y < clipRect.top || y >= clipRect.bottom;
+bool IsClippedAway(const Rect& clip, std::int32_t x, std::int32_t y) {
+    return x < clip.left || x >= clip.right || y < clip.top || y >= clip.bottom;
 }
 
 void CheckCanvas(const Canvas& c) {
     for (std::int32_t y = 0; y < c.height; ++y) {
         for (std::int32_t x = 0; x < c.width; ++x) {
-            if (IsClippedAway(x, y)) {
+            if (IsClippedAway(c.clip, x, y)) {
                 Require(c.frame[y * c.framePitch + x] == kUntouched);
                 Require(c.depth[y * c.depthPitch + x] == kUntouchedCell);
             }
@@ -172,7 +173,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     job.level = (source.Byte() & 1) != 0 ? source.Signed() : source.Below(16) - 8;
     job.mipDistance = (source.Byte() & 1) != 0 ? source.Signed() : source.Below(64);
     job.lodDistance = (source.Byte() & 1) != 0 ? source.Signed() : source.Below(64);
-    job.clip = clipRect;
+    job.clip = canvas.clip;
     const std::uint8_t wish = source.Byte();
     list.count = 0;
     while (list.count < kMaxFaces && source.left > 0) {

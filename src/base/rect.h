@@ -1,4 +1,4 @@
-// Rectangles in pixels, and the clip rectangle of the fillers.
+// Rectangles in pixels.
 #pragma once
 
 #include <cstdint>
@@ -9,10 +9,5 @@ namespace ombrel {
 struct Rect {
     std::int32_t left, top, right, bottom;
 };
-
-// What every filler clips to: left = top = 0, right = frame width, bottom = frame height.
-// Written by OpenDisplay (and by tests); read by the fillers and the clipper of the scene pipeline.
-extern Rect clipRect;
-void ResetClipRect(); // 0, 0, 640, 480
 
 } // namespace ombrel

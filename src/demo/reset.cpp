@@ -43,7 +43,6 @@ void ResetWorld() {
     ResetBlur();
     ResetTrigTables();
     ResetDisplayState();
-    ResetClipRect();
     ResetRandom15();
     ResetShellState();
     UseSoundCalls(nullptr);

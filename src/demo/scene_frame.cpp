@@ -51,7 +51,7 @@ void DrawFilled(FaceList* list, World* scene) {
     job.level = kOwnLevels;
     job.mipDistance = 0;
     job.lodDistance = kLodDistance;
-    job.clip = clipRect;
+    job.clip = display.clip;
     DrawFaces(&job);
 }
 
@@ -129,7 +129,7 @@ void DrawView(FaceList* list, World* scene, View view) {
     if (display.back.pixels == nullptr) {
         return;
     }
-    const Canvas canvas{display.back.pixels, display.back.pitch, display.clip2d};
+    const Canvas canvas{display.back.pixels, display.back.pitch, display.clip};
     switch (view) {
     case View::Nothing:
         break;

@@ -27,13 +27,13 @@ struct DisplayState {
     std::int32_t width, height, bitsPerPixel;
     std::int32_t windowed, flip;
     DisplayFormat format; // of the visible surface: what colours are made for
-    Rect clip2d;          // of the 2D primitives: 0, 0, width, height
+    Rect clip;            // of primitives and fillers: 0, 0, width, height
     Rect source;          // the part of the back surface that is presented
 };
 extern DisplayState display;
 void ResetDisplayState();
 
-// bitsPerPixel is 16; flip 0 (blit) or 1. Sets the fields above and clipRect, clears
+// bitsPerPixel is 16; flip 0 (blit) or 1. Sets the fields above, clears
 // the surfaces to 0. A failure returns 0 and leaves what was made so far for CloseDisplay.
 int OpenDisplay(std::int32_t width, std::int32_t height, std::int32_t bitsPerPixel,
                 std::int32_t windowed, std::int32_t flip);

@@ -9,7 +9,7 @@
 
 #include "base/hash.h"
 #include "base/parse_number.h"
-#include "base/rect.h"
+#include "clip_rect.h"
 
 namespace ombrel {
 

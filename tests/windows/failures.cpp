@@ -58,7 +58,6 @@ void Begin(bool windowed) {
     HWND window = win32State.window;
     ResetWin32State();
     ResetDisplayState();
-    ResetClipRect();
     win32State.window = window;
     win32State.instance = GetModuleHandleA(nullptr);
     shell.windowed = windowed;

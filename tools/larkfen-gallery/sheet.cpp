@@ -73,8 +73,10 @@ Pixel16* BeginCell(Gallery* g, const std::string& label, std::string_view rule) 
     return frame;
 }
 
+constexpr Rect kCell{0, 0, kCellWidth, kCellHeight};
+
 FillTarget TargetOf(Gallery* g, Pixel16* frame, std::uint32_t level) {
-    return {frame, g->sheet.Pitch(), g->depth.data(), kCellWidth * 4, level, clipRect};
+    return {frame, g->sheet.Pitch(), g->depth.data(), kCellWidth * 4, level, kCell};
 }
 
 // --- textures
@@ -186,7 +188,7 @@ void DrawList(Gallery* g, Pixel16* frame, std::uint32_t flags) {
     job.depth = g->depth.data();
     job.depthPitch = kCellWidth * 4;
     job.level = -1;
-    job.clip = clipRect;
+    job.clip = kCell;
     job.mipDistance = 700; // 100 a level of the mip chain
     DrawFaces(&job);
 }
@@ -359,9 +361,8 @@ void DrawLights(Gallery* g) {
         RunPipeline(list, all ? lights : &lights[i], all ? kLightCount : 1);
         DrawList(g, frame, DRAW_INV_DEPTH | DRAW_PATH_1);
     }
-    const Rect cell{0, 0, kCellWidth, kCellHeight};
-    DrawFaceListDots(list, {BeginCell(g, "dots", "W"), g->sheet.Pitch(), cell});
-    DrawFaceListWire(list, {BeginCell(g, "wires", "W"), g->sheet.Pitch(), cell});
+    DrawFaceListDots(list, {BeginCell(g, "dots", "W"), g->sheet.Pitch(), kCell});
+    DrawFaceListWire(list, {BeginCell(g, "wires", "W"), g->sheet.Pitch(), kCell});
 }
 
 } // namespace
@@ -383,12 +384,10 @@ Sheet DrawGallery() {
         buildMipChain(&g.mipTexture, &g.mipChain, 1.01F) == 0) {
         return {};
     }
-    clipRect = {0, 0, kCellWidth, kCellHeight};
     DrawFillers(&g);
     DrawBlendLevels(&g);
     DrawMipLevels(&g);
     DrawLights(&g);
-    ResetClipRect();
     releaseMipChain(g.mipChain);
     releaseTexture(&g.mipTexture);
     releaseTexture(&g.texture);

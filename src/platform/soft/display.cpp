@@ -55,8 +55,7 @@ int OpenDisplay(std::int32_t width, std::int32_t height, std::int32_t bitsPerPix
 
     // Clip the primitives, the fillers and the blits to the frame.
     const Rect whole{0, 0, width, height};
-    display.clip2d = whole;
-    clipRect = whole;
+    display.clip = whole;
     SetSurfaceClipList(display.backSurface, 1, &whole);
 
     // Keep the copy to the screen inside the window.

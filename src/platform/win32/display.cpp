@@ -144,8 +144,7 @@ int OpenDisplay(std::int32_t width, std::int32_t height, std::int32_t bitsPerPix
     FillSurface(display.backSurface, 0, nullptr);
 
     const Rect whole = {0, 0, width, height};
-    display.clip2d = whole;
-    clipRect = whole;
+    display.clip = whole;
     win32State.backClipper = ObjectOf(SetSurfaceClipList(display.backSurface, 1, &whole));
     if (windowed && !ClipToWindow()) {
         return 0;

@@ -129,16 +129,11 @@ TEST(Pixel16, PackAndSplit) {
 }
 
 TEST(Globals, ResetRestoresTheStart) {
-    clipRect = {1, 2, 3, 4};
     shell.screenWidth = 1;
     shell.noSound = true;
     driver.sceneIndex = 6;
     driver.frameCounter = 77;
-    ResetClipRect();
     ResetShellState();
-    EXPECT_EQ(clipRect.left, 0);
-    EXPECT_EQ(clipRect.right, 640);
-    EXPECT_EQ(clipRect.bottom, 480);
     EXPECT_EQ(shell.screenWidth, 640);
     EXPECT_EQ(shell.screenHeight, 480);
     EXPECT_FALSE(shell.noSound);

@@ -15,7 +15,6 @@ protected:
     void SetUp() override {
         ResetOffscreen();
         ResetShellState();
-        ResetClipRect();
     }
     void TearDown() override { SetUp(); }
 };
@@ -51,9 +50,8 @@ TEST_F(DisplayTest, OpenSetsEveryField) {
     ASSERT_NE(display.backSurface, nullptr);
     EXPECT_EQ(display.backSurface->width, 512);
     EXPECT_EQ(display.backSurface->height, 384);
-    ExpectRect(display.clip2d, 0, 0, 512, 384);
+    ExpectRect(display.clip, 0, 0, 512, 384);
     ExpectRect(display.source, 0, 0, 512, 384);
-    ExpectRect(clipRect, 0, 0, 512, 384);
     EXPECT_EQ(display.format.bitsPerPixel, 16);
     EXPECT_EQ(display.format.rgbBits, 16);
     EXPECT_EQ(display.format.pack, &PackRgb565);
@@ -106,7 +104,7 @@ TEST_F(DisplayTest, WindowClipperFailsInAWindowOnly) {
     script.failure = Failure::WindowClipper;
     EXPECT_EQ(OpenDisplay(640, 480, 16, 1, 0), 0);
     EXPECT_NE(display.backSurface, nullptr) << "left for CloseDisplay";
-    ExpectRect(display.clip2d, 0, 0, 640, 480);
+    ExpectRect(display.clip, 0, 0, 640, 480);
     ExpectRect(display.source, 0, 0, 0, 0);
     EXPECT_EQ(CloseDisplay(), 1);
     EXPECT_EQ(OpenDisplay(640, 480, 16, 0, 0), 1);

@@ -12,10 +12,10 @@
 #include <vector>
 
 #include "base/float_mode.h"
-#include "base/rect.h"
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
 #include "raster/paths.h"
+#include "support/clip_rect.h"
 
 namespace ombrel {
 

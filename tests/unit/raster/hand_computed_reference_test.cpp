@@ -7,10 +7,10 @@
 #include <gtest/gtest.h>
 
 #include "base/float_mode.h"
-#include "base/rect.h"
 #include "raster/blend_tables.h"
 #include "raster/fillers.h"
 #include "raster/paths.h"
+#include "support/clip_rect.h"
 #include "support/reference_fillers.h"
 
 namespace ombrel {

@@ -12,11 +12,11 @@
 
 #include "base/convert.h"
 #include "base/float_mode.h"
-#include "base/rect.h"
 #include "base/vector_path.h"
 #include "lanes/reciprocal.h"
 #include "raster/blend_tables.h"
 #include "raster/paths.h"
+#include "support/clip_rect.h"
 #include "support/guard_memory.h"
 #include "support/made_up_rule.h"
 #include "support/random_triangles.h"
