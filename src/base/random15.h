@@ -9,6 +9,6 @@ namespace ombrel {
 void SeedRandom15(std::uint32_t seed);
 std::int32_t Random15();
 std::uint32_t Random15State(); // as a seed: goes on where the sequence is
-void ResetRandom15(); // seed 1, as at process start
+void ResetRandom15();          // seed 1, as at process start
 
 } // namespace ombrel
