@@ -59,15 +59,7 @@ OMBREL_INLINE void Advance(Attributes<L>* at, const Attributes<L>& by, std::int3
 template <class L, class R>
 constexpr bool kSkips = R::Depth::kTests && (R::kHasTexels || L::kLanes == 1);
 
-// Passes over a block: the attributes but depth are stepped later, all at once. One lane has
-// nothing to gain by that.
-template <class L, class R> OMBREL_INLINE void Skip(Run<L>* run, const Attributes<L>& by) {
-    if constexpr (L::kLanes == 1) {
-        Advance<L, R, false>(&run->at, by, 1);
-    } else {
-        run->skipped += L::kParts * L::kLanes;
-    }
-}
+// Steps the attributes but depth by the pixels that were passed over.
 template <class L, class R> OMBREL_INLINE void CatchUp(Run<L>* run) {
     if constexpr (kSkips<L, R> && L::kLanes > 1) {
         if (run->skipped != 0) {
@@ -191,17 +183,22 @@ OMBREL_INLINE void DrawWholeBlocks(const Brush<L>& brush, const Row& row, Run<L>
     if (x > last) {
         return;
     }
-    Attributes<L> by;
-    ForEachAttribute<R>([&](auto k) { by.of[k] = run->step.of[k] * L::kLanes; });
+    // The attributes of vectors move on as they are taken; those of one lane all at once.
+    constexpr bool single = L::kLanes == 1;
+    Attributes<L> by = {};
+    ForEachAttribute<R>([&](auto k) { by.of[k] = run->step.of[k] * (single ? 0 : L::kLanes); });
     const Live<L> all = {L::kLanes, Ints<L>{}};
     do {
         const Row block = RowAt<R>(row, x);
         const auto test = TestDepths<L, R, L::kParts>(&run->at, by, block, all);
         if (kSkips<L, R> && KeepsAll<L>(test)) {
-            Skip<L, R>(run, by);
+            run->skipped += single ? 0 : kBlock;
         } else {
             CatchUp<L, R>(run);
             DrawBlock<L, R, L::kParts>(brush, block, &run->at, by, test, all);
+        }
+        if constexpr (single) {
+            Advance<L, R, true>(&run->at, run->step, 1);
         }
         x += kBlock;
     } while (x <= last);
