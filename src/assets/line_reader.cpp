@@ -7,35 +7,14 @@
 
 #include "base/data_file.h"
 #include "base/parse_number.h"
+#include "base/text.h"
 
 namespace ombrel {
 
 namespace {
 
-bool IsBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 char ToUpper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-const char* SkipBlanks(const char* p) {
-    while (IsBlank(*p)) {
-        ++p;
-    }
-    return p;
-}
-const char* SkipDigits(const char* p) {
-    while (IsDigit(*p)) {
-        ++p;
-    }
-    return p;
-}
-const char* SkipSign(const char* p) {
-    return *p == '+' || *p == '-' ? p + 1 : p;
 }
 
 // One token of a pattern.

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "base/memory_reserve.h"
+#include "base/text.h"
 
 namespace ombrel {
 
@@ -91,7 +92,7 @@ std::string FindDataFile(const char* path) {
         return {};
     }
     std::string name = path;
-    while (!name.empty() && std::isspace(static_cast<unsigned char>(name.back())) != 0) {
+    while (!name.empty() && IsBlank(name.back())) {
         name.pop_back();
     }
     for (char& c : name) {
@@ -128,6 +129,21 @@ std::FILE* OpenDataFile(const char* path, const char* mode) {
         missingFileHook(path);
     }
     return file;
+}
+
+std::string ReadDataFile(const char* path, std::size_t limit) {
+    std::string content;
+    std::FILE* const file = OpenDataFile(path, "r");
+    if (file == nullptr) {
+        return content;
+    }
+    char block[4096];
+    std::size_t length = 0;
+    while (content.size() < limit && (length = std::fread(block, 1, sizeof block, file)) > 0) {
+        content.append(block, length);
+    }
+    std::fclose(file);
+    return content;
 }
 
 } // namespace ombrel

@@ -29,4 +29,8 @@ void SetMissingFileHook(MissingFileHook hook);
 // Null when there is no such file, it cannot be opened, or it is a folder, a device or a pipe.
 std::FILE* OpenDataFile(const char* path, const char* mode);
 
+// The whole content of such a file; empty when it does not open. Of one that is longer than limit
+// (bytes) the rest is left out, to the next 4096.
+std::string ReadDataFile(const char* path, std::size_t limit);
+
 } // namespace ombrel

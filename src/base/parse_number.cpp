@@ -7,36 +7,38 @@
 #include <system_error>
 
 #include "base/float_mode.h"
+#include "base/text.h"
 
 namespace ombrel {
 
 namespace {
 
-bool IsBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+// A text with a known end, or one closed by a zero.
+struct Text {
+    const char* at;
+    const char* end; // null: at a zero
 
-const char* SkipDigits(const char* p) {
-    while (IsDigit(*p)) {
-        ++p;
+    char Next() const { return at == end ? '\0' : *at; }
+    void SkipBlanks() {
+        while (IsBlank(Next())) {
+            ++at;
+        }
     }
-    return p;
-}
-
-// Behind an exponent at p ("e+12"), or p itself when there is none.
-const char* SkipExponent(const char* p) {
-    if (*p != 'e' && *p != 'E') {
-        return p;
+    // Whether there were any.
+    bool SkipDigits() {
+        const char* const first = at;
+        while (IsDigit(Next())) {
+            ++at;
+        }
+        return at > first;
     }
-    const char* q = p + 1;
-    if (*q == '+' || *q == '-') {
-        ++q;
+    // Whether one of the two stood there.
+    bool SkipOneOf(char a, char b) {
+        const bool there = Next() == a || Next() == b;
+        at += there ? 1 : 0;
+        return there;
     }
-    return IsDigit(*q) ? SkipDigits(q) : p;
-}
+};
 
 // from_chars leaves the value alone when it is out of range. Whether it is too large or too small
 // is read off the decimal exponent of the first digit that counts.
@@ -69,33 +71,36 @@ bool IsLarge(const char* p, const char* last) {
 
 } // namespace
 
+ScannedNumber ScanNumber(const char* start, const char* end) {
+    Text text{start, end};
+    text.SkipBlanks();
+    ScannedNumber number{text.at, nullptr, nullptr, false, false};
+    text.SkipOneOf('+', '-');
+    number.digits = text.SkipDigits();
+    if (text.SkipOneOf('.', '.')) {
+        number.digits = text.SkipDigits() || number.digits;
+    }
+    number.mantissa = text.at;
+    number.complete = number.digits;
+    if (number.digits && text.SkipOneOf('e', 'E')) {
+        text.SkipOneOf('+', '-');
+        number.complete = text.SkipDigits();
+    }
+    number.end = text.at;
+    return number;
+}
+
 float ParseFloat(const char* text, const char** end) {
-    const char* p = text;
-    while (IsBlank(*p)) {
-        ++p;
+    const ScannedNumber number = ScanNumber(text, nullptr);
+    const char* const last = number.complete ? number.end : number.mantissa;
+    if (end != nullptr) {
+        *end = number.digits ? last : text;
     }
-    const bool negative = *p == '-';
-    if (*p == '+' || *p == '-') {
-        ++p;
-    }
-    const char* const first = p;
-    p = SkipDigits(p);
-    bool digits = p > first;
-    if (*p == '.') {
-        const char* const afterPoint = SkipDigits(p + 1);
-        digits = digits || afterPoint > p + 1;
-        p = afterPoint;
-    }
-    if (!digits) {
-        if (end != nullptr) {
-            *end = text;
-        }
+    if (!number.digits) {
         return 0.0F;
     }
-    const char* const last = SkipExponent(p);
-    if (end != nullptr) {
-        *end = last;
-    }
+    const bool negative = *number.first == '-';
+    const char* const first = SkipSign(number.first);
     const ScopedFloatMode nearest(FloatMode::Nearest);
     float value = 0.0F;
     const auto result = std::from_chars(first, last, value, std::chars_format::general);
@@ -106,14 +111,9 @@ float ParseFloat(const char* text, const char** end) {
 }
 
 std::int32_t ParseInt(const char* text, const char** end) {
-    const char* p = text;
-    while (IsBlank(*p)) {
-        ++p;
-    }
+    const char* p = SkipBlanks(text);
     const bool negative = *p == '-';
-    if (*p == '+' || *p == '-') {
-        ++p;
-    }
+    p = SkipSign(p);
     const char* const first = p;
     std::int64_t value = 0;
     for (; IsDigit(*p); ++p) {

@@ -1,6 +1,8 @@
 // Reading the scene list. The scanner is our own, so that every system reads a list alike.
 #include "demo/scene_list.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -8,6 +10,7 @@
 #include "assets/object_loader.h"
 #include "base/data_file.h"
 #include "base/parse_number.h"
+#include "base/text.h"
 #include "scene/mesh_transform.h"
 
 namespace ombrel {
@@ -15,14 +18,7 @@ namespace ombrel {
 namespace {
 
 // A number longer than this is cut: what is left out is used up but does not count.
-constexpr std::int32_t kMaxNumber = 127;
-
-bool IsBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
+constexpr std::ptrdiff_t kMaxNumber = 127;
 
 void SkipBlanks(SceneListText* text) {
     while (text->at < text->end && IsBlank(*text->at)) {
@@ -45,80 +41,26 @@ bool ReadWord(SceneListText* text, char* word, std::int32_t capacity) {
     return true;
 }
 
-// The characters of a number as they are used up.
-struct NumberText {
-    char characters[kMaxNumber + 1];
-    std::int32_t length;
-};
-
-void TakeCharacter(SceneListText* text, NumberText* number) {
-    if (number->length < kMaxNumber) {
-        number->characters[number->length++] = *text->at;
-    }
-    ++text->at;
-}
-
-bool NextIs(const SceneListText& text, char a, char b) {
-    return text.at < text.end && (*text.at == a || *text.at == b);
-}
-
-std::int32_t TakeDigits(SceneListText* text, NumberText* number) {
-    std::int32_t digits = 0;
-    while (text->at < text->end && IsDigit(*text->at)) {
-        TakeCharacter(text, number);
-        ++digits;
-    }
-    return digits;
-}
-
 bool ReadNumber(SceneListText* text, float* value) {
-    NumberText number{};
-    SkipBlanks(text);
-    if (NextIs(*text, '+', '-')) {
-        TakeCharacter(text, &number);
-    }
-    std::int32_t digits = TakeDigits(text, &number);
-    if (NextIs(*text, '.', '.')) {
-        TakeCharacter(text, &number);
-        digits += TakeDigits(text, &number);
-    }
-    if (digits == 0) {
+    const ScannedNumber number = ScanNumber(text->at, text->end);
+    text->at = number.end;
+    if (!number.complete) {
         return false;
     }
-    if (NextIs(*text, 'e', 'E')) {
-        TakeCharacter(text, &number);
-        if (NextIs(*text, '+', '-')) {
-            TakeCharacter(text, &number);
-        }
-        if (TakeDigits(text, &number) == 0) {
-            return false;
-        }
-    }
-    *value = ParseFloat(number.characters, nullptr);
+    // Closed by a zero, for there may be none in the text.
+    char characters[kMaxNumber + 1] = {};
+    std::memcpy(characters, number.first,
+                static_cast<std::size_t>(std::min(number.end - number.first, kMaxNumber)));
+    *value = ParseFloat(characters, nullptr);
     return true;
 }
 
 bool SkipLiteral(SceneListText* text, char literal) {
-    if (!NextIs(*text, literal, literal)) {
+    if (text->at == text->end || *text->at != literal) {
         return false;
     }
     ++text->at;
     return true;
-}
-
-std::string ReadWholeFile(const char* path) {
-    std::string content;
-    std::FILE* const file = OpenDataFile(path, "r");
-    if (file == nullptr) {
-        return content;
-    }
-    char block[4096];
-    std::size_t n = 0;
-    while (content.size() < kMaxListFile && (n = std::fread(block, 1, sizeof block, file)) > 0) {
-        content.append(block, n);
-    }
-    std::fclose(file);
-    return content;
 }
 
 bool FileExists(const char* path) {
@@ -159,7 +101,7 @@ std::int32_t ReadSceneLine(SceneListText* text, SceneLine* line) {
 }
 
 void LoadSceneList(World* destination, const char* path, const DisplayFormat& format) {
-    const std::string content = ReadWholeFile(path);
+    const std::string content = ReadDataFile(path, kMaxListFile);
     SceneListText text{content.data(), content.data() + content.size()};
     SceneLine line{};
     while (destination->objectCounter < kMaxSceneObjects - 1 && ReadSceneLine(&text, &line) >= 0) {

@@ -1,11 +1,10 @@
 // Camera tracks: reading the keys, and the spline that moves the camera along them frame by frame.
 // A segment runs from key s + 1 to key s + 2; key s only shapes its tangents.
-#include <algorithm>
-#include <cstdio>
 #include <string>
 
 #include "base/data_file.h"
 #include "base/parse_number.h"
+#include "base/text.h"
 #include "scene/camera.h"
 
 namespace ombrel {
@@ -21,55 +20,6 @@ void ResetTrackState() {
 namespace {
 
 constexpr char kLinePattern[] = "%f, %f, %f;\t%f, %f, %f;\t%f, %f, %f;\t%f;\t%f;\n";
-
-bool IsBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-// The whole text of a file; empty when there is none. A zero byte in it ends the text.
-std::string ReadText(const char* path) {
-    std::string text;
-    std::FILE* file = OpenDataFile(path, "r");
-    if (file == nullptr) {
-        return text;
-    }
-    char block[4096];
-    std::size_t length = 0;
-    while (text.size() < kMaxTrackFile && (length = std::fread(block, 1, sizeof block, file)) > 0) {
-        text.append(block, length);
-    }
-    std::fclose(file);
-    return text;
-}
-
-bool IsExponent(char c) {
-    return c == 'e' || c == 'E';
-}
-
-const char* SkipBlanks(const char* p) {
-    while (IsBlank(*p)) {
-        ++p;
-    }
-    return p;
-}
-
-// Whether an exponent without digits follows a number that has none: then it is no number at all.
-bool IsCutShort(const char* number, const char* end) {
-    return IsExponent(*end) && std::none_of(number, end, IsExponent);
-}
-
-// After what a scanner takes in before it finds that no number is there: blanks, a sign, a point.
-const char* SkipFalseStart(const char* p) {
-    p = SkipBlanks(p);
-    p += *p == '+' || *p == '-' ? 1 : 0;
-    return *p == '.' ? p + 1 : p;
-}
-
-// After an exponent that lacks its digits.
-const char* SkipExponent(const char* p) {
-    ++p;
-    return *p == '+' || *p == '-' ? p + 1 : p;
-}
 
 // REQUIRED R29: the first three columns are stored in reverse.
 void StoreKey(Camera* key, const float columns[kTrackColumns]) {
@@ -114,14 +64,12 @@ std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]) {
             p = SkipBlanks(p);
         } else if (*pattern == '%') {
             ++pattern;
-            const char* end = p;
-            const float value = ParseFloat(p, &end);
-            if (end == p || IsCutShort(p, end)) {
-                p = end == p ? SkipFalseStart(p) : SkipExponent(end);
+            const ScannedNumber number = ScanNumber(p, nullptr);
+            p = number.end;
+            if (!number.complete) {
                 break;
             }
-            columns[read++] = value;
-            p = end;
+            columns[read++] = ParseFloat(number.first, nullptr);
         } else if (*p == *pattern) {
             ++p;
         } else {
@@ -133,7 +81,7 @@ std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]) {
 }
 
 std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
-    const std::string text = ReadText(path);
+    const std::string text = ReadDataFile(path, kMaxTrackFile); // a zero byte in it ends the text
     const char* p = text.c_str();
     // REQUIRED R39: columns that a read does not reach keep what the read before left in them.
     float columns[kTrackColumns] = {};
