@@ -135,7 +135,7 @@ void FillFace(RenderFace* face, ByteSource* source, MadeTexture* texture) {
     } else {
         face->texture.single = (kind & 4) != 0 ? nullptr : &texture->record;
     }
-    for (Vertex& vertex : face->work) {
+    for (FaceCorner& vertex : face->work) {
         vertex.x = source->Float();
         vertex.y = source->Float();
         vertex.z = source->Float();

@@ -29,7 +29,7 @@ std::uint64_t DrawAll() {
     FrontEnd front;
     StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, switches));
     for (std::int32_t i = kFirstSceneObject; i <= world.objectCounter; ++i) {
-        AddObject(&front, &world.objects[i]);
+        ResetAndAddMesh(&front, &world.objects[i]);
     }
     FinishFaces(&front);
     LockFrame();
