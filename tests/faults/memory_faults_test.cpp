@@ -19,10 +19,10 @@
 namespace ombrel {
 namespace {
 
-constexpr std::int64_t kFrames = 36; // into scene two, which loads its track
+constexpr std::int64_t kPlayedFrames = 36; // into scene two, which loads its track
 
 void EndAfterFrames(std::int64_t turn, void*) {
-    if (turn == kFrames) {
+    if (turn == kPlayedFrames) {
         PostQuit(0);
     }
 }
@@ -34,7 +34,7 @@ bool Plays() {
     StartFailing();
     const int result = RunProduction("-w -resolution=320x240");
     StopFailing();
-    const bool ended = result == 0 && offscreen.presents + offscreen.turns >= kFrames &&
+    const bool ended = result == 0 && offscreen.presents + offscreen.turns >= kPlayedFrames &&
                        offscreen.screenSaver == 1 && offscreen.screenOpen == 0 &&
                        offscreen.desktopBits == 32;
     ResetWorld();

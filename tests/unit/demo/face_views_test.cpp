@@ -12,19 +12,18 @@
 #include "base/float_mode.h"
 #include "demo/reset.h"
 #include "platform/display.h"
+#include "unit/demo/small_canvas.h"
 
 namespace ombrel {
 namespace {
 
-constexpr std::int32_t kWidth = 40;
-constexpr std::int32_t kHeight = 30;
-using Points = std::set<std::pair<int, int>>;
+using test::Points;
 
 struct Corner {
     float x, y;
 };
 
-class FaceViews : public testing::Test {
+class FaceViews : public testing::Test, protected test::SmallCanvas {
 protected:
     void SetUp() override {
         ResetWorld();
@@ -43,21 +42,8 @@ protected:
         }
         return face;
     }
-    void Dots() {
-        DrawFaceListDots(list.get(), {pixels.data(), kWidth * 2, {0, 0, kWidth, kHeight}});
-    }
-    void Wire() {
-        DrawFaceListWire(list.get(), {pixels.data(), kWidth * 2, {0, 0, kWidth, kHeight}});
-    }
-    Points Drawn() const {
-        Points points;
-        for (int i = 0; i < kWidth * kHeight; ++i) {
-            if (pixels[static_cast<std::size_t>(i)] != 0) {
-                points.insert({i % kWidth, i / kWidth});
-            }
-        }
-        return points;
-    }
+    void Dots() { DrawFaceListDots(list.get(), canvas); }
+    void Wire() { DrawFaceListWire(list.get(), canvas); }
     static Points Blocks(std::initializer_list<std::pair<int, int>> corners) {
         Points points;
         for (const auto& [x, y] : corners) {
@@ -67,20 +53,19 @@ protected:
     }
     ScopedFloatMode chop{FloatMode::Chop};
     std::unique_ptr<FaceList> list = std::make_unique<FaceList>();
-    std::vector<Pixel16> pixels = std::vector<Pixel16>(kWidth * kHeight, 0);
 };
 
 TEST_F(FaceViews, EachCornerIsABlockOfTwoByTwo) {
     Add({3, 4}, {20, 5}, {10.9F, 20.9F});
     Dots();
     EXPECT_EQ(Drawn(), Blocks({{3, 4}, {20, 5}, {10, 20}}));
-    EXPECT_EQ(pixels[4 * kWidth + 3], 0x0707); // colour word 0, its low 16 bits
+    EXPECT_EQ(pixels[4 * kRow + 3], 0x0707); // colour word 0, its low 16 bits
 }
 
 TEST_F(FaceViews, HighBitsOfTheColorWordAreIgnored) {
     Add({3, 4}, {3, 4}, {3, 4}, 0xFFFF1234);
     Dots();
-    EXPECT_EQ(pixels[4 * kWidth + 3], 0x1234);
+    EXPECT_EQ(pixels[4 * kRow + 3], 0x1234);
 }
 
 TEST_F(FaceViews, RejectedFacesDrawNothingInEitherView) {

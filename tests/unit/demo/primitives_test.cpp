@@ -5,40 +5,23 @@
 
 #include <algorithm>
 #include <random>
-#include <set>
-#include <utility>
 #include <vector>
 
 #include "demo/reset.h"
 #include "platform/offscreen/offscreen.h"
+#include "unit/demo/small_canvas.h"
 
 namespace ombrel {
 namespace {
 
-constexpr std::int32_t kWidth = 40;
-constexpr std::int32_t kHeight = 30;
-constexpr std::int32_t kPitch = (kWidth + 5) * 2; // wider than the width
+using test::Points;
 
-using Points = std::set<std::pair<int, int>>;
-
-class Primitives : public testing::Test {
+class Primitives : public testing::Test, protected test::SmallCanvas {
 protected:
     void SetUp() override {
         ResetWorld();
         ResetOffscreen();
     }
-    // Every pixel that is not 0, the padding of the rows included.
-    Points Drawn() const {
-        Points points;
-        for (int i = 0; i < static_cast<int>(pixels.size()); ++i) {
-            if (pixels[static_cast<std::size_t>(i)] != 0) {
-                points.insert({i % (kPitch / 2), i / (kPitch / 2)});
-            }
-        }
-        return points;
-    }
-    std::vector<Pixel16> pixels = std::vector<Pixel16>(kPitch / 2 * kHeight, 0);
-    Canvas canvas{pixels.data(), kPitch, {0, 0, kWidth, kHeight}};
 };
 
 TEST_F(Primitives, HorizontalLineIsShallowAndWritesDxPlusOne) {

@@ -13,53 +13,27 @@
 #include "demo/scenes.h"
 #include "demo/startup.h"
 #include "demo/texts.h"
-#include "platform/offscreen/offscreen.h"
-#include "support/hand_made_data.h"
-#include "support/production_run.h"
+#include "unit/demo/scene_fixture.h"
 
 namespace ombrel {
 namespace {
 
-class SceneOneTest : public testing::Test {
+class SceneOneTest : public test::SceneFixture {
 protected:
-    void SetUp() override {
-        ResetForRun();
-        WriteWholeFolder(folder, "0.0625");
-        shell.windowed = 1;
-        shell.noSound = true;
-    }
-    void TearDown() override {
-        ResetWorld();
-        ResetOffscreen();
-    }
-    void RemoveObjects() {
-        for (const std::string& name : WholeFolderNames()) {
-            if (name.substr(0, 2) == "3d") {
-                folder.Remove(name);
-            }
-        }
-    }
-    // The picture of the back surface.
-    Pixel16 At(std::int32_t x, std::int32_t y) {
-        LockFrame();
-        const Pixel16 pixel = display.back.pixels[y * (display.back.pitch / 2) + x];
-        UnlockFrame();
-        return pixel;
-    }
+    SceneOneTest() : SceneFixture("0.0625") {}
     // Whether every mark of both titles is at its fixed place.
     bool TitleStands() {
         bool all = true;
-        int x = 210 + kMarkX;
+        std::int32_t x = 210;
         for (const char* p = kTitleText; *p != '\0'; ++p, x += 20) {
-            all = all && At(x, 200 + kMarkY) == kBigMark + static_cast<unsigned char>(*p);
+            all = all && Big(x, 200, *p);
         }
-        x = 100 + kMarkX;
+        x = 100;
         for (const char* p = kSubtitleText; *p != '\0'; ++p, x += 12) {
-            all = all && At(x, 240 + kMarkY) == kSmallMark + static_cast<unsigned char>(*p);
+            all = all && Small(x, 240, *p);
         }
         return all;
     }
-    DataFolderForTest folder;
 };
 
 TEST_F(SceneOneTest, FirstCallSetsUp) {

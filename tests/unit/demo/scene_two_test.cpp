@@ -13,54 +13,20 @@
 #include "demo/reset.h"
 #include "demo/scenes.h"
 #include "demo/startup.h"
-#include "platform/offscreen/offscreen.h"
-#include "support/hand_made_data.h"
-#include "support/production_run.h"
+#include "unit/demo/scene_fixture.h"
 
 namespace ombrel {
 namespace {
 
-class SceneTwoTest : public testing::Test {
+class SceneTwoTest : public test::SceneFixture {
 protected:
-    void SetUp() override {
-        ResetForRun();
-        WriteWholeFolder(folder, "1");
-        shell.windowed = 1;
-        shell.noSound = true;
-    }
-    void TearDown() override {
-        ResetWorld();
-        ResetOffscreen();
-    }
-    void RemoveObjects() {
-        for (const std::string& name : WholeFolderNames()) {
-            if (name.substr(0, 2) == "3d") {
-                folder.Remove(name);
-            }
-        }
-    }
+    SceneTwoTest() : SceneFixture("1") {}
     // One frame as the frame driver makes it.
     static void Frame() {
         PlayScene(kScenes[1]);
         UnlockFrame();
         ++driver.frameCounter;
     }
-    static Pixel16 At(std::int32_t x, std::int32_t y) {
-        LockFrame();
-        const Pixel16 pixel = display.back.pixels[y * (display.back.pitch / 2) + x];
-        UnlockFrame();
-        return pixel;
-    }
-    // Whether the small font's mark for c stands in the cell at (x, y).
-    static bool Small(std::int32_t x, std::int32_t y, char c) {
-        return At(x + kMarkX, y + kMarkY) ==
-               static_cast<Pixel16>(kSmallMark + static_cast<unsigned char>(c));
-    }
-    static bool Big(std::int32_t x, std::int32_t y, char c) {
-        return At(x + kMarkX, y + kMarkY) ==
-               static_cast<Pixel16>(kBigMark + static_cast<unsigned char>(c));
-    }
-    DataFolderForTest folder;
 };
 
 TEST_F(SceneTwoTest, FirstCallSetsUp) {

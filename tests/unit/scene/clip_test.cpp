@@ -14,19 +14,13 @@
 #include "scene_fixture.h"
 
 using namespace ombrel;
+using test::ExpectCorner;
 using test::VertexAt;
 
 namespace {
 
-class Clip : public testing::Test {
+class Clip : public test::ListAndCamera {
 protected:
-    void SetUp() override {
-        SetFloatMode(FloatMode::Chop);
-        test::ResetList();
-        camera_ = test::MakeCamera(640.0F, 480.0F, 90.0F);
-    }
-    void TearDown() override { SetFloatMode(FloatMode::Nearest); }
-
     // The state of a face after the test with this mask.
     std::uint32_t StateOf(const Vertex& a, const Vertex& b, const Vertex& c, std::uint32_t mask) {
         test::ResetList();
@@ -34,8 +28,6 @@ protected:
         ClipPolygons(&test::list, &camera_, mask);
         return face->state;
     }
-
-    Camera camera_;
 };
 
 constexpr std::uint32_t kKept = FACE_LIVE;
@@ -96,12 +88,6 @@ TEST_F(Clip, R35_BeyondBothLimitsCountsAsThePositiveOne) {
 }
 
 // --- the near plane ----------------------------------------------------------------------------
-
-void ExpectCorner(const FaceCorner& v, float x, float y, float z) {
-    EXPECT_EQ(v.x, x);
-    EXPECT_EQ(v.y, y);
-    EXPECT_EQ(v.z, z);
-}
 
 TEST_F(Clip, OneCornerInFrontGivesOneTriangle) {
     // From z 5 down to -3 the plane z = 1 lies half way.

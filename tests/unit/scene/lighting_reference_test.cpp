@@ -26,7 +26,7 @@ float Coordinate(test::Numbers* n, bool wild) {
     return std::ldexp(n->Signed(), static_cast<int>(n->Below(16)) - 2);
 }
 
-Vec3 Place(test::Numbers* n, bool wild) {
+Vec3 RandomPlace(test::Numbers* n, bool wild) {
     Vec3 v = {};
     v.x = Coordinate(n, wild);
     v.y = Coordinate(n, wild);
@@ -41,7 +41,7 @@ Light RandomLight(test::Numbers* n, std::uint32_t kind, bool wild) {
     light.kind = kind | (n->Below(4) == 0 ? n->Bits() & 0xFFFFFFE0U : 0);
     light.ambientColor = n->Bits();
     light.lightColor = n->Below(8) == 0 ? 0 : n->Bits();
-    light.position = Place(n, wild);
+    light.position = RandomPlace(n, wild);
     light.direction = {n->Signed(), n->Signed(), n->Signed(), 1.0F};
     Vec3Normalize(&light.direction);
     // Mostly such that the sums end between black and white.
@@ -62,7 +62,7 @@ RenderFace RandomFace(test::Numbers* n, bool wild, CornerNormals* normals) {
     face.litColors[0] = n->Bits();
     face.litColors[1] = n->Bits();
     face.litColors[2] = n->Bits();
-    const Vec3 center = Place(n, false);
+    const Vec3 center = RandomPlace(n, false);
     const float spread = std::ldexp(1.0F, static_cast<int>(n->Below(10)) - 1);
     for (int i = 0; i < 3; ++i) {
         FaceCorner& v = face.work[i];

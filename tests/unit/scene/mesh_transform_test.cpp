@@ -8,6 +8,7 @@
 #include "scene_fixture.h"
 
 using namespace ombrel;
+using test::ExpectCorner;
 
 namespace {
 
@@ -194,12 +195,6 @@ TEST_F(MeshMoves, TranslateInAnyOtherModeAddsToTheTransformedInPlace) {
 TEST_F(MeshMoves, TranslateWithUseCurrentGoesOverAllSlots) {
     MeshTranslate(&mesh_, TransformMode::IntoTransformed, 1);
     ExpectAt(transformed_[3], 14.0F, 25.0F, 36.0F, 1.0F);
-}
-
-void ExpectCorner(const FaceCorner& v, float x, float y, float z) {
-    EXPECT_EQ(v.x, x);
-    EXPECT_EQ(v.y, y);
-    EXPECT_EQ(v.z, z);
 }
 
 TEST_F(MeshMoves, AddsLiveFacesFromTheArrayAskedFor) {

@@ -18,15 +18,8 @@ using test::VertexAt;
 
 namespace {
 
-class Pipeline : public testing::Test {
+class Pipeline : public test::ListAndCamera {
 protected:
-    void SetUp() override {
-        SetFloatMode(FloatMode::Chop);
-        test::ResetList();
-        camera_ = test::MakeCamera(640.0F, 480.0F, 90.0F);
-    }
-    void TearDown() override { SetFloatMode(FloatMode::Nearest); }
-
     // Outside by this mask? The camera is at the origin, so the place is in camera space.
     bool SphereOutside(float x, float y, float z, float radius, std::uint32_t mask) {
         Mesh mesh = {};
@@ -40,8 +33,6 @@ protected:
                                            : MESH_LIVE | MESH_DRAWABLE);
         return outside != 0;
     }
-
-    Camera camera_;
 };
 
 // --- the sphere --------------------------------------------------------------------------------

@@ -1,8 +1,11 @@
 // What the tests of the scene pipeline share: a face list, faces without a mesh, a camera, numbers.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 
+#include "base/float_mode.h"
 #include "math/vec3.h"
 #include "scene/camera.h"
 #include "scene/face_list.h"
@@ -53,6 +56,25 @@ inline Camera MakeCamera(float width, float height, float fov) {
     Camera camera = {};
     CameraInit(&camera, setup);
     return camera;
+}
+
+// An empty list, a camera at the origin, and the rounding of the production.
+class ListAndCamera : public testing::Test {
+protected:
+    void SetUp() override {
+        SetFloatMode(FloatMode::Chop);
+        ResetList();
+        camera_ = MakeCamera(640.0F, 480.0F, 90.0F);
+    }
+    void TearDown() override { SetFloatMode(FloatMode::Nearest); }
+
+    Camera camera_;
+};
+
+inline void ExpectCorner(const FaceCorner& v, float x, float y, float z) {
+    EXPECT_EQ(v.x, x);
+    EXPECT_EQ(v.y, y);
+    EXPECT_EQ(v.z, z);
 }
 
 // The same numbers on every system: Knuth's 64-bit linear generator, and singles without rounding.
