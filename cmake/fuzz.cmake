@@ -1,5 +1,5 @@
 # Fuzz targets: one program for each fuzz/fuzz_<what>.cpp, with libFuzzer and the address and
-# undefined-behaviour sanitizers over all of our code. Needs clang: the preset fuzz; tools/fuzz.py
+# undefined-behaviour sanitizers over all of our code. Needs clang: the preset sanitize; tools/fuzz.py
 # runs them. To be included before the first library, so that all of them are instrumented.
 option(OMBREL_FUZZ "Build the fuzz targets (clang only)" OFF)
 if(NOT OMBREL_FUZZ)

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Replays the seeds of every fuzz target and fuzzes it for a while. Needs the preset `fuzz` built.
+"""Replays the seeds of every fuzz target and fuzzes it for a while. Needs the preset `sanitize` built.
 What breaks a target stays in BUILD/found/TARGET/, what teaches it something in BUILD/learnt/TARGET/.
 The last line counts: two tests a target, its seeds and its search. Examples:
   tools/fuzz.py                              5 seconds each, as many at a time as processors
@@ -80,7 +80,7 @@ def fuzz(name, build, seconds):
 def main():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--build", type=pathlib.Path, default=ROOT / "build" / "fuzz")
+    parser.add_argument("--build", type=pathlib.Path, default=ROOT / "build" / "sanitize")
     parser.add_argument("--seconds", type=int, default=5, help="of processor time, for each target")
     parser.add_argument("--jobs", type=int, default=os.cpu_count() or 1)
     parser.add_argument("--only", action="append", help="a target's name; may be repeated")

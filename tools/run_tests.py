@@ -95,12 +95,14 @@ STEPS = [
     build("release", EVERY, options="-DOMBREL_TESTS=ON -DOMBREL_BENCH=ON"),
     build("win64", DEFAULT),
     build("sanitize", ALL),
-    build("fuzz", ALL, "fuzz_targets"),
     build("clang", ALL, CAPTURE),
     build("o0", ALL, CAPTURE),
     build("win32", ALL),
     build("arm64", ALL, f"larkfen larkfen-hashes {CAPTURE} {' '.join(ARM64_UNITS)}", "-DOMBREL_TESTS=ON",
           "tools/arm64_sysroot.sh"),
+
+    Step("build the benchmarks", ALL, "cmake --build build/release --target larkfen-bench",
+         RELEASE, tests=IS_BUILD, limit=1200, load=WHOLE),
 
     # What is seen: in real time, beside everything else.
     Step("Windows programs, quick", SHORT, "tests/windows/run.sh build/win64 --quick", WIN64,
@@ -161,7 +163,7 @@ STEPS = [
            **FOR_SANITIZERS),
     *programs(["scenario", "golden", "faults", *UNITS], ALL, "sanitize", " sanitized",
               f"'{NOT_SANITIZED}'", **FOR_SANITIZERS),
-    Step("fuzzing: the seeds, and 5 seconds each", ALL, "tools/fuzz.py", ("build fuzz",),
+    Step("fuzzing: the seeds, and 5 seconds each", ALL, "tools/fuzz.py", ("build sanitize",),
          load=WHOLE),
 
     # What is installed, packed and recorded.
