@@ -7,7 +7,7 @@ TEST_PACKAGES="$PLAY_PACKAGES python3 libgtest-dev libbenchmark-dev clang-14 lib
  clang-format-14 clang-tidy-14 cppcheck g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64
  g++-aarch64-linux-gnu qemu-user-static
  desktop-file-utils appstream lintian fakeroot dpkg-dev groff-base
- xvfb libxtst6 weston openbox python3-numpy python3-pil fonts-dejavu-core fonts-paratype"
+ xvfb libxtst6 x11-utils weston openbox python3-numpy python3-pil fonts-dejavu-core fonts-paratype"
 
 # Installs those of the given packages that are missing; says what to do where it cannot.
 need_packages() {
