@@ -393,6 +393,9 @@ def main():
             print(f"{step.name:<42} {', '.join(step.sizes):<22} {step.command}")
         return 0
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    # Started in the background these are ignored, and would be by every program that is tested.
+    signal.signal(signal.SIGINT, signal.default_int_handler)
+    signal.signal(signal.SIGHUP, signal.SIG_DFL)
     try:
         return run_and_tell(chosen(STEPS, options.size or "default", options.only))
     except KeyboardInterrupt:
