@@ -1,8 +1,15 @@
 # The fillers and the blur over wide vectors: one file a lane set, each with its own flags.
-set(wide_paths ${CMAKE_SOURCE_DIR}/src/raster/path_sse41.cpp ${CMAKE_SOURCE_DIR}/src/raster/path_avx2.cpp
-               ${CMAKE_SOURCE_DIR}/src/raster/path_avx512.cpp)
+# Those of other architectures are not compiled.
+set(x86_paths ${CMAKE_SOURCE_DIR}/src/raster/path_sse41.cpp ${CMAKE_SOURCE_DIR}/src/raster/path_avx2.cpp
+              ${CMAKE_SOURCE_DIR}/src/raster/path_avx512.cpp)
+set(neon_path ${CMAKE_SOURCE_DIR}/src/raster/path_neon.cpp)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
+  target_compile_definitions(ombrel_raster PRIVATE OMBREL_NEON_LANES)
+else()
+  set_source_files_properties(${neon_path} PROPERTIES HEADER_FILE_ONLY ON)
+endif()
 if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64|AMD64|i[3-6]86)$")
-  set_source_files_properties(${wide_paths} PROPERTIES HEADER_FILE_ONLY ON)
+  set_source_files_properties(${x86_paths} PROPERTIES HEADER_FILE_ONLY ON)
   return()
 endif()
 target_compile_definitions(ombrel_raster PRIVATE OMBREL_X86_LANES)

@@ -6,14 +6,21 @@
 namespace ombrel {
 
 const RasterPath& RasterPathOf(VectorPath path) {
-#ifdef OMBREL_X86_LANES
-    constexpr const RasterPath* kPaths[kVectorPathCount] = {&kPlainPath, &kSse41Path, &kAvx2Path,
-                                                            &kAvx512Path};
-    return *kPaths[static_cast<int>(path)];
-#else
-    static_cast<void>(path);
-    return kPlainPath;
+    switch (path) {
+#if defined(OMBREL_X86_LANES)
+    case VectorPath::Sse:
+        return kSse41Path;
+    case VectorPath::Avx2:
+        return kAvx2Path;
+    case VectorPath::Avx512:
+        return kAvx512Path;
+#elif defined(OMBREL_NEON_LANES)
+    case VectorPath::Neon:
+        return kNeonPath;
 #endif
+    default:
+        return kPlainPath;
+    }
 }
 
 void UseFillers(VectorPath path) {

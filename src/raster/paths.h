@@ -30,6 +30,7 @@ extern const RasterPath kPlainPath;
 extern const RasterPath kSse41Path;
 extern const RasterPath kAvx2Path;
 extern const RasterPath kAvx512Path;
+extern const RasterPath kNeonPath;
 
 // What every path passes its strange triangles to (triangle.h), by FillerId.
 extern const Filler kCarefulFillers[kFillerCount];

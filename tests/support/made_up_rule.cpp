@@ -4,6 +4,8 @@
 #include "raster/triangle.h"
 #if defined(__SSE4_1__)
 #include "lanes/pixels_sse41.h"
+#elif defined(__aarch64__)
+#include "lanes/pixels_neon.h"
 #endif
 
 namespace ombrel {
@@ -29,6 +31,8 @@ template <class L> bool Fill(ScreenPolygon* polygon, const FillTarget& target) {
 const MadeUpFiller kMadeUpPlain = Fill<PlainPixels>;
 #if defined(__SSE4_1__)
 const MadeUpFiller kMadeUpVector = Fill<Sse41Pixels>;
+#elif defined(__aarch64__)
+const MadeUpFiller kMadeUpVector = Fill<NeonPixels>;
 #else
 const MadeUpFiller kMadeUpVector = nullptr;
 #endif

@@ -20,7 +20,7 @@ protected:
 };
 
 TEST_F(VectorChoice, PutsTheNamedTableInPlace) {
-    for (const VectorPath path : {VectorPath::Scalar, VectorPath::Sse, VectorPath::Avx2}) {
+    for (const VectorPath path : kPathsHere) {
         if (!ProcessorRuns(path)) {
             continue;
         }

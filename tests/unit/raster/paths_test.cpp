@@ -4,6 +4,7 @@
 // entry.
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -34,12 +35,20 @@ struct PathEntry {
 PathEntry EntryOf(VectorPath path) {
     return {NameOf(path), ProcessorRuns(path) ? RasterPathOf(path).fillers : nullptr};
 }
-const PathEntry kPaths[] = {
-    EntryOf(VectorPath::Sse),
-    EntryOf(VectorPath::Avx2),
-    EntryOf(VectorPath::Avx512),
-    {"sixteen", ProcessorRuns(VectorPath::Avx2) ? kSixteenLanePath.fillers : nullptr}};
-constexpr int kPathCount = 4;
+// Those of this architecture beside the plain one, and sixteen lanes of plain code.
+std::vector<PathEntry> AllEntries() {
+    std::vector<PathEntry> all;
+    for (const VectorPath path : kPathsHere) {
+        if (path != VectorPath::Scalar) {
+            all.push_back(EntryOf(path));
+        }
+    }
+    all.push_back(
+        {"sixteen", ProcessorRuns(VectorPath::Avx2) ? kSixteenLanePath.fillers : nullptr});
+    return all;
+}
+const std::vector<PathEntry> kPaths = AllEntries();
+constexpr int kPathCount = std::size(kPathsHere);
 
 int NumberOf(const char* name) {
     for (int i = 0; i < kFillerCount; ++i) {
@@ -247,7 +256,7 @@ TEST(MadeUpRule, DrawsOverPlainAndVectorLanes) {
         wanted[i] = static_cast<Pixel16>(wanted[i] ^ there[i]);
     }
     EXPECT_EQ(PictureOf(&stage, wedge, nullptr, kMadeUpPlain), wanted);
-    if (kMadeUpVector != nullptr && ProcessorRuns(VectorPath::Sse)) {
+    if (kMadeUpVector != nullptr && ProcessorRuns(kPathsHere[1])) {
         EXPECT_EQ(PictureOf(&stage, wedge, nullptr, kMadeUpVector), wanted);
     }
     FreeSpanStage(&stage);
