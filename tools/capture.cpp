@@ -27,6 +27,7 @@
 #include "larkfen-capture/options.h"
 #include "larkfen-capture/picture.h"
 #include "larkfen-capture/processor.h"
+#include "larkfen-capture/production.h"
 #include "larkfen-capture/progress.h"
 #include "larkfen-capture/published.h"
 #include "larkfen-capture/video.h"
@@ -37,7 +38,6 @@ namespace {
 using namespace capture;
 
 constexpr std::uint32_t kMsPerFrame = 25;
-constexpr std::int64_t kSceneTwoFrames = 3968; // calls of scene two, the last one included
 
 // Everything a run of the tool works on.
 struct Recorder {
@@ -79,60 +79,12 @@ void TakeSignals() {
 #endif
 }
 
-// Empty, or why there is nothing to play.
-std::string ChooseDataFolder(const Options& options) {
-    const bool told = !options.dataFolder.empty();
-    const std::string folder =
-        told ? options.dataFolder : ombrel::DataFolderOf(ombrel::ProgramFolder());
-    const std::string name = (told ? "--data: " : "") + folder;
-    std::error_code error;
-    if (!std::filesystem::is_directory(folder, error)) {
-        return name + " is no folder" + (told ? "" : "; --data names the one to play");
-    }
-    ombrel::SetDataFolder(folder);
-    // The production plays without any of them; nobody wants that without knowing.
-    constexpr const char* kSome[] = {"./data/scene1.po", "./data/cam/scene1.trk",
-                                     "./data/2d/font-48.bmp"};
-    if (std::all_of(std::begin(kSome), std::end(kSome),
-                    [](const char* file) { return ombrel::FindDataFile(file).empty(); })) {
-        std::fprintf(stderr, "%s: no data of the production is in it\n", folder.c_str());
-    }
-    return "";
-}
-
 // The first problem counts; the run ends with the frame.
 void Note(Recorder* recorder, const std::string& problem) {
     if (recorder->problem.empty() && !problem.empty()) {
         recorder->problem = problem;
         ombrel::PostQuit(1);
     }
-}
-
-// Frames until t has grown from 0 to 1 by the step of a track key.
-std::int64_t FramesOfSegment(float step) {
-    const float add = step <= 0.0F ? 0.02F : step;
-    std::int64_t frames = 0;
-    for (float t = 0.0F; t < 1.0F && frames < 1000000; t += add) {
-        ++frames;
-    }
-    return frames;
-}
-
-// Of the whole production; 0 when its first track never hands over.
-std::int64_t FramesOfProduction() {
-    constexpr std::int32_t kNeededKeys = 35;
-    const std::int32_t count =
-        ombrel::TrackLoad("./data/cam/scene1.trk", ombrel::sceneOne.keys, ombrel::kMaxTrackKeys);
-    std::int64_t frames = 1;
-    if (count >= kNeededKeys) {
-        const ombrel::ScopedFloatMode asPlayed(ombrel::FloatMode::Chop);
-        for (std::int32_t i = 1; i <= 32; ++i) {
-            frames += FramesOfSegment(ombrel::sceneOne.keys[i].key.step);
-        }
-        frames += kSceneTwoFrames;
-    }
-    std::memset(static_cast<void*>(ombrel::sceneOne.keys), 0, sizeof ombrel::sceneOne.keys);
-    return count >= kNeededKeys ? frames : 0;
 }
 
 std::int32_t DrawnFaces() {
@@ -307,18 +259,6 @@ int Refuse(const std::string& why) {
     return kUsage;
 }
 
-// The production chooses again, and says nothing.
-ombrel::VectorPath ChoosePath() {
-    bool understood = true;
-    const ombrel::VectorPath path = ombrel::ChooseVectorPath(&understood);
-    if (!understood) {
-        std::fprintf(stderr, "larkfen-capture: %s=%s cannot be had here; taking %s\n",
-                     ombrel::kPathVariable, std::getenv(ombrel::kPathVariable),
-                     ombrel::NameOf(path));
-    }
-    return path;
-}
-
 // Reads the list to compare with, and ends the run behind its last frame. Empty, or what is wrong.
 std::string PrepareVerification(Recorder* recorder, std::int64_t whole) {
     Options& options = recorder->options;
@@ -413,11 +353,16 @@ int main(int argc, char** argv) {
         return kDone;
     }
     TakeSignals();
-    const std::string noData = ChooseDataFolder(recorder.options);
+    const std::string noData = ChooseDataFolder(recorder.options.dataFolder);
     if (!noData.empty()) {
         return Refuse(noData);
     }
-    const ombrel::VectorPath path = ChoosePath();
+    // The production plays without any of them; nobody wants that without knowing.
+    if (!HasProduction()) {
+        std::fprintf(stderr, "%s: no data of the production is in it\n",
+                     ombrel::DataFolder().c_str());
+    }
+    const ombrel::VectorPath path = ChoosePath("larkfen-capture");
     const std::int64_t whole = FramesOfProduction();
     const std::string unready = Prepare(&recorder, whole);
     if (!unready.empty()) {
