@@ -36,6 +36,15 @@ target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_demo
 if(NOT OMBREL_SANITIZE)
   target_link_options(larkfen-hashes PRIVATE -static-libstdc++ -static-libgcc LINKER:--gc-sections)
 endif()
+if(NOT CMAKE_CROSSCOMPILING) # it is linked with SDL2, which is there for this machine only
+  ombrel_program(larkfen-player tools/player.cpp ombrel_app ombrel_player ombrel_demo
+                 ombrel_platform_offscreen PNG::PNG ${SDL2_LINK_LIBRARIES})
+  target_include_directories(larkfen-player PRIVATE tools)
+  target_include_directories(larkfen-player SYSTEM PRIVATE ${SDL2_INCLUDE_DIRS})
+  foreach(source picture processor production)
+    target_sources(larkfen-player PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/${source}.cpp)
+  endforeach()
+endif()
 # The inspector's pictures are lettered and written as those of the other tools.
 target_sources(larkfen-inspect PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-gallery/tiny_font.cpp
                                        ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/picture.cpp)

@@ -1,0 +1,165 @@
+// Times of frames, and their table.
+#include "timedemo.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include "app/frame_driver.h"
+#include "base/shell_state.h"
+#include "base/version.h"
+#include "larkfen-capture/processor.h"
+#include "platform/display.h"
+#include "player/chapters.h"
+#include "player/show.h"
+
+namespace player {
+
+namespace {
+
+struct FrameTime {
+    std::int32_t frame;
+    std::int32_t scene; // that drew it
+    double ms;
+};
+
+constinit double lastMs = 0.0; // of the frame drawn last
+
+// What a stretch of frames took.
+struct Row {
+    const char* name;
+    std::int32_t first, last, frames;
+    double perSecond, median, slow, worst; // frames; ms: half and 99 of 100 are not slower
+    std::int32_t worstFrame;
+};
+
+// Of times that are at least one.
+Row RowOf(const char* name, std::vector<FrameTime> times) {
+    Row row = {name,
+               times.front().frame,
+               times.back().frame,
+               static_cast<std::int32_t>(times.size()),
+               0.0,
+               0.0,
+               0.0,
+               0.0,
+               0};
+    double sum = 0.0;
+    for (const FrameTime& time : times) {
+        sum += time.ms;
+    }
+    std::sort(times.begin(), times.end(),
+              [](const FrameTime& a, const FrameTime& b) { return a.ms < b.ms; });
+    const std::size_t last = times.size() - 1;
+    row.perSecond = sum > 0.0 ? static_cast<double>(times.size()) * 1000.0 / sum : 0.0;
+    row.median = times[last / 2].ms;
+    row.slow = times[last * 99 / 100].ms;
+    row.worst = times[last].ms;
+    row.worstFrame = times[last].frame;
+    return row;
+}
+
+template <class Belongs>
+void AddRow(const char* name, const std::vector<FrameTime>& times, Belongs belongs,
+            std::vector<Row>* rows) {
+    std::vector<FrameTime> some;
+    std::copy_if(times.begin(), times.end(), std::back_inserter(some), belongs);
+    if (!some.empty()) {
+        rows->push_back(RowOf(name, std::move(some)));
+    }
+}
+
+std::vector<Row> RowsOf(const std::vector<FrameTime>& times) {
+    std::vector<Row> rows;
+    AddRow(
+        "all", times, [](const FrameTime&) { return true; }, &rows);
+    constexpr const char* kScenes[] = {"scene one", "scene two"};
+    for (std::int32_t scene = 0; scene < 2; ++scene) {
+        AddRow(
+            kScenes[scene], times, [=](const FrameTime& t) { return t.scene == scene; }, &rows);
+    }
+    for (std::int32_t i = 0; i < ombrel::kChapterCount; ++i) {
+        AddRow(
+            ombrel::kChapters[i].name, times,
+            [=](const FrameTime& t) { return ombrel::ChapterOf(t.frame) == i; }, &rows);
+    }
+    return rows;
+}
+
+void PrintTable(const TimeDemo& demo, const std::vector<Row>& rows) {
+    std::printf("Ombrel %s, %dx%d, %s, path %s\n", ombrel::kVersion, ombrel::display.width,
+                ombrel::display.height, capture::ProcessorName().c_str(), demo.path.c_str());
+    std::printf("%-11s%12s%8s%10s%11s%9s%11s%7s\n", "part", "frames", "number", "a second",
+                "median ms", "99 % ms", "worst ms", "frame");
+    for (const Row& row : rows) {
+        char range[32];
+        std::snprintf(range, sizeof range, "%d-%d", row.first, row.last);
+        std::printf("%-11s%12s%8d%10.1f%11.2f%9.2f%11.2f%7d\n", row.name, range, row.frames,
+                    row.perSecond, row.median, row.slow, row.worst, row.worstFrame);
+    }
+}
+
+// Names and processors hold nothing that JSON would want escaped but these two.
+std::string Quoted(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        quoted += c == '"' || c == '\\' ? std::string("\\") + c : std::string(1, c);
+    }
+    return quoted + "\"";
+}
+
+void PrintJson(const TimeDemo& demo, const std::vector<Row>& rows) {
+    std::printf("{\"version\": %s, \"width\": %d, \"height\": %d, \"processor\": %s, "
+                "\"path\": %s, \"parts\": [",
+                Quoted(ombrel::kVersion).c_str(), ombrel::display.width, ombrel::display.height,
+                Quoted(capture::ProcessorName()).c_str(), Quoted(demo.path).c_str());
+    for (const Row& row : rows) {
+        std::printf("%s\n  {\"name\": %s, \"first\": %d, \"last\": %d, \"frames\": %d, "
+                    "\"frames_per_second\": %.3f, \"median_ms\": %.4f, \"p99_ms\": %.4f, "
+                    "\"worst_ms\": %.4f, \"worst_frame\": %d}",
+                    &row == rows.data() ? "" : ",", Quoted(row.name).c_str(), row.first, row.last,
+                    row.frames, row.perSecond, row.median, row.slow, row.worst, row.worstFrame);
+    }
+    std::printf("\n]}\n");
+}
+
+} // namespace
+
+int TimedRenderFrame() {
+    const auto start = std::chrono::steady_clock::now();
+    const int result = ombrel::RenderFrame();
+    lastMs =
+        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+    return result;
+}
+
+double LastFrameMs() {
+    return lastMs;
+}
+
+int RunTimeDemo(const TimeDemo& demo) {
+    if (demo.first > 0 && ombrel::SeekShow(demo.first - 1, nullptr, nullptr) != demo.first - 1) {
+        std::fprintf(stderr, "larkfen-player: the production ended before frame %d\n", demo.first);
+        return 1;
+    }
+    std::vector<FrameTime> times;
+    while (ombrel::ShownFrame() < demo.last) {
+        const std::int32_t scene = ombrel::driver.sceneIndex;
+        if (!ombrel::StepShow()) {
+            break;
+        }
+        times.push_back({ombrel::ShownFrame(), scene, lastMs});
+    }
+    if (times.empty()) {
+        std::fprintf(stderr, "larkfen-player: the production ended before frame %d\n", demo.first);
+        return 1;
+    }
+    const std::vector<Row> rows = RowsOf(times);
+    (demo.json ? PrintJson : PrintTable)(demo, rows);
+    return std::fflush(stdout) == 0 ? 0 : 1;
+}
+
+} // namespace player

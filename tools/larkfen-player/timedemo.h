@@ -1,0 +1,23 @@
+// How fast the frames are drawn: plays them without a window and prints what each stretch took.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace player {
+
+struct TimeDemo {
+    std::int32_t first, last; // frames
+    bool json;
+    std::string path; // of code, by name
+};
+
+// Plays a show that is open and prints. The exit code.
+int RunTimeDemo(const TimeDemo& demo);
+
+// Draws a frame and takes its time: the frame driver of the show that is measured.
+int TimedRenderFrame();
+
+double LastFrameMs(); // of the frame that it drew last
+
+} // namespace player
