@@ -79,7 +79,7 @@ FOR_SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
                   "UBSAN_OPTIONS": "print_stacktrace=1", "OMBREL_RANDOM_SHARE": "0.05"}
 # The stored frames and the whole decision table are held to the release build; with sanitizers 200
 # frames and the smaller test of the table are enough.
-NOT_SANITIZED = "--gtest_filter=-Frames.*:Faults.*:DecisionTable.AllCombinations*"
+NOT_SANITIZED = "--gtest_filter=-Frames.*:Seeks.*:Faults.*:DecisionTable.AllCombinations*"
 
 # On an emulated processor every test runs but the whole decision table, and a few random cases.
 ARM64 = ("build arm64",)
@@ -116,7 +116,9 @@ STEPS = [
     # The whole production, and what takes long beside it.
     Step("scenario: every frame", DEFAULT, "build/release/scenario --gtest_filter='Frames.*'",
          RELEASE),
-    Step("scenario", DEFAULT, "build/release/scenario --gtest_filter='-Frames.*'", RELEASE),
+    Step("scenario: 300 seeks", ALL, "build/release/scenario --gtest_filter='Seeks.*'", RELEASE,
+         limit=1200),
+    Step("scenario", DEFAULT, "build/release/scenario --gtest_filter='-Frames.*:Seeks.*'", RELEASE),
     *programs(["faults", "golden"], DEFAULT, "release"),
     Step("clang-tidy and cppcheck", ALL, "tools/check_static.py build/release", RELEASE,
          tests=IS_ONE, limit=1200, load=WHOLE),
