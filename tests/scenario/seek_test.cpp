@@ -59,6 +59,10 @@ TEST(Seeks, ThreeHundredOverTheShippedProductionHaveTheirStoredPictures) {
     const auto last = static_cast<std::int32_t>(stored.size()) - 1;
     ASSERT_TRUE(OpenShow({RenderFrame, 640, 480, 0, kMemory}));
 
+    // A snapshot for every so many frames, the last ones too.
+    EXPECT_EQ(SeekShow(0, nullptr, nullptr), 0);
+    const std::size_t all = SnapshotBytes() * ((stored.size() - 1) / kSnapshotDistance + 1);
+
     // The end first: everything before it is played once, unseen.
     std::printf("from the start to frame %d: %.2f s\n", last, SeekAndCompare(last, stored));
     std::mt19937 random(16);
@@ -72,6 +76,7 @@ TEST(Seeks, ThreeHundredOverTheShippedProductionHaveTheirStoredPictures) {
     }
     PrintTimes("300 seeks", seconds);
     std::printf("snapshots: %.1f MiB\n", static_cast<double>(SnapshotBytes()) / (1 << 20));
+    EXPECT_EQ(SnapshotBytes(), all);
     EXPECT_LE(SnapshotBytes(), kMemory);
     CloseShow();
     ResetWorld();
