@@ -49,6 +49,9 @@ std::vector<PathEntry> AllEntries() {
 }
 const std::vector<PathEntry> kPaths = AllEntries();
 constexpr int kPathCount = std::size(kPathsHere);
+const PathEntry& PathOfNumber(int number) {
+    return kPaths[static_cast<std::size_t>(number)];
+}
 
 int NumberOf(const char* name) {
     for (int i = 0; i < kFillerCount; ++i) {
@@ -65,7 +68,7 @@ class Paths : public RandomStageTest<std::tuple<int, int>> {};
 
 // 512 scenes of 16 triangles in the production's mode, a quarter as many in the other one.
 TEST_P(Paths, DrawRandomTrianglesAsTheReference) {
-    const PathEntry& path = kPaths[std::get<0>(GetParam())];
+    const PathEntry& path = PathOfNumber(std::get<0>(GetParam()));
     const reference::Filler& row = reference::kFillers[std::get<1>(GetParam())];
     if (path.fillers == nullptr) {
         GTEST_SKIP() << "this processor has no " << path.name;
@@ -84,7 +87,7 @@ TEST_P(Paths, DrawRandomTrianglesAsTheReference) {
 }
 
 std::string NameOfPair(const testing::TestParamInfo<std::tuple<int, int>>& info) {
-    return std::string(kPaths[std::get<0>(info.param)].name) + "_" +
+    return std::string(PathOfNumber(std::get<0>(info.param)).name) + "_" +
            reference::kFillers[std::get<1>(info.param)].name;
 }
 INSTANTIATE_TEST_SUITE_P(Each, Paths,
@@ -186,7 +189,7 @@ bool SameSpans(SpanStage* stage, int number, Filler filler, ScreenPolygon polygo
 class PathSpans : public testing::TestWithParam<int> {};
 
 TEST_P(PathSpans, OfEveryLengthAtEveryAlignmentAreThePlainOnes) {
-    const PathEntry& path = kPaths[GetParam()];
+    const PathEntry& path = PathOfNumber(GetParam());
     if (path.fillers == nullptr) {
         GTEST_SKIP() << "this processor has no " << path.name;
     }
@@ -216,7 +219,7 @@ TEST_P(PathSpans, OfEveryLengthAtEveryAlignmentAreThePlainOnes) {
 }
 INSTANTIATE_TEST_SUITE_P(Paths, PathSpans, testing::Range(0, kPathCount),
                          [](const testing::TestParamInfo<int>& info) {
-                             return std::string(kPaths[info.param].name);
+                             return std::string(PathOfNumber(info.param).name);
                          });
 
 // --- a rule that the table does not have ---------------------------------------------------------
@@ -285,7 +288,7 @@ void FillSquare(Filler filler, Texture* texture, Pixel16* frame, std::uint32_t l
 class PathArithmetic : public testing::TestWithParam<int> {};
 
 TEST_P(PathArithmetic, GivesAllEntriesOfAllBlendTables) {
-    const PathEntry& path = kPaths[GetParam()];
+    const PathEntry& path = PathOfNumber(GetParam());
     if (path.fillers == nullptr) {
         GTEST_SKIP() << "this processor has no " << path.name;
     }
@@ -313,7 +316,7 @@ TEST_P(PathArithmetic, GivesAllEntriesOfAllBlendTables) {
 }
 INSTANTIATE_TEST_SUITE_P(Paths, PathArithmetic, testing::Range(0, kPathCount),
                          [](const testing::TestParamInfo<int>& info) {
-                             return std::string(kPaths[info.param].name);
+                             return std::string(PathOfNumber(info.param).name);
                          });
 
 // Next to every multiple is where a reciprocal goes wrong.
