@@ -45,28 +45,38 @@ def blocks_run(lines):
 
 
 def functions():
-    """[(mangled name, range for the emulator, part)] of the functions that are counted."""
-    listed = [subprocess.run(["aarch64-linux-gnu-nm", "-S", "-p", "--defined-only", *more, str(PROGRAM)],
-                             check=True, stdout=subprocess.PIPE, text=True).stdout.splitlines()
-              for more in ([], ["-C"])]
+    """[(mangled name, first address, size, part)] of the functions that are counted."""
+    listed = [subprocess.run(["aarch64-linux-gnu-nm", "-S", "-p", "--defined-only", *more,
+                              str(PROGRAM)], check=True, stdout=subprocess.PIPE,
+                             text=True).stdout.splitlines() for more in ([], ["-C"])]
     found = []
     for mangled, plain in zip(*listed):
         match = re.match(r"([0-9a-f]{16}) ([0-9a-f]{16}) [tTwW] (.*)", plain)
         part = match and next((name for name, names in PARTS if re.search(names, match[3])), None)
         if part:
-            place = f"{LOADED_AT + int(match[1], 16):#x}+{int(match[2], 16):#x}"
-            found.append((mangled.split()[-1], place, part))
+            found.append((mangled.split()[-1], int(match[1], 16), int(match[2], 16), part))
     return found
+
+
+def ranges(counted):
+    """The places of functions as the emulator wants them told: a few, since it looks through all of
+    them for every block."""
+    joined = []
+    for start, size in sorted((start, size) for _, start, size, _ in counted):
+        if joined and start - joined[-1][1] < 4096:
+            joined[-1][1] = max(joined[-1][1], start + size)
+        else:
+            joined.append([start, start + size])
+    return ",".join(f"{LOADED_AT + start:#x}+{end - start:#x}" for start, end in joined)
 
 
 def instructions(path, counted, options):
     """{part: instructions} of one run."""
     read, write = os.pipe()
-    places = ",".join(place for _, place, _ in counted)
-    command = [*EMULATOR, "-d", "in_asm,exec,nochain", "-dfilter", places, "-D", f"/dev/fd/{write}",
-               str(PROGRAM), "-w", "-ns", "--data", str(ROOT / "data"), "--frames",
-               f"0:{options.frames}", "--switch", f"sceneIndex={options.scene}", "--hashes",
-               "/dev/null"]
+    command = [*EMULATOR, "-d", "in_asm,exec,nochain", "-dfilter", ranges(counted), "-D",
+               f"/dev/fd/{write}", str(PROGRAM), "-w", "-ns", "--data", str(ROOT / "data"),
+               "--frames", f"0:{options.frames}", "--switch", f"sceneIndex={options.scene}",
+               "--hashes", "/dev/null"]
     with subprocess.Popen(command, env={**os.environ, "RASTER_USE": path}, pass_fds=[write],
                           stdout=subprocess.DEVNULL) as process:
         os.close(write)
@@ -75,7 +85,7 @@ def instructions(path, counted, options):
     if process.returncode != 0:
         sys.exit(f"error: exit code {process.returncode}: {' '.join(command)}")
     parts = collections.Counter()
-    for name, part in {name: part for name, _, part in counted}.items():
+    for name, part in {name: part for name, *_, part in counted}.items():
         parts[part] += counts[name]
     return parts
 
@@ -83,7 +93,8 @@ def instructions(path, counted, options):
 def main():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--frames", type=int, default=2, metavar="N", help="so many (default: 2)")
+    parser.add_argument("--frames", type=int, default=1, metavar="N",
+                        help="so many, each takes a minute or more (default: 1)")
     parser.add_argument("--scene", type=int, choices=(0, 1), default=0, help="which one (default: 0)")
     options = parser.parse_args()
     counted = functions()
