@@ -129,7 +129,7 @@ STEPS = [
     Step("six productions in one process", DEFAULT,
          "build/release/soak --fast --size 320x240 6", RELEASE, tests=IS_ONE),
     Step("pictures of the world", DEFAULT,
-         "art/check_world.py data --frames build/release/larkfen-capture", RELEASE, tests=IS_ONE),
+         "/usr/bin/python3 art/check_world.py data --frames build/release/larkfen-capture", RELEASE, tests=IS_ONE),
     Step("inspector", DEFAULT, "tests/inspect/run.sh build/release", RELEASE),
 
     # The sources and the programs as files.
