@@ -47,8 +47,8 @@ int AllocateMeshArrays(Mesh* mesh, std::int32_t vertexCount, std::int32_t faceCa
     mesh->vertices = NewArray<Vertex>(slots);
     mesh->transformed = NewArray<Vertex>(slots);
     mesh->texCoords = NewArray<TexCoord>(static_cast<std::int64_t>(faceCapacity) * 3);
-    mesh->avgRadius = NewArray<float>(copyCount);
-    mesh->maxRadius = NewArray<float>(copyCount);
+    mesh->avgRadius = NewArray<Single>(copyCount);
+    mesh->maxRadius = NewArray<Single>(copyCount);
     mesh->faces = NewArray<Face>(faceCapacity);
     mesh->curVertices = mesh->vertices;
     mesh->curTransformed = mesh->transformed;
@@ -74,7 +74,7 @@ int ReleaseMesh(Mesh* mesh) {
     return 1;
 }
 
-float ComputeMeshRadius(Mesh* mesh) {
+Single ComputeMeshRadius(Mesh* mesh) {
     const std::ptrdiff_t start = static_cast<std::ptrdiff_t>(mesh->currentCopy) * mesh->vertexCount;
     double sum = 0.0;
     double largest = 0.0;
@@ -89,8 +89,8 @@ float ComputeMeshRadius(Mesh* mesh) {
     }
     // Without vertices the mean is 0 / 0, not a number.
     mesh->avgRadius[mesh->currentCopy] =
-        static_cast<float>(sum / static_cast<double>(mesh->vertexCount));
-    mesh->maxRadius[mesh->currentCopy] = static_cast<float>(largest);
+        static_cast<Single>(sum / static_cast<double>(mesh->vertexCount));
+    mesh->maxRadius[mesh->currentCopy] = static_cast<Single>(largest);
     return mesh->maxRadius[mesh->currentCopy];
 }
 
@@ -140,7 +140,7 @@ int SmoothVertexNormals(Mesh* mesh) {
             continue;
         }
         Vertex& vertex = mesh->vertices[i];
-        const float share = 1.0F / static_cast<float>(counts[i]);
+        const Single share = 1.0F / static_cast<Single>(counts[i]);
         Vec3 normal = {vertex.nx * share, vertex.ny * share, vertex.nz * share, 1.0F};
         Vec3Normalize(&normal);
         vertex.nx = normal.x;

@@ -49,16 +49,16 @@ inline constexpr std::uint32_t MAT_TEXTURED = 0x200;
 
 // Twelve words.
 struct Vertex {
-    float x, y, z, w;
-    float nx, ny, nz;
-    float nw;            // zero after load
-    float u, v;          // texels; filled when a textured face is added to a face list
+    Single x, y, z, w;
+    Single nx, ny, nz;
+    Single nw;           // zero after load
+    Single u, v;         // texels; filled when a textured face is added to a face list
     std::uint32_t extra; // for the pipeline's use
     std::uint32_t vflags;
 };
 
 struct TexCoord {
-    float u, v; // texels of the full-size texture
+    Single u, v; // texels of the full-size texture
 };
 
 // Seventeen words.
@@ -73,7 +73,7 @@ struct Face {
     TexCoord* texCoordArray; // what t0..t2 index
     std::int32_t v0, v1, v2;
     std::int32_t t0, t1, t2;
-    float size; // length of (v1 - v0) x (v2 - v0): twice the area
+    Single size; // length of (v1 - v0) x (v2 - v0): twice the area
 };
 
 struct Mesh {
@@ -82,11 +82,11 @@ struct Mesh {
     std::uint32_t state;
     std::uint32_t flags;
     std::uint32_t pipeline4;
-    float* avgRadius; // copyCount entries: mean distance of the vertices from the object's origin
-    float* maxRadius; // copyCount entries: largest such distance; null means radius 0
+    Single* avgRadius; // copyCount entries: mean distance of the vertices from the object's origin
+    Single* maxRadius; // copyCount entries: largest such distance; null means radius 0
     std::uint32_t pipeline7;
     Vec3 position;
-    float pipelineRow[4];
+    Single pipelineRow[4];
     Vec3 axes[3]; // direction vectors that turn with the object; zero after load
     std::int32_t vertexCount;
     std::int32_t copyCount;
@@ -106,7 +106,7 @@ struct Mesh {
 struct Material {
     std::uint32_t flags;
     std::uint8_t color[4]; // level, blue, green, red
-    float ka, kd, ks, exponent;
+    Single ka, kd, ks, exponent;
     std::uint8_t ambient[4], diffuse[4], specular[4];
     char textureName[208];
 };
@@ -132,7 +132,7 @@ int AllocateMeshArrays(Mesh* mesh, std::int32_t vertexCount, std::int32_t faceCa
 int ReleaseMesh(Mesh* mesh); // frees the arrays (not the texture), clears the record; 1
 // Fills avgRadius and maxRadius of the current copy; returns the maximum. Without vertices: NaN and
 // 0.
-float ComputeMeshRadius(Mesh* mesh);
+Single ComputeMeshRadius(Mesh* mesh);
 int ComputeFaceSizes(Mesh* mesh); // 1; 0 for null
 // From the plastic faces and up to kMaxMeshVertices vertices only. 1; 0 for null.
 int SmoothVertexNormals(Mesh* mesh);

@@ -260,7 +260,7 @@ bool ReadFaces(Load* load) {
 }
 
 // Cut to a whole number, of which the low 8 bits are kept.
-std::uint8_t ToByte(float value) {
+std::uint8_t ToByte(Single value) {
     return static_cast<std::uint8_t>(ToIntChop(value + 0.5F) & 0xFF);
 }
 
@@ -326,7 +326,7 @@ bool ReadColors(LineReader* reader, Material* material) {
     material->exponent = reader->floats[3];
     for (std::size_t i = 0; i < 3; ++i) {
         // REQUIRED R19: level, blue and green take part, red does not.
-        const float source = static_cast<float>(material->color[i]);
+        const auto source = static_cast<Single>(material->color[i]);
         material->ambient[i] = ToByte(source * material->ka);
         material->diffuse[i] = ToByte(source * material->kd);
         material->specular[i] = ToByte(source * material->ks);
@@ -474,7 +474,7 @@ void ApplyMaterial(const Load& load, const Material& material, Face* face) {
 }
 
 // 0 for a value that is not a number.
-float ClampTexel(float value, float largest) {
+Single ClampTexel(Single value, Single largest) {
     if (!(value > 0.0F)) {
         return 0.0F;
     }
@@ -489,12 +489,12 @@ void ScaleTexCoords(const Load& load) {
     }
     const bool chain = (mesh->flags & MESH_MIPMAPPED) != 0;
     const Texture* const texture = chain ? mesh->texture.chain[0] : mesh->texture.single;
-    const float w = static_cast<float>(texture->width - 1);
-    const float h = static_cast<float>(texture->height - 1);
+    const auto w = static_cast<Single>(texture->width - 1);
+    const auto h = static_cast<Single>(texture->height - 1);
     for (std::int32_t i = 0; i < load.texCoordCount; ++i) {
         TexCoord& coord = mesh->texCoords[i];
-        float u = coord.u * w;
-        float v = coord.v * w;
+        Single u = coord.u * w;
+        Single v = coord.v * w;
         u = HasOption(load, LOAD_MIRROR_U) ? w - u : u;
         v = HasOption(load, LOAD_MIRROR_V) ? w - v : v;
         if (HasOption(load, LOAD_SWAP_UV)) {

@@ -10,7 +10,7 @@ namespace ombrel {
 // Set by StartUp. No step of a frame reads the first two.
 struct StartUpState {
     Vec3 marker;                   // (20, 20, 20, 1)
-    float cameraStart;             // (180 - field of view) * 0.3 / 90
+    Single cameraStart;            // (180 - field of view) * 0.3 / 90
     std::int32_t cursorX, cursorY; // where the cursor is after it was parked, pixels
 };
 extern StartUpState startUp;

@@ -11,7 +11,7 @@ const Matrix4 IdentityMatrix4 = {{{1.0F, 0.0F, 0.0F, 0.0F},
                                   {0.0F, 0.0F, 1.0F, 0.0F},
                                   {0.0F, 0.0F, 0.0F, 1.0F}}};
 
-void Matrix4Set(Matrix4* out, const float values[16]) {
+void Matrix4Set(Matrix4* out, const Single values[16]) {
     std::memcpy(out->m, values, sizeof(out->m));
 }
 
@@ -24,31 +24,31 @@ void Matrix4Multiply(const Matrix4* a, const Matrix4* b, Matrix4* out) {
     }
 }
 
-Matrix4 RotationX(float s, float c) {
+Matrix4 RotationX(Single s, Single c) {
     return {{{1.0F, 0.0F, 0.0F, 0.0F},
              {0.0F, c, s, 0.0F},
              {0.0F, -s, c, 0.0F},
              {0.0F, 0.0F, 0.0F, 1.0F}}};
 }
 
-Matrix4 RotationY(float s, float c) {
+Matrix4 RotationY(Single s, Single c) {
     return {{{c, 0.0F, -s, 0.0F},
              {0.0F, 1.0F, 0.0F, 0.0F},
              {s, 0.0F, c, 0.0F},
              {0.0F, 0.0F, 0.0F, 1.0F}}};
 }
 
-Matrix4 RotationZ(float s, float c) {
+Matrix4 RotationZ(Single s, Single c) {
     return {{{c, s, 0.0F, 0.0F},
              {-s, c, 0.0F, 0.0F},
              {0.0F, 0.0F, 1.0F, 0.0F},
              {0.0F, 0.0F, 0.0F, 1.0F}}};
 }
 
-void Matrix4RotationXYZ(float ax, float ay, float az, Matrix4* out) {
-    using Rotation = Matrix4 (*)(float s, float c);
+void Matrix4RotationXYZ(Single ax, Single ay, Single az, Matrix4* out) {
+    using Rotation = Matrix4 (*)(Single s, Single c);
     struct Axis {
-        float angle;
+        Single angle;
         Rotation rotation;
     };
     const Axis axes[] = {{ax, RotationX}, {ay, RotationY}, {az, RotationZ}};
@@ -57,7 +57,7 @@ void Matrix4RotationXYZ(float ax, float ay, float az, Matrix4* out) {
     *out = IdentityMatrix4;
     bool first = true;
     for (const Axis& axis : axes) {
-        const double size = axis.angle < 0.0F ? -axis.angle : axis.angle;
+        const auto size = static_cast<double>(axis.angle < 0.0F ? -axis.angle : axis.angle);
         if (!(size > 0.00001)) {
             continue;
         }

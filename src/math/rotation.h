@@ -5,8 +5,8 @@
 
 namespace ombrel {
 
-Matrix4 RotationX(float s, float c); // Y towards Z
-Matrix4 RotationY(float s, float c); // Z towards X
-Matrix4 RotationZ(float s, float c); // X towards Y
+Matrix4 RotationX(Single s, Single c); // Y towards Z
+Matrix4 RotationY(Single s, Single c); // Z towards X
+Matrix4 RotationZ(Single s, Single c); // X towards Y
 
 } // namespace ombrel

@@ -11,8 +11,8 @@
 
 namespace ombrel {
 
-constinit float SinTableDeg[kTrigTableSize] = {};
-constinit float CosTableDeg[kTrigTableSize] = {};
+constinit Single SinTableDeg[kTrigTableSize] = {};
+constinit Single CosTableDeg[kTrigTableSize] = {};
 
 namespace {
 
@@ -93,8 +93,8 @@ Reduced QuarterTurnOn(Reduced r) {
 }
 
 // The table's value at an angle: truncate to the degree, interpolate to the next.
-float Lookup(const float* table, float degrees) {
-    auto r = static_cast<float>(std::fmod(static_cast<double>(degrees), 360.0));
+Single Lookup(const Single* table, Single degrees) {
+    auto r = static_cast<Single>(std::fmod(static_cast<double>(degrees), 360.0));
     if (r < 0.0F) {
         r += 360.0F;
     }
@@ -103,17 +103,17 @@ float Lookup(const float* table, float degrees) {
         r = 0.0F;
     }
     const std::int32_t i = ToIntChop(r);
-    const float fraction = r - static_cast<float>(i);
+    const Single fraction = r - static_cast<Single>(i);
     return table[i] + (table[i + 1] - table[i]) * fraction;
 }
 
 // Kept apart, so that no arithmetic moves to before the switch of the rounding mode.
 [[gnu::noinline]] void FillTables() {
-    constexpr float kRadiansPerDegree = 0.0174532924F;
+    constexpr Single kRadiansPerDegree = 0.0174532924F;
     for (std::int32_t i = 0; i <= 360; ++i) {
         const double radians = static_cast<double>(i) * static_cast<double>(kRadiansPerDegree);
-        SinTableDeg[i] = static_cast<float>(SinRad(radians));
-        CosTableDeg[i] = static_cast<float>(CosRad(radians));
+        SinTableDeg[i] = static_cast<Single>(SinRad(radians));
+        CosTableDeg[i] = static_cast<Single>(CosRad(radians));
     }
 }
 
@@ -144,11 +144,11 @@ void ResetTrigTables() {
     }
 }
 
-float SinDeg(float degrees) {
+Single SinDeg(Single degrees) {
     return Lookup(SinTableDeg, degrees);
 }
 
-float CosDeg(float degrees) {
+Single CosDeg(Single degrees) {
     return Lookup(CosTableDeg, degrees);
 }
 

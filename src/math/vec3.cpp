@@ -9,34 +9,34 @@ namespace ombrel {
 namespace {
 
 // Shorter vectors have no direction.
-constexpr float kShortest = 0.00001F;
+constexpr Single kShortest = 0.00001F;
 
 } // namespace
 
-float Vec3Length(const Vec3* v) {
+Single Vec3Length(const Vec3* v) {
     return SquareRoot(Vec3Dot(v, v));
 }
 
-float Vec3FastLength(const Vec3* v) {
+Single Vec3FastLength(const Vec3* v) {
     return FastLength<PlainFloats>(*v);
 }
 
 void Vec3Normalize(Vec3* v) {
-    const float length = Vec3Length(v);
+    const Single length = Vec3Length(v);
     if (length < kShortest) {
         return;
     }
-    const float scale = 1.0F / length;
+    const Single scale = 1.0F / length;
     *v = {v->x * scale, v->y * scale, v->z * scale, 1.0F};
 }
 
-void Vec3NormalizeTo(const Vec3* v, float out[3]) {
+void Vec3NormalizeTo(const Vec3* v, Single out[3]) {
     out[0] = out[1] = out[2] = 0.0F;
-    const float length = Vec3Length(v);
+    const Single length = Vec3Length(v);
     if (length < kShortest) {
         return;
     }
-    const float scale = 1.0F / length;
+    const Single scale = 1.0F / length;
     out[0] = v->x * scale;
     out[1] = v->y * scale;
     out[2] = v->z * scale;

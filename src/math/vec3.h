@@ -7,6 +7,7 @@
 
 #include <cstdint>
 
+#include "base/single.h"
 #include "math/xyz.h"
 
 namespace ombrel {
@@ -14,25 +15,25 @@ namespace ombrel {
 // w is carried along; the three-component operations never read it and set it to 1 where they write
 // a Vec3.
 struct Vec3 {
-    float x, y, z, w;
+    Single x, y, z, w;
 };
 
 struct Matrix4 {
-    float m[4][4]; // [row][column]
+    Single m[4][4]; // [row][column]
 };
 
 // A point and a direction (the camera's clip planes, light rays).
 struct Ray {
-    float origin[3];
-    float direction[3];
+    Single origin[3];
+    Single direction[3];
 };
 
 extern const Matrix4 IdentityMatrix4;
 
 // Entries 0..360 hold sine and cosine of whole degrees; entry 361 is never written and stays 0.
 inline constexpr std::int32_t kTrigTableSize = 362;
-extern float SinTableDeg[kTrigTableSize];
-extern float CosTableDeg[kTrigTableSize];
+extern Single SinTableDeg[kTrigTableSize];
+extern Single CosTableDeg[kTrigTableSize];
 
 // Written by InitTrigTables at start-up; read by SinDeg and CosDeg alone.
 void InitTrigTables();  // stores to nearest, whatever mode is set
@@ -40,8 +41,8 @@ void ResetTrigTables(); // all zero
 
 // Linear interpolation between whole degrees; truncates the angle to its degree. Any finite angle;
 // an infinite one or NaN counts as 0.
-float SinDeg(float degrees);
-float CosDeg(float degrees);
+Single SinDeg(Single degrees);
+Single CosDeg(Single degrees);
 
 // Sine, cosine and tangent of radians in double precision, our own, so that every system gets the
 // same bits. Arguments up to 1e9 in size; the error is below 4 units in the last place (in either
@@ -62,7 +63,7 @@ inline void Vec3Add(const Vec3* a, const Vec3* b, Vec3* out) {
     *out = {v.x, v.y, v.z, 1.0F};
 }
 
-inline float Vec3Dot(const Vec3* a, const Vec3* b) {
+inline Single Vec3Dot(const Vec3* a, const Vec3* b) {
     return Dot(*a, *b);
 }
 
@@ -71,12 +72,12 @@ inline void Vec3Cross(const Vec3* a, const Vec3* b, Vec3* out) {
     *out = {v.x, v.y, v.z, 1.0F};
 }
 
-float Vec3Length(const Vec3* v);
-float Vec3FastLength(const Vec3* v);               // as FastLength of xyz.h
-void Vec3Normalize(Vec3* v);                       // shorter than 1e-5: untouched
-void Vec3NormalizeTo(const Vec3* v, float out[3]); // shorter than 1e-5: zero
+Single Vec3Length(const Vec3* v);
+Single Vec3FastLength(const Vec3* v);               // as FastLength of xyz.h
+void Vec3Normalize(Vec3* v);                        // shorter than 1e-5: untouched
+void Vec3NormalizeTo(const Vec3* v, Single out[3]); // shorter than 1e-5: zero
 
-void Matrix4Set(Matrix4* out, const float values[16]); // row-major
+void Matrix4Set(Matrix4* out, const Single values[16]); // row-major
 void Matrix4Multiply(const Matrix4* a, const Matrix4* b, Matrix4* out);
 // v * m, all four components; the caller supplies w.
 inline void Vec3TransformMatrix4(const Vec3* v, const Matrix4* m, Vec3* out) {
@@ -85,7 +86,7 @@ inline void Vec3TransformMatrix4(const Vec3* v, const Matrix4* m, Vec3* out) {
     };
     *out = {column(0), column(1), column(2), column(3)};
 }
-void Matrix4RotationXYZ(float ax, float ay, float az, Matrix4* out); // X first, then Y, then Z
+void Matrix4RotationXYZ(Single ax, Single ay, Single az, Matrix4* out); // X first, then Y, then Z
 void RayInit(Ray* out, const Vec3* origin, const Vec3* direction, std::int32_t normalize);
 
 } // namespace ombrel

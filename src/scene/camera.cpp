@@ -12,11 +12,11 @@ constexpr Vec3 kOrigin = {0.0F, 0.0F, 0.0F, 1.0F};
 
 // tan(fov / 2). The angle is carried in double: 90 degrees then gives 1, whichever way singles
 // round.
-float TanHalf(float fov) {
-    constexpr float kPi = 3.1415927F;
+Single TanHalf(Single fov) {
+    constexpr Single kPi = 3.1415927F;
     const double radians =
         static_cast<double>(fov) * 0.5 * static_cast<double>(kPi) * 0.005555555555555556;
-    return static_cast<float>(TanRad(radians));
+    return static_cast<Single>(TanRad(radians));
 }
 
 Matrix4 TranslationFromEye(const Camera& camera) {
@@ -27,7 +27,7 @@ Matrix4 TranslationFromEye(const Camera& camera) {
     return translation;
 }
 
-void SetClipPlane(Ray* plane, float x, float y, float z) {
+void SetClipPlane(Ray* plane, Single x, Single y, Single z) {
     const Vec3 normal = {x, y, z, 1.0F};
     RayInit(plane, &kOrigin, &normal, 1);
 }
@@ -57,14 +57,14 @@ void CameraInit(Camera* camera, const CameraSetup& setup) {
     CameraSetFov(camera, setup.fov);
 }
 
-void CameraSetFov(Camera* camera, float fov) {
+void CameraSetFov(Camera* camera, Single fov) {
     camera->fov = fov;
     camera->tanHalfFov = TanHalf(fov) * camera->projScale * 0.5F;
 
     // REQUIRED R27: the normals carry the tangent across and the image plane's half width ahead.
     const bool rightAngle = fov == 90.0F;
-    const float t = rightAngle ? 1.0F : camera->tanHalfFov;
-    const float h = rightAngle ? 1.0F : camera->projScale * 0.5F;
+    const Single t = rightAngle ? 1.0F : camera->tanHalfFov;
+    const Single h = rightAngle ? 1.0F : camera->projScale * 0.5F;
     SetClipPlane(&camera->clipPosX, t, 0.0F, -h);
     SetClipPlane(&camera->clipNegX, -t, 0.0F, -h);
     SetClipPlane(&camera->clipPosY, 0.0F, t, -h);
@@ -101,8 +101,8 @@ void CameraBuildView(Camera* camera, std::int32_t order) {
 void CameraLookAt(Camera* camera, std::int32_t fromAngles) {
     if (fromAngles == 1) {
         // REQUIRED R28: the target lies about the world's origin, wherever the eye is.
-        const float alpha = camera->angles.x;
-        const float beta = camera->angles.y;
+        const Single alpha = camera->angles.x;
+        const Single beta = camera->angles.y;
         camera->target = {-SinDeg(beta) * SinDeg(alpha), CosDeg(alpha),
                           CosDeg(beta) * SinDeg(alpha), 1.0F};
     }

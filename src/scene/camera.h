@@ -13,31 +13,32 @@ namespace ombrel {
 struct Camera {
     union {
         std::int32_t mode; // 8 in the live camera
-        float tension;     // in a track key
+        Single tension;    // in a track key
     };
-    float keyContinuity; // in a track key only
-    float keyBias;       // in a track key only
+    Single keyContinuity; // in a track key only
+    Single keyBias;       // in a track key only
     Vec3 position;
     Vec3 angles;
     union {
         Vec3 right; // basis of the live camera
         struct {
-            float step; // of a track key: added to the segment parameter per frame; <= 0 means 0.02
-            float fov;  // of a track key, degrees
+            Single
+                step;   // of a track key: added to the segment parameter per frame; <= 0 means 0.02
+            Single fov; // of a track key, degrees
         } key;
     };
     Vec3 up;
     Vec3 forward;
     Vec3 target;
-    float tanHalfFov;
-    float fov; // degrees; a larger value magnifies, 90 is a half angle of 45
-    float zNear, zFar;
+    Single tanHalfFov;
+    Single fov; // degrees; a larger value magnifies, 90 is a half angle of 45
+    Single zNear, zFar;
     Ray clipPosX, clipNegX, clipPosY, clipNegY;
-    float projScale;                 // 2
-    float projScaleY;                // 2 / aspect
-    float screenWidth, screenHeight; // pixels
-    float screenCenterX, screenCenterY;
-    float aspect;
+    Single projScale;                 // 2
+    Single projScaleY;                // 2 / aspect
+    Single screenWidth, screenHeight; // pixels
+    Single screenCenterX, screenCenterY;
+    Single aspect;
     Matrix4 view; // world to camera
     Matrix4 matrixB, matrixC;
 };
@@ -46,14 +47,14 @@ struct CameraSetup {
     std::int32_t mode;
     Vec3 position, angles;
     const Vec3* target; // null: (0, 0, 0, 1)
-    float zNear, zFar;
-    float fov; // degrees, between 0 and 180, both excluded
-    float screenWidth, screenHeight;
+    Single zNear, zFar;
+    Single fov; // degrees, between 0 and 180, both excluded
+    Single screenWidth, screenHeight;
 };
 void CameraInit(Camera* camera, const CameraSetup& setup);
 // Sets fov, tanHalfFov and the four clip planes; 1 exactly and normals about +-0.7071068 for 90
 // degrees.
-void CameraSetFov(Camera* camera, float fov);
+void CameraSetFov(Camera* camera, Single fov);
 // The view from position and angles. order 0..5 of the inverse rotations: 0 XYZ, 1 YXZ, 2 XZY, 3
 // YZX, 4 ZYX (the scenes'), 5 ZXY; any other leaves the view alone.
 void CameraBuildView(Camera* camera, std::int32_t order);
@@ -64,7 +65,7 @@ void CameraLookAt(Camera* camera, std::int32_t fromAngles);
 // Sampling state, one for the program: switching tracks does not reset it. Written and read by
 // TrackSample alone; trackT is the place between keys trackSegment + 1 and + 2, from 0 to 1.
 extern std::int32_t trackSegment;
-extern float trackT;
+extern Single trackT;
 void ResetTrackState();
 
 // Reads at most capacity keys; 0 for a missing file. A line that matches in part still makes a key
@@ -78,7 +79,7 @@ std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
 // left, *text stays.
 inline constexpr std::int32_t kTrackColumns = 11;
 inline constexpr std::size_t kMaxTrackFile = std::size_t{16} << 20; // bytes read of a file
-std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]);
+std::int32_t ReadTrackColumns(const char** text, Single columns[kTrackColumns]);
 
 // Writes the sampled values into the camera, steps on, returns the segment just sampled. With fewer
 // than 3 keys the camera and trackT stay as they are, the segment becomes 0 and 0 is returned.

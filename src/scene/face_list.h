@@ -12,8 +12,8 @@ inline constexpr std::int32_t kMaxRenderFaces = 65536;
 
 // A working vertex, moved on by every step: world, camera, projected, pixels.
 struct FaceCorner {
-    float x, y, z;
-    float u, v; // texels
+    Single x, y, z;
+    Single u, v; // texels
 };
 
 // What a face is drawn from, and no more: it passes through the caches several times a frame.
@@ -23,13 +23,13 @@ struct RenderFace {
     std::uint32_t color;        // low 16 bits: base colour; top byte: its own blend level
     std::uint32_t litColors[3]; // low 16 bits: Pixel16, written by the lighting pass
     TextureSlot texture;
-    float size; // twice the area in the mesh
+    Single size; // twice the area in the mesh
     FaceCorner work[3];
 };
 
 // The normals of the working vertices, which only the lighting reads.
 struct CornerNormals {
-    Xyz<float> corners[3];
+    Xyz<Single> corners[3];
 };
 
 struct FaceList {

@@ -12,20 +12,20 @@ inline constexpr std::uint32_t OUTSIDE_BAND = 64;
 
 // A corner of a mesh at its place in the world and on the screen.
 struct PlacedVertex {
-    float x, y, z; // world
+    Single x, y, z; // world
     std::uint32_t outside;
-    float screenX, screenY; // pixels; of no meaning where OUTSIDE_BAND is set
-    float depth;            // z in camera space
-    std::int32_t point;     // -1; the caller's
+    Single screenX, screenY; // pixels; of no meaning where OUTSIDE_BAND is set
+    Single depth;            // z in camera space
+    std::int32_t point;      // -1; the caller's
 };
 static_assert(sizeof(PlacedVertex) == 32); // written in two halves of four words
 
 // Points to be lit, an array a word.
 inline constexpr std::int32_t kMaxLitPoints = 3 * kMaxMeshFaces + 16;
 struct LitPoints {
-    float x[kMaxLitPoints], y[kMaxLitPoints], z[kMaxLitPoints];
-    float nx[kMaxLitPoints], ny[kMaxLitPoints], nz[kMaxLitPoints];
-    float size[kMaxLitPoints];         // as in LitPoint
+    Single x[kMaxLitPoints], y[kMaxLitPoints], z[kMaxLitPoints];
+    Single nx[kMaxLitPoints], ny[kMaxLitPoints], nz[kMaxLitPoints];
+    Single size[kMaxLitPoints];        // as in LitPoint
     std::uint32_t base[kMaxLitPoints]; // 5-6-5
     std::uint32_t lit[kMaxLitPoints];  // the result, a packed pixel
 };

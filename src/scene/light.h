@@ -27,8 +27,8 @@ struct Light {
     std::uint32_t lightColor;
     Vec3 sourcePosition, position; // the working copy is what the lighting uses
     Vec3 sourceDirection, direction;
-    float c0, c1, c2; // attenuation
-    float exponent;   // of the spot cone
+    Single c0, c1, c2; // attenuation
+    Single exponent;   // of the spot cone
 };
 
 constexpr std::uint32_t PackLightColor(std::uint32_t r, std::uint32_t g, std::uint32_t b) {

@@ -62,7 +62,7 @@ void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions
     }
 }
 
-void MeshRotate(Mesh* mesh, float ax, float ay, float az, std::int32_t useCurrent) {
+void MeshRotate(Mesh* mesh, Single ax, Single ay, Single az, std::int32_t useCurrent) {
     // REQUIRED R38: off the whole degrees each turn shrinks the object a little.
     Matrix4 rotation;
     Matrix4RotationXYZ(ax, ay, az, &rotation);

@@ -20,7 +20,7 @@ struct MeshTransformOptions {
 };
 void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions& options);
 // Rotates the stored vertices (degrees, X then Y then Z) and the axes: repeated calls accumulate.
-void MeshRotate(Mesh* mesh, float ax, float ay, float az, std::int32_t useCurrent);
+void MeshRotate(Mesh* mesh, Single ax, Single ay, Single az, std::int32_t useCurrent);
 // IntoTransformed: vertices + position into transformed; any other: transformed += position.
 void MeshTranslate(Mesh* mesh, TransformMode mode, std::int32_t useCurrent);
 // Whether a frame draws the mesh at all: there, to be drawn, and not left out as out of sight.

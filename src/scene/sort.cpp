@@ -9,41 +9,41 @@ namespace ombrel {
 
 namespace {
 
-float AverageDepth(const RenderFace& face) {
+Single AverageDepth(const RenderFace& face) {
     return (face.work[0].z + face.work[1].z + face.work[2].z) * 0.33333F;
 }
 
-float NearestDepth(const RenderFace& face) {
-    const float z0 = face.work[0].z;
-    const float z1 = face.work[1].z;
-    const float z2 = face.work[2].z;
-    const float z = z1 < z0 ? z1 : z0;
+Single NearestDepth(const RenderFace& face) {
+    const Single z0 = face.work[0].z;
+    const Single z1 = face.work[1].z;
+    const Single z2 = face.work[2].z;
+    const Single z = z1 < z0 ? z1 : z0;
     return z2 < z ? z2 : z;
 }
 
-float FarthestDepth(const RenderFace& face) {
-    const float z0 = face.work[0].z;
-    const float z1 = face.work[1].z;
-    const float z2 = face.work[2].z;
-    const float z = z1 > z0 ? z1 : z0;
+Single FarthestDepth(const RenderFace& face) {
+    const Single z0 = face.work[0].z;
+    const Single z1 = face.work[1].z;
+    const Single z2 = face.work[2].z;
+    const Single z = z1 > z0 ? z1 : z0;
     return z2 > z ? z2 : z;
 }
 
 // Deeper comes first. REQUIRED R36: equal depths (and NaN) compare as equal, with no second key.
-int CompareDepths(float a, float b) {
+int CompareDepths(Single a, Single b) {
     return a > b ? -1 : a < b ? 1 : 0;
 }
 
-template <float (*Depth)(const RenderFace&)> int CompareElements(const void* a, const void* b) {
+template <Single (*Depth)(const RenderFace&)> int CompareElements(const void* a, const void* b) {
     return CompareDepths(Depth(**static_cast<const RenderFace* const*>(a)),
                          Depth(**static_cast<const RenderFace* const*>(b)));
 }
 
-template <float (*Depth)(const RenderFace&)>
+template <Single (*Depth)(const RenderFace&)>
 void InsertionSort(RenderFace** first, RenderFace** last) {
     for (RenderFace** i = first + 1; i <= last; ++i) {
         RenderFace* const moved = *i;
-        const float depth = Depth(*moved);
+        const Single depth = Depth(*moved);
         RenderFace** hole = i;
         for (; hole > first && CompareDepths(Depth(*hole[-1]), depth) > 0; --hole) {
             *hole = hole[-1];
@@ -53,19 +53,20 @@ void InsertionSort(RenderFace** first, RenderFace** last) {
 }
 
 // The depth in the middle of three.
-float MiddleOf(float a, float b, float c) {
-    const float low = a < b ? a : b;
-    const float high = a < b ? b : a;
+Single MiddleOf(Single a, Single b, Single c) {
+    const Single low = a < b ? a : b;
+    const Single high = a < b ? b : a;
     return c < low ? low : c > high ? high : c;
 }
 
 // Sorts first..last, both included. Partition about the middle of the first, the central and the
 // last depth, stopping at equal ones from both sides; go into the smaller part, stay with the
 // larger.
-template <float (*Depth)(const RenderFace&)> void QuickSort(RenderFace** first, RenderFace** last) {
+template <Single (*Depth)(const RenderFace&)>
+void QuickSort(RenderFace** first, RenderFace** last) {
     constexpr std::ptrdiff_t kSmall = 12;
     while (last - first > kSmall) {
-        const float pivot =
+        const Single pivot =
             MiddleOf(Depth(**first), Depth(*first[(last - first) / 2]), Depth(**last));
         RenderFace** i = first;
         RenderFace** j = last;

@@ -10,7 +10,7 @@
 namespace ombrel {
 
 constinit std::int32_t trackSegment = 0;
-constinit float trackT = 0.0F;
+constinit Single trackT = 0.0F;
 
 void ResetTrackState() {
     trackSegment = 0;
@@ -22,7 +22,7 @@ namespace {
 constexpr char kLinePattern[] = "%f, %f, %f;\t%f, %f, %f;\t%f, %f, %f;\t%f;\t%f;\n";
 
 // REQUIRED R29: the first three columns are stored in reverse.
-void StoreKey(Camera* key, const float columns[kTrackColumns]) {
+void StoreKey(Camera* key, const Single columns[kTrackColumns]) {
     key->keyBias = columns[0];
     key->keyContinuity = columns[1];
     key->tension = columns[2];
@@ -34,25 +34,25 @@ void StoreKey(Camera* key, const float columns[kTrackColumns]) {
 
 // Hermite basis at one place of a segment, and the shape of its tangents.
 struct Spline {
-    float u, u2, u3;
-    float bias, continuity, tension;
+    Single u, u2, u3;
+    Single bias, continuity, tension;
 };
 
 // From p1 to p2. REQUIRED R30: both tangents come from the two differences about p1; the key behind
 // p2 has no say.
-float Interpolate(const Spline& s, float p0, float p1, float p2) {
-    const float d0 = (p1 - p0) * (1.0F + s.bias);
-    const float d1 = (p2 - p1) * (1.0F - s.bias) - d0;
-    const float g = 1.0F - s.tension;
-    const float m0 = ((1.0F + s.continuity) * d1 * 0.5F + d0) * g;
-    const float m1 = ((1.0F - s.continuity) * d1 * 0.5F + d0) * g;
+Single Interpolate(const Spline& s, Single p0, Single p1, Single p2) {
+    const Single d0 = (p1 - p0) * (1.0F + s.bias);
+    const Single d1 = (p2 - p1) * (1.0F - s.bias) - d0;
+    const Single g = 1.0F - s.tension;
+    const Single m0 = ((1.0F + s.continuity) * d1 * 0.5F + d0) * g;
+    const Single m1 = ((1.0F - s.continuity) * d1 * 0.5F + d0) * g;
     return (s.u3 - 2.0F * s.u2 + s.u) * m0 + (s.u3 - s.u2) * m1 +
            (2.0F * s.u3 - 3.0F * s.u2 + 1.0F) * p1 + (3.0F - 2.0F * s.u) * s.u * s.u * p2;
 }
 
 } // namespace
 
-std::int32_t ReadTrackColumns(const char** text, float columns[kTrackColumns]) {
+std::int32_t ReadTrackColumns(const char** text, Single columns[kTrackColumns]) {
     std::int32_t read = 0;
     const char* p = *text;
     if (*SkipBlanks(p) == '\0') {
@@ -84,7 +84,7 @@ std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
     const std::string text = ReadDataFile(path, kMaxTrackFile); // a zero byte in it ends the text
     const char* p = text.c_str();
     // REQUIRED R39: columns that a read does not reach keep what the read before left in them.
-    float columns[kTrackColumns] = {};
+    Single columns[kTrackColumns] = {};
     std::int32_t count = 0;
     while (count < capacity) {
         const char* const start = p;
@@ -117,8 +117,8 @@ std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count)
     const Camera& k0 = keys[trackSegment];
     const Camera& k1 = keys[trackSegment + 1];
     const Camera& k2 = keys[trackSegment + 2];
-    const float u = trackT;
-    const float u2 = u * u;
+    const Single u = trackT;
+    const Single u2 = u * u;
     const Spline spline = {u, u2, u2 * u, k1.keyBias, k1.keyContinuity, k1.tension};
     camera->position.x = Interpolate(spline, k0.position.x, k1.position.x, k2.position.x);
     camera->position.y = Interpolate(spline, k0.position.y, k1.position.y, k2.position.y);

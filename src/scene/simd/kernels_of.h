@@ -10,8 +10,8 @@ namespace ombrel {
 template <class L>
 static void PlaceSome(const Vertex* from, const Vec3& shift, const CameraView& view,
                       PlacedVertex* to) {
-    constexpr std::ptrdiff_t kVertexWords = sizeof(Vertex) / sizeof(float);
-    constexpr std::ptrdiff_t kPlacedWords = sizeof(PlacedVertex) / sizeof(float);
+    constexpr std::ptrdiff_t kVertexWords = sizeof(Vertex) / sizeof(Single);
+    constexpr std::ptrdiff_t kPlacedWords = sizeof(PlacedVertex) / sizeof(Single);
     using Floats = typename L::Floats;
     using Ints = typename L::Ints;
 
@@ -45,7 +45,7 @@ static void LightPoints(LitPoints* points, std::int32_t count, const LightTable&
                         bool fiveBitGreen) {
     using Floats = typename L::Floats;
     using Ints = typename L::Ints;
-    const auto load = [](const float* from) { return L::template Load<Floats>(from); };
+    const auto load = [](const Single* from) { return L::template Load<Floats>(from); };
     for (std::int32_t i = 0; i < count; i += L::kLanes) {
         const LitPoint<L> point = {
             {load(points->x + i), load(points->y + i), load(points->z + i)},
