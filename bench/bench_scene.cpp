@@ -78,7 +78,7 @@ void MakeScene() {
     MakeFaceLights(scene.lights);
 }
 
-// The pipeline in its order; a benchmark starts behind the steps named by its stage.
+// The pipeline in its order; a benchmark starts after the steps that its stage names.
 enum Stage { Added, Culled, Lit, Seen, Clipped, Projected };
 void RunUpTo(Stage stage) {
     FaceListClear(&list);

@@ -27,12 +27,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const ScopedFloatMode chop(FloatMode::Chop);
     const InputLimits limits;
     const MemoryFile file(data, size);
-    std::vector<Camera> keys(kCapacity);
+    std::vector<TrackKey> keys(kCapacity);
     ResetTrackState();
     const std::int32_t count = TrackLoad(file.Path().c_str(), keys.data(), kCapacity);
     Require(count >= 0 && count <= kCapacity);
     for (std::int32_t i = count; i < kCapacity; ++i) {
-        Require(keys[static_cast<std::size_t>(i)].key.step == 0.0F); // not written
+        Require(keys[static_cast<std::size_t>(i)].step == 0.0F); // not written
     }
 
     Camera camera{};

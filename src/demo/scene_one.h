@@ -18,7 +18,7 @@ struct SceneOneState {
     std::int32_t gridSize; // of the field of ground tiles: 8 inside the box, 6 outside
     float ambientFade[3];  // red, green, blue of light 0, from 0
     float lightFade[3];    // of light 1
-    Camera keys[kMaxTrackKeys];
+    TrackKey keys[kMaxTrackKeys];
     std::int32_t keyCount;
 };
 extern SceneOneState sceneOne;

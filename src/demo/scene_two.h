@@ -46,7 +46,7 @@ struct SceneTwoState {
     BlockState block;
     GreetingColumn columns[kGreetingColumns];
     ScrollerState scroller;
-    Camera keys[kMaxTrackKeys];
+    TrackKey keys[kMaxTrackKeys];
     std::int32_t keyCount;
 };
 extern SceneTwoState sceneTwo;

@@ -8,27 +8,11 @@
 
 namespace ombrel {
 
-// The live camera; a track key is a whole camera record too, some of whose slots then hold the
-// spline's values (see TrackKey... below).
 struct Camera {
-    union {
-        std::int32_t mode; // 8 in the live camera
-        Single tension;    // in a track key
-    };
-    Single keyContinuity; // in a track key only
-    Single keyBias;       // in a track key only
+    std::int32_t mode; // 8
     Vec3 position;
     Vec3 angles;
-    union {
-        Vec3 right; // basis of the live camera
-        struct {
-            Single
-                step;   // of a track key: added to the segment parameter per frame; <= 0 means 0.02
-            Single fov; // of a track key, degrees
-        } key;
-    };
-    Vec3 up;
-    Vec3 forward;
+    Vec3 right, up, forward; // basis
     Vec3 target;
     Single tanHalfFov;
     Single fov; // degrees; a larger value magnifies, 90 is a half angle of 45
@@ -41,6 +25,14 @@ struct Camera {
     Single aspect;
     Matrix4 view; // world to camera
     Matrix4 matrixB, matrixC;
+};
+
+// A place on a camera track, and the shape of the spline that starts there.
+struct TrackKey {
+    Single keyBias, keyContinuity, tension;
+    Vec3 position, angles;
+    Single fov;  // degrees
+    Single step; // added to the segment parameter per frame; <= 0 means 0.02
 };
 
 struct CameraSetup {
@@ -71,9 +63,9 @@ void ResetTrackState();
 // Reads at most capacity keys; 0 for a missing file. A line that matches in part still makes a key
 // (its other columns keep the values of the line before); the reading ends with the text, or where
 // nothing of it can be taken in.
-std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity);
+std::int32_t TrackLoad(const char* path, TrackKey* keys, std::int32_t capacity);
 
-// One key of a track's text: reads from *text on and moves it behind what matched. Returns how many
+// One key of a track's text: reads from *text on and moves it past what matched. Returns how many
 // of the eleven columns were read; the others are left alone. 0: no number stands there, though a
 // sign, a point or an exponent without digits is taken in. Where nothing is, or only blanks are
 // left, *text stays.
@@ -83,6 +75,6 @@ std::int32_t ReadTrackColumns(const char** text, Single columns[kTrackColumns]);
 
 // Writes the sampled values into the camera, steps on, returns the segment just sampled. With fewer
 // than 3 keys the camera and trackT stay as they are, the segment becomes 0 and 0 is returned.
-std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count);
+std::int32_t TrackSample(Camera* camera, const TrackKey* keys, std::int32_t count);
 
 } // namespace ombrel

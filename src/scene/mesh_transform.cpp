@@ -41,19 +41,14 @@ void TransformVertices(const Vertex* from, Vertex* to, std::int32_t count, const
 
 void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions& options) {
     const VertexArrays arrays = ChooseArrays(*mesh, options.useCurrent);
-    switch (options.mode) {
-    case TransformMode::InPlace:
-        TransformVertices(arrays.original, arrays.original, arrays.count, matrix);
-        break;
-    case TransformMode::TransformedInPlace:
-        TransformVertices(arrays.transformed, arrays.transformed, arrays.count, matrix);
-        break;
-    case TransformMode::IntoTransformed:
-        TransformVertices(arrays.original, arrays.transformed, arrays.count, matrix);
-        break;
-    default:
+    const TransformMode mode = options.mode;
+    if (mode < TransformMode::InPlace || mode > TransformMode::IntoTransformed) {
         return;
     }
+    TransformVertices(mode == TransformMode::TransformedInPlace ? arrays.transformed
+                                                                : arrays.original,
+                      mode == TransformMode::InPlace ? arrays.original : arrays.transformed,
+                      arrays.count, matrix);
     if (options.withAxes != 0) {
         for (Vec3& axis : mesh->axes) {
             const Vec3 before = axis;
@@ -71,20 +66,12 @@ void MeshRotate(Mesh* mesh, Single ax, Single ay, Single az, std::int32_t useCur
 
 void MeshTranslate(Mesh* mesh, TransformMode mode, std::int32_t useCurrent) {
     const VertexArrays arrays = ChooseArrays(*mesh, useCurrent);
-    const Vec3& shift = mesh->position;
-    if (mode != TransformMode::IntoTransformed) {
-        for (std::int32_t i = 0; i < arrays.count; ++i) {
-            Vertex& v = arrays.transformed[i];
-            v.x += shift.x;
-            v.y += shift.y;
-            v.z += shift.z;
-        }
-        return;
-    }
+    const bool inPlace = mode != TransformMode::IntoTransformed;
     for (std::int32_t i = 0; i < arrays.count; ++i) {
-        const Vertex& from = arrays.original[i];
         Vertex& to = arrays.transformed[i];
-        SetPosition(&to, {from.x + shift.x, from.y + shift.y, from.z + shift.z, 1.0F});
+        const Vertex& from = inPlace ? to : arrays.original[i];
+        const auto moved = Sum(from, mesh->position);
+        SetPosition(&to, {moved.x, moved.y, moved.z, inPlace ? to.w : 1.0F});
         SetNormal(&to, NormalOf(from));
     }
 }

@@ -1,6 +1,7 @@
 // Back to front: the face list's pointers by the depth of their faces. Records stay where they are.
 // The quick sort is our own, because the C library's differs from system to system where depths are
 // equal, and the order of equal depths shows.
+#include <algorithm>
 #include <cstddef>
 
 #include "scene/pipeline.h"
@@ -14,19 +15,11 @@ Single AverageDepth(const RenderFace& face) {
 }
 
 Single NearestDepth(const RenderFace& face) {
-    const Single z0 = face.work[0].z;
-    const Single z1 = face.work[1].z;
-    const Single z2 = face.work[2].z;
-    const Single z = z1 < z0 ? z1 : z0;
-    return z2 < z ? z2 : z;
+    return std::min(std::min(face.work[0].z, face.work[1].z), face.work[2].z);
 }
 
 Single FarthestDepth(const RenderFace& face) {
-    const Single z0 = face.work[0].z;
-    const Single z1 = face.work[1].z;
-    const Single z2 = face.work[2].z;
-    const Single z = z1 > z0 ? z1 : z0;
-    return z2 > z ? z2 : z;
+    return std::max(std::max(face.work[0].z, face.work[1].z), face.work[2].z);
 }
 
 // Deeper comes first. REQUIRED R36: equal depths (and NaN) compare as equal, with no second key.
@@ -107,23 +100,11 @@ int CompareFaceFarthestDepth(const void* a, const void* b) {
 }
 
 void SortFaces(FaceList* list, std::int32_t sortMode) {
-    if (list->count < 2) {
-        return;
-    }
-    RenderFace** const first = list->pointers;
-    RenderFace** const last = first + list->count - 1;
-    switch (sortMode) {
-    case 0:
-        QuickSort<AverageDepth>(first, last);
-        break;
-    case 1:
-        QuickSort<NearestDepth>(first, last);
-        break;
-    case 2:
-        QuickSort<FarthestDepth>(first, last);
-        break;
-    default:
-        break;
+    using Sort = void (*)(RenderFace**, RenderFace**);
+    constexpr Sort kSorts[] = {QuickSort<AverageDepth>, QuickSort<NearestDepth>,
+                               QuickSort<FarthestDepth>};
+    if (list->count >= 2 && sortMode >= 0 && sortMode < 3) {
+        kSorts[sortMode](list->pointers, list->pointers + list->count - 1);
     }
 }
 

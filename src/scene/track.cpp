@@ -22,14 +22,14 @@ namespace {
 constexpr char kLinePattern[] = "%f, %f, %f;\t%f, %f, %f;\t%f, %f, %f;\t%f;\t%f;\n";
 
 // REQUIRED R29: the first three columns are stored in reverse.
-void StoreKey(Camera* key, const Single columns[kTrackColumns]) {
+void StoreKey(TrackKey* key, const Single columns[kTrackColumns]) {
     key->keyBias = columns[0];
     key->keyContinuity = columns[1];
     key->tension = columns[2];
     key->position = {columns[3], columns[4], columns[5], 1.0F};
     key->angles = {columns[6], columns[7], columns[8], 1.0F};
-    key->key.fov = columns[9];
-    key->key.step = columns[10];
+    key->fov = columns[9];
+    key->step = columns[10];
 }
 
 // Hermite basis at one place of a segment, and the shape of its tangents.
@@ -38,8 +38,8 @@ struct Spline {
     Single bias, continuity, tension;
 };
 
-// From p1 to p2. REQUIRED R30: both tangents come from the two differences about p1; the key behind
-// p2 has no say.
+// From p1 to p2. REQUIRED R30: both tangents come from the two differences about p1; the key after
+// p2 has no influence.
 Single Interpolate(const Spline& s, Single p0, Single p1, Single p2) {
     const Single d0 = (p1 - p0) * (1.0F + s.bias);
     const Single d1 = (p2 - p1) * (1.0F - s.bias) - d0;
@@ -80,7 +80,7 @@ std::int32_t ReadTrackColumns(const char** text, Single columns[kTrackColumns]) 
     return read;
 }
 
-std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
+std::int32_t TrackLoad(const char* path, TrackKey* keys, std::int32_t capacity) {
     const std::string text = ReadDataFile(path, kMaxTrackFile); // a zero byte in it ends the text
     const char* p = text.c_str();
     // REQUIRED R39: columns that a read does not reach keep what the read before left in them.
@@ -98,7 +98,7 @@ std::int32_t TrackLoad(const char* path, Camera* keys, std::int32_t capacity) {
     return count;
 }
 
-std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count) {
+std::int32_t TrackSample(Camera* camera, const TrackKey* keys, std::int32_t count) {
     if (count < 3) {
         trackSegment = 0;
         return trackSegment;
@@ -114,9 +114,9 @@ std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count)
     }
 
     // Interpolate position, angles and field of view.
-    const Camera& k0 = keys[trackSegment];
-    const Camera& k1 = keys[trackSegment + 1];
-    const Camera& k2 = keys[trackSegment + 2];
+    const TrackKey& k0 = keys[trackSegment];
+    const TrackKey& k1 = keys[trackSegment + 1];
+    const TrackKey& k2 = keys[trackSegment + 2];
     const Single u = trackT;
     const Single u2 = u * u;
     const Spline spline = {u, u2, u2 * u, k1.keyBias, k1.keyContinuity, k1.tension};
@@ -126,10 +126,10 @@ std::int32_t TrackSample(Camera* camera, const Camera* keys, std::int32_t count)
     camera->angles.x = Interpolate(spline, k0.angles.x, k1.angles.x, k2.angles.x);
     camera->angles.y = Interpolate(spline, k0.angles.y, k1.angles.y, k2.angles.y);
     camera->angles.z = Interpolate(spline, k0.angles.z, k1.angles.z, k2.angles.z);
-    CameraSetFov(camera, Interpolate(spline, k0.key.fov, k1.key.fov, k2.key.fov));
+    CameraSetFov(camera, Interpolate(spline, k0.fov, k1.fov, k2.fov));
 
     // Step on.
-    trackT += k1.key.step > 0.0F ? k1.key.step : 0.02F;
+    trackT += k1.step > 0.0F ? k1.step : 0.02F;
     return trackSegment;
 }
 

@@ -102,7 +102,7 @@ TEST_F(HandOver, FramesOfASegment) {
                 {"0.0201", 50},      {"0.0101", 100}, {"0.00501", 200}};
     for (const auto& row : rows) {
         Start(TrackOfSteps(std::vector<const char*>(5, row.step)), "");
-        Camera keys[5];
+        TrackKey keys[5];
         ASSERT_EQ(TrackLoad("./data/cam/scene1.trk", keys, 5), 5);
         std::int64_t frames = 0;
         while (TrackSample(&world.camera, keys, 5) == 0) {

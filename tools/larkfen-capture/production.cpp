@@ -61,7 +61,7 @@ std::int64_t FramesOfProduction() {
     if (count >= kNeededKeys) {
         const ombrel::ScopedFloatMode asPlayed(ombrel::FloatMode::Chop);
         for (std::int32_t i = 1; i <= 32; ++i) {
-            frames += FramesOfSegment(ombrel::sceneOne.keys[i].key.step);
+            frames += FramesOfSegment(ombrel::sceneOne.keys[i].step);
         }
         frames += kSceneTwoFrames;
     }

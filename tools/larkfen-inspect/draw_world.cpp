@@ -259,7 +259,7 @@ Vec3 AheadOf(const Camera& camera) {
     return {SinDeg(right) * CosDeg(down), -SinDeg(down), CosDeg(right) * CosDeg(down), 1.0F};
 }
 
-void PaintFlight(const Stage& stage, const std::vector<Camera>& keys, Pixel16 color) {
+void PaintFlight(const Stage& stage, const std::vector<TrackKey>& keys, Pixel16 color) {
     constexpr std::size_t kEvery = 64; // frames from one look to the next
     constexpr float kLook = 220.0F;
     Sheet* const sheet = stage.sheet;
@@ -291,7 +291,7 @@ void PaintFlight(const Stage& stage, const std::vector<Camera>& keys, Pixel16 co
 }
 
 // How far from the middle of a map a flight gets, as seen from above; not more than a map can show.
-float ReachOnMap(const std::vector<Camera>& keys) {
+float ReachOnMap(const std::vector<TrackKey>& keys) {
     constexpr float kMargin = 300.0F, kMost = 60000.0F;
     float reach = 0.0F;
     for (const Camera& at : FlightOf(keys, 20000)) {
@@ -346,7 +346,7 @@ bool DrawMap(const MapRequest& request, Sheet* sheet, std::string* why) {
     LoadWorld(request.listPath);
     *sheet = MakeSheet(kMap + kLegend, kMap);
     PaintChecks(sheet, {0, 0, kMap, kMap});
-    std::vector<Camera> keys[2];
+    std::vector<TrackKey> keys[2];
     for (int i = 0; i < 2; ++i) {
         keys[i] = request.trackPaths[i].empty() ? keys[i] : KeysOf(request.trackPaths[i]);
     }

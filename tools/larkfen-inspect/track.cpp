@@ -95,31 +95,30 @@ void ReadKeys(const TrackText& t) {
     }
 }
 
-bool IsFinite(const Camera& key) {
+bool IsFinite(const TrackKey& key) {
     const float values[] = {key.keyBias,    key.keyContinuity, key.tension,  key.position.x,
                             key.position.y, key.position.z,    key.angles.x, key.angles.y,
-                            key.angles.z,   key.key.fov,       key.key.step};
+                            key.angles.z,   key.fov,           key.step};
     return std::all_of(std::begin(values), std::end(values),
                        [](float value) { return std::isfinite(value); });
 }
 
-float LargestTurn(const Camera& a, const Camera& b) {
+float LargestTurn(const TrackKey& a, const TrackKey& b) {
     return std::max({std::fabs(b.angles.x - a.angles.x), std::fabs(b.angles.y - a.angles.y),
                      std::fabs(b.angles.z - a.angles.z)});
 }
 
-void CheckKey(const TrackText& t, const std::vector<Camera>& keys, std::size_t i) {
-    const Camera& key = keys[i];
+void CheckKey(const TrackText& t, const std::vector<TrackKey>& keys, std::size_t i) {
+    const TrackKey& key = keys[i];
     const std::int64_t line = (*t.keys)[i].line;
     if (!IsFinite(key)) {
         Warn(t.report, line, "infinite",
              {Format("key %zu has a number beyond the range of singles", i),
               "nothing is drawn near it", "write a smaller number"});
     }
-    if (!(key.key.fov > 0.0F && key.key.fov < 180.0F)) {
+    if (!(key.fov > 0.0F && key.fov < 180.0F)) {
         Warn(t.report, line, "field of view",
-             {Format("key %zu has a field of view of %g degrees", i,
-                     static_cast<double>(key.key.fov)),
+             {Format("key %zu has a field of view of %g degrees", i, static_cast<double>(key.fov)),
               "the picture turns inside out or vanishes",
               "write a number between 0 and 180; 90 is usual, more magnifies"});
     }
@@ -130,17 +129,17 @@ void CheckKey(const TrackText& t, const std::vector<Camera>& keys, std::size_t i
               "angles are interpolated as numbers: the camera turns the long way round",
               "write 350, 370 and not 350, 10"});
     }
-    if (FramesOfSegment(key.key.step) >= kEndless) {
+    if (FramesOfSegment(key.step) >= kEndless) {
         Warn(t.report, line, "endless",
-             {Format("key %zu has a step of %g", i, static_cast<double>(key.key.step)),
+             {Format("key %zu has a step of %g", i, static_cast<double>(key.step)),
               "its segment does not end", "write 0.015625 for 64 frames"});
     }
 }
 
-std::int64_t FramesOf(const std::vector<Camera>& keys) {
+std::int64_t FramesOf(const std::vector<TrackKey>& keys) {
     std::int64_t frames = 0;
     for (std::size_t i = 1; i + 1 < keys.size(); ++i) {
-        frames += FramesOfSegment(keys[i].key.step);
+        frames += FramesOfSegment(keys[i].step);
     }
     return frames;
 }
@@ -149,7 +148,7 @@ bool IsNamed(const std::string& path, const char* name) {
     return std::filesystem::path(path).filename() == name;
 }
 
-void CheckSceneOne(const TrackText& t, const std::vector<Camera>& keys) {
+void CheckSceneOne(const TrackText& t, const std::vector<TrackKey>& keys) {
     const std::size_t count = keys.size();
     if (count < kNeededKeys) {
         Refuse(t.report, t.keys->back().line, nullptr,
@@ -162,17 +161,17 @@ void CheckSceneOne(const TrackText& t, const std::vector<Camera>& keys) {
              {Format("%zu keys, %d are used", count, kUsefulKeys),
               "the scene is over before this one", "remove it"});
     }
-    if (keys[kHandOverKey].key.step < 1.0F) {
+    if (keys[kHandOverKey].step < 1.0F) {
         Warn(t.report, (*t.keys)[kHandOverKey].line, nullptr,
              {Format("key %zu has a step of %g", kHandOverKey,
-                     static_cast<double>(keys[kHandOverKey].key.step)),
+                     static_cast<double>(keys[kHandOverKey].step)),
               "the second scene begins that far on its own track, and with 35 keys there skips 32 "
               "segments",
               "write 1.0"});
     }
 }
 
-void CheckSceneTwo(const TrackText& t, const std::vector<Camera>& keys) {
+void CheckSceneTwo(const TrackText& t, const std::vector<TrackKey>& keys) {
     if (keys.size() > kUsefulKeys) {
         Warn(t.report, (*t.keys)[kUsefulKeys].line, nullptr,
              {Format("%zu keys in the second scene, %d may be", keys.size(), kUsefulKeys),
@@ -187,13 +186,13 @@ void CheckSceneTwo(const TrackText& t, const std::vector<Camera>& keys) {
     }
 }
 
-std::string SegmentText(const std::vector<Camera>& keys) {
+std::string SegmentText(const std::vector<TrackKey>& keys) {
     std::string text;
     std::size_t i = 1;
     while (i + 1 < keys.size()) {
-        const std::int64_t frames = FramesOfSegment(keys[i].key.step);
+        const std::int64_t frames = FramesOfSegment(keys[i].step);
         std::size_t run = 1;
-        while (i + run + 1 < keys.size() && FramesOfSegment(keys[i + run].key.step) == frames) {
+        while (i + run + 1 < keys.size() && FramesOfSegment(keys[i + run].step) == frames) {
             ++run;
         }
         text += text.empty() ? "" : ", ";
@@ -204,7 +203,7 @@ std::string SegmentText(const std::vector<Camera>& keys) {
     return text;
 }
 
-void FlightRows(const std::vector<Camera>& keys, Report* report) {
+void FlightRows(const std::vector<TrackKey>& keys, Report* report) {
     const std::vector<Camera> flight = FlightOf(keys, 20000);
     Vec3 low = flight[0].position;
     Vec3 high = low;
@@ -250,25 +249,25 @@ std::int64_t FramesOfSegment(float step) {
     return frames;
 }
 
-std::int64_t FramesOfSceneOne(const std::vector<Camera>& keys) {
+std::int64_t FramesOfSceneOne(const std::vector<TrackKey>& keys) {
     if (keys.size() < kNeededKeys) {
         return 0;
     }
     std::int64_t frames = 1;
     for (std::size_t i = 1; i <= 32; ++i) {
-        frames += FramesOfSegment(keys[i].key.step);
+        frames += FramesOfSegment(keys[i].step);
     }
     return frames;
 }
 
-std::vector<Camera> KeysOf(const std::string& path) {
-    std::vector<Camera> keys(static_cast<std::size_t>(kMaxTrackKeys));
+std::vector<TrackKey> KeysOf(const std::string& path) {
+    std::vector<TrackKey> keys(static_cast<std::size_t>(kMaxTrackKeys));
     const std::int32_t count = TrackLoad(path.c_str(), keys.data(), kMaxTrackKeys);
     keys.resize(static_cast<std::size_t>(count));
     return keys;
 }
 
-std::vector<Camera> FlightOf(const std::vector<Camera>& keys, std::size_t limit) {
+std::vector<Camera> FlightOf(const std::vector<TrackKey>& keys, std::size_t limit) {
     const ScopedFloatMode asPlayed(FloatMode::Chop);
     std::vector<Camera> flight;
     Camera camera{};
@@ -311,7 +310,7 @@ void InspectTrack(const std::string& path, Report* report) {
     LineCounter lines(file.text);
     const TrackText t{file.text, &lines, report, &texts};
     ReadKeys(t);
-    const std::vector<Camera> keys = KeysOf(path);
+    const std::vector<TrackKey> keys = KeysOf(path);
     if (keys.size() != texts.size()) {
         Refuse(
             report, 1, nullptr,

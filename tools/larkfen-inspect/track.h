@@ -15,13 +15,13 @@ inline constexpr std::int64_t kEndless = 1000000;
 std::int64_t FramesOfSegment(float step);
 
 // Frames of the first scene with these keys; 0 when it never hands over.
-std::int64_t FramesOfSceneOne(const std::vector<ombrel::Camera>& keys);
+std::int64_t FramesOfSceneOne(const std::vector<ombrel::TrackKey>& keys);
 inline constexpr std::int64_t kSceneTwoFrames = 3968; // calls of the second scene
 
 // The keys as the production has them; empty when there are none.
-std::vector<ombrel::Camera> KeysOf(const std::string& path);
+std::vector<ombrel::TrackKey> KeysOf(const std::string& path);
 // The camera in every frame until the track starts again, at most limit.
-std::vector<ombrel::Camera> FlightOf(const std::vector<ombrel::Camera>& keys, std::size_t limit);
+std::vector<ombrel::Camera> FlightOf(const std::vector<ombrel::TrackKey>& keys, std::size_t limit);
 
 void InspectTrack(const std::string& path, Report* report);
 

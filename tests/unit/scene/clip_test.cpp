@@ -1,4 +1,4 @@
-// The view volume and the scissors.
+// The view volume and the cut.
 #include <cmath>
 #include <cstring>
 #include <limits>

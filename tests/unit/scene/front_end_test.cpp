@@ -366,7 +366,7 @@ TEST_P(FrontEndOfPath, SumsBelowZeroCountWithoutSign) {
     }
 }
 
-// 65,536 faces fill the list; what comes later, left-overs of cuts too, finds no place.
+// 65,536 faces fill the list; what comes later is dropped, also what cuts leave over.
 TEST_P(FrontEndOfPath, FullListDropsTheSameFaces) {
     const ScopedFloatMode chop(FloatMode::Chop);
     Numbers n{99};

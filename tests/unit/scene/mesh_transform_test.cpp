@@ -70,7 +70,7 @@ TEST_F(MeshMoves, Mode0MultipliesTheVerticesInPlace) {
     MeshTransform(&mesh_, &kMatrix, {TransformMode::InPlace, 0, 0});
     ExpectAt(vertices_[0], 104.0F, 201.0F, 309.0F, 1.0F);
     ExpectAt(vertices_[1], 106.0F, 202.0F, 312.0F, 1.0F);
-    ExpectAt(vertices_[2], 3.0F, 4.0F, 5.0F, 1.0F); // behind vertexCount
+    ExpectAt(vertices_[2], 3.0F, 4.0F, 5.0F, 1.0F); // beyond vertexCount
     ExpectAt(transformed_[0], 0.0F, 0.0F, 0.0F, 0.0F);
     EXPECT_EQ(mesh_.axes[0].x, 1.0F);
 }

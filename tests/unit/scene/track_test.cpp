@@ -31,32 +31,32 @@ protected:
         EXPECT_NE(file, nullptr);
         EXPECT_EQ(std::fwrite(text.data(), 1, text.size(), file), text.size());
         std::fclose(file);
-        keys_.assign(static_cast<std::size_t>(capacity) + 1, Camera{});
-        keys_.back().keyBias = 4711.0F; // a guard behind the capacity
+        keys_.assign(static_cast<std::size_t>(capacity) + 1, TrackKey{});
+        keys_.back().keyBias = 4711.0F; // a guard after the last key
         const std::int32_t count = TrackLoad(path_.c_str(), keys_.data(), capacity);
         EXPECT_EQ(keys_.back().keyBias, 4711.0F);
         return count;
     }
 
     std::string path_;
-    std::vector<Camera> keys_;
+    std::vector<TrackKey> keys_;
 };
 
 // Keys at the given places along x, y = 10 x, angles y = 100 x, fov 90 + x.
-std::vector<Camera> KeysAt(std::initializer_list<float> places, float step) {
-    std::vector<Camera> keys;
+std::vector<TrackKey> KeysAt(std::initializer_list<float> places, float step) {
+    std::vector<TrackKey> keys;
     for (const float x : places) {
-        Camera key = {};
+        TrackKey key = {};
         key.position = {x, 10.0F * x, 0.0F, 1.0F};
         key.angles = {0.0F, 100.0F * x, 0.0F, 1.0F};
-        key.key.fov = 90.0F + x;
-        key.key.step = step;
+        key.fov = 90.0F + x;
+        key.step = step;
         keys.push_back(key);
     }
     return keys;
 }
 
-std::int32_t Sample(Camera* camera, const std::vector<Camera>& keys) {
+std::int32_t Sample(Camera* camera, const std::vector<TrackKey>& keys) {
     return TrackSample(camera, keys.data(), static_cast<std::int32_t>(keys.size()));
 }
 
@@ -64,7 +64,7 @@ std::int32_t Sample(Camera* camera, const std::vector<Camera>& keys) {
 
 TEST_F(Track, R29_FirstThreeColumnsAreStoredInReverse) {
     ASSERT_EQ(Load("1, 2, 3;\t4, 5, 6;\t7, 8, 9;\t10;\t11;\n"), 1);
-    const Camera& key = keys_[0];
+    const TrackKey& key = keys_[0];
     EXPECT_EQ(key.keyBias, 1.0F);
     EXPECT_EQ(key.keyContinuity, 2.0F);
     EXPECT_EQ(key.tension, 3.0F);
@@ -74,8 +74,8 @@ TEST_F(Track, R29_FirstThreeColumnsAreStoredInReverse) {
     EXPECT_EQ(key.angles.x, 7.0F);
     EXPECT_EQ(key.angles.y, 8.0F);
     EXPECT_EQ(key.angles.z, 9.0F);
-    EXPECT_EQ(key.key.fov, 10.0F);
-    EXPECT_EQ(key.key.step, 11.0F);
+    EXPECT_EQ(key.fov, 10.0F);
+    EXPECT_EQ(key.step, 11.0F);
 }
 
 TEST_F(Track, SeveralLinesWithAnyLineEndAndAnyBlanks) {
@@ -86,7 +86,7 @@ TEST_F(Track, SeveralLinesWithAnyLineEndAndAnyBlanks) {
     EXPECT_EQ(keys_[0].position.x, 1.0F);
     EXPECT_EQ(keys_[1].position.x, 2.0F);
     EXPECT_EQ(keys_[2].position.x, 3.0F);
-    EXPECT_EQ(keys_[2].key.step, 0.5F);
+    EXPECT_EQ(keys_[2].step, 0.5F);
 }
 
 TEST_F(Track, NumbersAreTheNearestSinglesInBothModes) {
@@ -98,7 +98,7 @@ TEST_F(Track, NumbersAreTheNearestSinglesInBothModes) {
 }
 
 TEST_F(Track, MissingOrEmptyFileGivesNoKeys) {
-    Camera key = {};
+    TrackKey key = {};
     EXPECT_EQ(TrackLoad("./no/such/track.trk", &key, 1), 0);
     EXPECT_EQ(TrackLoad(testing::TempDir().c_str(), &key, 1), 0); // a folder
     EXPECT_EQ(Load(""), 0);
@@ -112,7 +112,7 @@ TEST_F(Track, R39_HalfALineMakesAKeyWithTheColumnsOfTheOneBefore) {
     EXPECT_EQ(keys_[1].keyBias, 21.0F);
     EXPECT_EQ(keys_[1].position.x, 24.0F);
     EXPECT_EQ(keys_[1].position.y, 5.0F);
-    EXPECT_EQ(keys_[1].key.step, 11.0F);
+    EXPECT_EQ(keys_[1].step, 11.0F);
 }
 
 TEST_F(Track, R39_TheNextKeyBeginsWhereTheHalfLineStopped) {
@@ -139,7 +139,7 @@ TEST_F(Track, R39_SignPointOrExponentWithoutDigitsIsTakenInAndMakesAKey) {
     for (const char* const bad : {"-", "+.", "1e", "2E+"}) {
         ASSERT_EQ(Load(good + bad + "\n" + good), 3) << bad;
         EXPECT_EQ(keys_[1].keyBias, 1.0F) << bad; // as in the key before
-        EXPECT_EQ(keys_[1].key.step, 11.0F) << bad;
+        EXPECT_EQ(keys_[1].step, 11.0F) << bad;
         EXPECT_EQ(keys_[2].keyContinuity, 2.0F) << bad;
     }
     EXPECT_EQ(Load("-"), 1);
@@ -203,10 +203,10 @@ TEST_F(Track, ReadsWhatTheLibrarysScannerReads) {
                 break;
             }
             ASSERT_LT(want, count) << text;
-            const Camera& k = keys_[static_cast<std::size_t>(want)];
+            const TrackKey& k = keys_[static_cast<std::size_t>(want)];
             const float got[11] = {k.keyBias,    k.keyContinuity, k.tension,  k.position.x,
                                    k.position.y, k.position.z,    k.angles.x, k.angles.y,
-                                   k.angles.z,   k.key.fov,       k.key.step};
+                                   k.angles.z,   k.fov,           k.step};
             for (int i = 0; i < 11; ++i) {
                 ASSERT_EQ(got[i], c[i]) << "key " << want << " column " << i << " of " << text;
             }
@@ -263,7 +263,7 @@ TEST_F(Track, R30_WithoutShapeTheTangentIsHalfTheWayFromKeyZeroToKeyTwo) {
     trackT = 0.25F;
     Sample(&camera, keys);
     EXPECT_EQ(camera.position.x, 1.453125F);
-    // The key behind the end has no say.
+    // The key after the end has no influence.
     keys[3].position.x = -1000.0F;
     trackT = 0.25F;
     Sample(&camera, keys);
@@ -316,7 +316,7 @@ TEST_F(Track, AStepOfMinusOneOrZeroAdvancesByTwoHundredths) {
     // The step is that of the second key of the three.
     ResetTrackState();
     auto keys = KeysAt({0.0F, 1.0F, 2.0F}, 0.5F);
-    keys[1].key.step = 0.125F;
+    keys[1].step = 0.125F;
     Sample(&camera, keys);
     EXPECT_EQ(trackT, 0.125F);
 }
