@@ -1,6 +1,5 @@
 // The object model: meshes, vertices, faces, materials. The object loader fills them once; the
-// scene pipeline moves, lights and orders the faces every frame. Field order is fixed: a record is
-// counted in 32-bit words where pointers have 32 bits (checked below).
+// scene pipeline moves, lights and orders the faces every frame.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +26,7 @@ inline constexpr std::uint32_t FACE_LIVE = 0x1;
 inline constexpr std::uint32_t FACE_OUTSIDE = 0x2; // rejected by the view-volume test
 inline constexpr std::uint32_t FACE_BACK = 0x4;    // rejected by the back-face test
 inline constexpr std::uint32_t FACE_LIT = 0x8;     // visited by the lighting pass
-// Face::flags (the dispatcher reads the same bits by its own names)
+// Face::flags (the dispatcher reads the same bits by its own names, in draw_job.h)
 inline constexpr std::uint32_t FACE_TWO_SIDED = 0x1;
 inline constexpr std::uint32_t FACE_TRANSPARENT = 0x2;
 inline constexpr std::uint32_t FACE_FLATCOLOR16 = 0x8;
@@ -38,16 +37,7 @@ inline constexpr std::uint32_t FACE_PHONG = 0x100;
 inline constexpr std::uint32_t FACE_TEXTURED = 0x200;
 inline constexpr std::uint32_t FACE_MIPMAPPED = 0x400;
 inline constexpr std::uint32_t FACE_LOADED = 0x1000;
-// Material::flags
-inline constexpr std::uint32_t MAT_FILTER = 0x2;
-inline constexpr std::uint32_t MAT_CONSTANT = 0x20;
-inline constexpr std::uint32_t MAT_MATTE = 0x40;
-inline constexpr std::uint32_t MAT_PLASTIC = 0x80;
-inline constexpr std::uint32_t MAT_PHONG = 0x100;
-// MAT_TEXTURED is 0x200 here and in the draw job: the same bit.
-inline constexpr std::uint32_t MAT_TEXTURED = 0x200;
 
-// Twelve words.
 struct Vertex {
     Single x, y, z, w;
     Single nx, ny, nz;
@@ -61,14 +51,12 @@ struct TexCoord {
     Single u, v; // texels of the full-size texture
 };
 
-// Seventeen words.
 struct Face {
     std::uint32_t active;
     std::uint32_t flags;
     std::uint32_t color; // low 16 bits: Pixel16; top byte: transparency level 0..7
     std::uint32_t litColors[3];
     TextureSlot texture;
-    std::uint32_t extra;
     Vertex* vertexArray;     // what v0..v2 index: the mesh's vertices, or its transformed ones
     TexCoord* texCoordArray; // what t0..t2 index
     std::int32_t v0, v1, v2;
@@ -77,16 +65,11 @@ struct Face {
 };
 
 struct Mesh {
-    std::uint32_t pipeline0;
-    std::uint32_t pipeline1;
     std::uint32_t state;
     std::uint32_t flags;
-    std::uint32_t pipeline4;
     Single* avgRadius; // copyCount entries: mean distance of the vertices from the object's origin
     Single* maxRadius; // copyCount entries: largest such distance; null means radius 0
-    std::uint32_t pipeline7;
     Vec3 position;
-    Single pipelineRow[4];
     Vec3 axes[3]; // direction vectors that turn with the object; zero after load
     std::int32_t vertexCount;
     std::int32_t copyCount;
@@ -100,10 +83,18 @@ struct Mesh {
     TextureSlot texture;
     std::int32_t faceCount;
     Face* faces;
-    std::uint32_t pipelineTail[4];
 };
 
+// Its MAT_ flags are the shading of the file; those of draw_job.h, which name the bits of a face as
+// the dispatcher reads them, are others.
 struct Material {
+    static constexpr std::uint32_t MAT_FILTER = 0x2;
+    static constexpr std::uint32_t MAT_CONSTANT = 0x20;
+    static constexpr std::uint32_t MAT_MATTE = 0x40;
+    static constexpr std::uint32_t MAT_PLASTIC = 0x80;
+    static constexpr std::uint32_t MAT_PHONG = 0x100;
+    static constexpr std::uint32_t MAT_TEXTURED = 0x200;
+
     std::uint32_t flags;
     std::uint8_t color[4]; // level, blue, green, red
     Single ka, kd, ks, exponent;
@@ -118,10 +109,6 @@ inline constexpr std::int32_t kMaxMeshFaces = 16384;   // likewise
 extern Material materials[kMaxMaterials];
 extern std::int32_t materialBase;
 void ResetMaterials();
-
-static_assert(sizeof(Vertex) == 12 * 4);
-static_assert(sizeof(void*) != 4 || sizeof(Face) == 17 * 4);
-static_assert(sizeof(void*) != 4 || sizeof(Mesh) == 44 * 4);
 
 // Allocates and zeroes the five arrays: vertices and transformed (n * copies), texCoords (3 *
 // faceCapacity), the radii (copies), faces (faceCapacity); points the current arrays at them and

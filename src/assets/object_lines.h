@@ -51,10 +51,10 @@ struct ShadingClass {
     bool          smooth; // lit per vertex: the corners need normals
 };
 inline constexpr ShadingClass kClasses[] = {
-    {"constant", MAT_CONSTANT, FACE_CONSTANT, false},
-    {"matte",    MAT_MATTE,    FACE_MATTE,    false},
-    {"plastic",  MAT_PLASTIC,  FACE_PLASTIC,  true},
-    {"phong",    MAT_PHONG,    FACE_PHONG,    true},
+    {"constant", Material::MAT_CONSTANT, FACE_CONSTANT, false},
+    {"matte",    Material::MAT_MATTE,    FACE_MATTE,    false},
+    {"plastic",  Material::MAT_PLASTIC,  FACE_PLASTIC,  true},
+    {"phong",    Material::MAT_PHONG,    FACE_PHONG,    true},
 };
 // clang-format on
 inline constexpr const ShadingClass& kDefaultClass = kClasses[1];

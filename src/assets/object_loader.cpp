@@ -351,7 +351,7 @@ bool ReadColorShader(Load* load, Material* material) {
             break;
         }
     }
-    material->flags |= MAT_TEXTURED;
+    material->flags |= Material::MAT_TEXTURED;
     if (!Search(reader, kFileName)) {
         return false;
     }
@@ -369,10 +369,10 @@ bool ReadTransparency(LineReader* reader, Material* material) {
     }
     const char* const word = reader->words[2];
     if (std::strcmp(word, "none") == 0) {
-        material->flags &= ~MAT_FILTER;
+        material->flags &= ~Material::MAT_FILTER;
         material->color[0] = 0;
     } else if (std::strcmp(word, "filter") == 0) {
-        material->flags |= MAT_FILTER;
+        material->flags |= Material::MAT_FILTER;
         if (!Search(reader, kFilter)) {
             return false;
         }
@@ -396,7 +396,8 @@ bool ReadReflectance(LineReader* reader, Material* material, std::int32_t k) {
         }
     }
     // REQUIRED R20: "plastic" goes to the record of the block's position, not of its number.
-    Material* const target = flag == MAT_PLASTIC ? &materials[materialBase + k] : material;
+    Material* const target =
+        flag == Material::MAT_PLASTIC ? &materials[materialBase + k] : material;
     target->flags |= flag;
     return true;
 }
@@ -435,7 +436,7 @@ void SetVertexFlags(Mesh* mesh, const Face& face, std::uint32_t flag) {
 // The flags and colour that a face takes from its material.
 void ApplyMaterial(const Load& load, const Material& material, Face* face) {
     Mesh* const mesh = load.mesh;
-    const bool textured = (material.flags & MAT_TEXTURED) != 0;
+    const bool textured = (material.flags & Material::MAT_TEXTURED) != 0;
     const DisplayFormat& format = load.request->format;
     if (format.bitsPerPixel == 16) {
         face->flags |= FACE_FLATCOLOR16;
@@ -464,7 +465,7 @@ void ApplyMaterial(const Load& load, const Material& material, Face* face) {
         face->flags |= chain ? FACE_MIPMAPPED : 0;
         SetVertexFlags(mesh, *face, VERTEX_TEXTURED);
     }
-    if ((material.flags & MAT_FILTER) != 0) {
+    if ((material.flags & Material::MAT_FILTER) != 0) {
         // A level above 7 can only be an alpha that a later block of the same number left here.
         const std::uint32_t level = std::min<std::uint32_t>(material.color[0], 7);
         face->color += level << 24;

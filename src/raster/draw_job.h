@@ -29,6 +29,7 @@ inline constexpr std::uint32_t MAT_TRANSLUCENT = 0x2;
 inline constexpr std::uint32_t MAT_UNLIT = 0x20;
 inline constexpr std::uint32_t MAT_FLAT = 0x40;
 inline constexpr std::uint32_t MAT_GOURAUD = 0x80;
+inline constexpr std::uint32_t MAT_TEXTURED = 0x200;
 inline constexpr std::uint32_t MAT_MIPMAPPED = 0x400;
 
 struct DrawJob {

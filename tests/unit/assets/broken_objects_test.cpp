@@ -268,7 +268,7 @@ TEST_F(BrokenObject, WhatAFailedLoadLeftInTheTableDoesNoHarm) {
     file.materials[0].texture = "/absent.bmp";
     std::string text = file.Text();
     ASSERT_EQ(Load(text.substr(0, text.find("Shader class: transparency"))), 0);
-    EXPECT_EQ(materials[0].flags, MAT_TEXTURED);
+    EXPECT_EQ(materials[0].flags, Material::MAT_TEXTURED);
     OwnedMesh mesh;
     EXPECT_EQ(loadObject(&mesh, Write("3d/n.cob", CobFile{}.Text()).c_str(), PlainRequest()), 1);
     EXPECT_EQ(mesh.faces[0].flags & FACE_TEXTURED, 0U);

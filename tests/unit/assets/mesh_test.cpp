@@ -198,7 +198,7 @@ TEST(SmoothNormals, MoreVerticesThanTheTableHolds) {
 }
 
 TEST(Materials, ResetClearsTheTable) {
-    materials[254].flags = MAT_MATTE;
+    materials[254].flags = Material::MAT_MATTE;
     materials[0].textureName[0] = 'x';
     materialBase = 9;
     ResetMaterials();

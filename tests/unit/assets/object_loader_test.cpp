@@ -90,7 +90,6 @@ TEST_F(ObjectLoader, FillsTheMesh) {
     EXPECT_EQ(face.v1, 2);
     EXPECT_EQ(face.v2, 3);
     EXPECT_EQ(face.size, 1.0F);
-    EXPECT_EQ(face.extra, 0U);
     EXPECT_EQ(face.litColors[0] | face.litColors[1] | face.litColors[2], 0U);
     EXPECT_EQ(face.texture.single, nullptr);
 }
@@ -369,7 +368,7 @@ TEST_F(ObjectLoader, FilterLevels) {
         ResetMaterials();
         ASSERT_EQ(Load(&mesh, file), 1) << c.filter;
         EXPECT_EQ(materials[0].color[0], c.level) << c.filter;
-        EXPECT_EQ(materials[0].flags, MAT_FILTER | MAT_MATTE);
+        EXPECT_EQ(materials[0].flags, Material::MAT_FILTER | Material::MAT_MATTE);
         EXPECT_EQ(mesh.faces[0].color >> 24, static_cast<std::uint32_t>(c.level)) << c.filter;
         EXPECT_EQ(mesh.faces[0].flags & FACE_TRANSPARENT, FACE_TRANSPARENT);
     }
@@ -403,11 +402,12 @@ TEST_F(ObjectLoader, ShadingClasses) {
         const char* word;
         std::uint32_t material, face, vertex;
     };
-    for (const Case& c :
-         {Case{"constant", MAT_CONSTANT, FACE_CONSTANT, 0}, Case{"matte", MAT_MATTE, FACE_MATTE, 0},
-          Case{"plastic", MAT_PLASTIC, FACE_PLASTIC, VERTEX_HAS_NORMAL},
-          Case{"phong", MAT_PHONG, FACE_PHONG, VERTEX_HAS_NORMAL},
-          Case{"metal", MAT_MATTE, FACE_MATTE, 0}, Case{"Plastic", MAT_MATTE, FACE_MATTE, 0}}) {
+    for (const Case& c : {Case{"constant", Material::MAT_CONSTANT, FACE_CONSTANT, 0},
+                          Case{"matte", Material::MAT_MATTE, FACE_MATTE, 0},
+                          Case{"plastic", Material::MAT_PLASTIC, FACE_PLASTIC, VERTEX_HAS_NORMAL},
+                          Case{"phong", Material::MAT_PHONG, FACE_PHONG, VERTEX_HAS_NORMAL},
+                          Case{"metal", Material::MAT_MATTE, FACE_MATTE, 0},
+                          Case{"Plastic", Material::MAT_MATTE, FACE_MATTE, 0}}) {
         CobFile file;
         file.materials[0].shading = c.word;
         OwnedMesh mesh;
@@ -425,8 +425,9 @@ TEST_F(ObjectLoader, ClassesOfOneMaterialInOrder) {
     struct Case {
         std::uint32_t left, face;
     };
-    for (const Case& c : {Case{MAT_CONSTANT, FACE_CONSTANT}, Case{MAT_MATTE, FACE_MATTE},
-                          Case{MAT_PLASTIC, FACE_PLASTIC}, Case{MAT_PHONG, FACE_PHONG}}) {
+    for (const Case& c :
+         {Case{Material::MAT_CONSTANT, FACE_CONSTANT}, Case{Material::MAT_MATTE, FACE_MATTE},
+          Case{Material::MAT_PLASTIC, FACE_PLASTIC}, Case{Material::MAT_PHONG, FACE_PHONG}}) {
         ResetMaterials();
         materials[0].flags = c.left;
         CobFile file;
@@ -450,7 +451,8 @@ TEST_F(ObjectLoader, R20_PlasticGoesToThePlaceNotTheNumber) {
     ASSERT_EQ(Load(&mesh_, file), 1);
     EXPECT_EQ(materials[1].color[3], 255) << "colour by number";
     EXPECT_EQ(materials[0].color[2], 255);
-    EXPECT_EQ(materials[0].flags, MAT_PLASTIC | MAT_CONSTANT) << "plastic by place";
+    EXPECT_EQ(materials[0].flags, Material::MAT_PLASTIC | Material::MAT_CONSTANT)
+        << "plastic by place";
     EXPECT_EQ(materials[1].flags, 0U);
     EXPECT_EQ(mesh_.faces[1].flags & 0x1E0, FACE_MATTE) << "no class at all is matte";
 }
@@ -518,7 +520,7 @@ TEST_F(ObjectLoader, TextureIsLoadedAndFacesAreWhite) {
     EXPECT_EQ(mesh_.faces[0].flags, FACE_TEXTURED | FACE_MATTE | FACE_LOADED | FACE_FLATCOLOR16);
     EXPECT_EQ(mesh_.faces[0].color, 0xFFFFU) << "whatever rgb says";
     EXPECT_EQ(mesh_.vertices[0].vflags, VERTEX_LOADED | VERTEX_TEXTURED);
-    EXPECT_EQ(materials[0].flags, MAT_TEXTURED | MAT_MATTE);
+    EXPECT_EQ(materials[0].flags, Material::MAT_TEXTURED | Material::MAT_MATTE);
     EXPECT_STREQ(materials[0].textureName, " .\\wall.bmp ");
     EXPECT_EQ(loaderImage.pixels, nullptr);
 }
@@ -640,7 +642,7 @@ TEST_F(ObjectLoader, NoTextureWasEverReadMeansWhiteAndUntextured) {
     EXPECT_EQ(mesh_.faces[0].flags, FACE_MATTE | FACE_LOADED | FACE_FLATCOLOR16);
     EXPECT_EQ(mesh_.faces[0].texture.single, nullptr);
     EXPECT_EQ(mesh_.texCoords[2].u, 1.0F) << "not scaled";
-    EXPECT_EQ(materials[0].flags & MAT_TEXTURED, MAT_TEXTURED);
+    EXPECT_EQ(materials[0].flags & Material::MAT_TEXTURED, Material::MAT_TEXTURED);
     OwnedMesh chained;
     ASSERT_EQ(Load(&chained, file, PlainRequest(0, 1)), 1);
     EXPECT_EQ(chained.flags, MESH_LOADED);
