@@ -45,13 +45,13 @@ template <class P> static auto FlatNormal(const P& p0, const P& p1, const P& p2)
     return Cross(Difference(p0, p1), Difference(p0, p2));
 }
 
-// Its back, or its edge.
+// Whether a face shows its back, or its edge.
 template <class P, class E>
 static auto FacesAway(const P& p0, const P& p1, const P& p2, const E& eye) {
     return Dot(FlatNormal(p0, p1, p2), Difference(p0, eye)) <= 0.0F;
 }
 
-// The point in the last column of the matrix counts as 1.
+// A point of the world, whose fourth component is 1.
 template <class P> static auto ToCamera(const P& p, const Matrix4& matrix) {
     const auto& m = matrix.m;
     const auto column = [&](int j) {
