@@ -100,13 +100,16 @@ std::int32_t ReadSceneLine(SceneListText* text, SceneLine* line) {
     return 10;
 }
 
+bool NamesObject(const SceneLine& line) {
+    return std::strchr(line.path, '#') == nullptr && FileExists(line.path);
+}
+
 void LoadSceneList(World* destination, const char* path, const DisplayFormat& format) {
     const std::string content = ReadDataFile(path, kMaxListFile);
     SceneListText text{content.data(), content.data() + content.size()};
     SceneLine line{};
     while (destination->objectCounter < kMaxSceneObjects - 1 && ReadSceneLine(&text, &line) >= 0) {
-        // A "#" anywhere in the path makes the line a comment; its numbers were read all the same.
-        if (std::strchr(line.path, '#') != nullptr || !FileExists(line.path)) {
+        if (!NamesObject(line)) {
             continue;
         }
         LoadSceneObject(&destination->objects[destination->objectCounter + 1], line, format);

@@ -38,6 +38,10 @@ struct SceneListText {
 // Returns how many of the ten values were read (at least 1), or -1 at the end of the text.
 std::int32_t ReadSceneLine(SceneListText* text, SceneLine* line);
 
+// Whether a line that was read names an object to load: a "#" anywhere in the path makes it a
+// comment, though its numbers were read all the same, and a file that does not open is passed over.
+bool NamesObject(const SceneLine& line);
+
 // Loads every object of the list that exists into the entries after world->objectCounter, which
 // then holds the index of the last; ends at the end of the table. The faces of the entry at the
 // counter become two-sided. A missing list loads nothing.

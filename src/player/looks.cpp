@@ -274,11 +274,6 @@ constexpr LookRow kLooks[kLookCount] = {
 };
 // clang-format on
 
-void AfterRedraw(void* user) {
-    auto* const out = static_cast<LookPicture*>(user);
-    CopyPicture(out);
-}
-
 struct Second {
     const LookRow* row;
     LookPicture* out;
@@ -289,7 +284,7 @@ bool DrawSecond(const LookRow& row, LookPicture* out) {
     const Redraw redraw = {[](void* user) { static_cast<Second*>(user)->row->before(nullptr); },
                            [](void* user) {
                                const Second& s = *static_cast<Second*>(user);
-                               AfterRedraw(s.out);
+                               CopyPicture(s.out);
                                if (s.row->over != nullptr) {
                                    s.row->over(s.out);
                                }

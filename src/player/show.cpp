@@ -30,12 +30,11 @@ constinit ShowState show = {};
 // Keeps the state that the next frame starts from, where its number asks for it.
 void KeepSnapshot() {
     const auto number = static_cast<std::size_t>(show.played / show.distance);
-    if (show.played % show.distance != 0 || number < show.snapshots.size()) {
+    if (show.played % show.distance != 0 || number != show.snapshots.size()) {
         return;
     }
     Snapshot snapshot = TakeSnapshot();
-    if (snapshot.bytes == nullptr || number != show.snapshots.size() ||
-        show.held + snapshot.size > show.memory) {
+    if (snapshot.bytes == nullptr || show.held + snapshot.size > show.memory) {
         return;
     }
     show.held += snapshot.size;

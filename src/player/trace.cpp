@@ -2,7 +2,6 @@
 #include "player/trace.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 
 #include "base/data_file.h"
@@ -165,21 +164,6 @@ std::string FileNameOf(const char* path) {
     return slash != nullptr ? slash + 1 : path;
 }
 
-std::string ReadText(const char* path) {
-    std::string text;
-    std::FILE* const file = OpenDataFile(path, "r");
-    if (file == nullptr) {
-        return text;
-    }
-    char block[4096];
-    std::size_t count = 0;
-    while ((count = std::fread(block, 1, sizeof block, file)) > 0 && text.size() < kMaxListFile) {
-        text.append(block, count);
-    }
-    std::fclose(file);
-    return text;
-}
-
 } // namespace
 
 bool TraceFrame(Trace* trace) {
@@ -200,11 +184,11 @@ std::vector<std::string> TraceNames() {
         names.push_back(FileNameOf(object.path));
     }
     // The list once more, by its own reader: what was loaded has a name.
-    const std::string text = ReadText("./data/scene1.po");
+    const std::string text = ReadDataFile("./data/scene1.po", kMaxListFile);
     SceneListText rest = {text.data(), text.data() + text.size()};
     SceneLine line{};
     while (ReadSceneLine(&rest, &line) >= 0) {
-        if (std::strchr(line.path, '#') == nullptr && !FindDataFile(line.path).empty()) {
+        if (NamesObject(line)) {
             names.push_back(FileNameOf(line.path));
         }
     }

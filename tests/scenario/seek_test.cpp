@@ -11,12 +11,11 @@
 #include "app/frame_driver.h"
 #include "app/vector_choice.h"
 #include "base/data_file.h"
-#include "base/hash.h"
 #include "demo/reset.h"
-#include "platform/display.h"
 #include "platform/offscreen/offscreen.h"
 #include "player/show.h"
 #include "scenario/frame_record.h"
+#include "support/back_surface.h"
 
 namespace ombrel {
 namespace {
@@ -24,20 +23,13 @@ namespace {
 constexpr std::size_t kMemory = std::size_t{300} << 20;
 constexpr int kSeeks = 300;
 
-std::uint64_t ShownHash() {
-    LockFrame();
-    const std::uint64_t hash =
-        HashPicture(display.back.pixels, display.back.pitch, display.width, display.height);
-    (void)UnlockFrame();
-    return hash;
-}
-
 // Seconds of a seek; the picture is held to the stored one.
 double SeekAndCompare(std::int32_t frame, const std::vector<FrameLine>& stored) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(SeekShow(frame, nullptr, nullptr), frame);
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    EXPECT_EQ(ShownHash(), stored[static_cast<std::size_t>(frame)].picture) << "frame " << frame;
+    EXPECT_EQ(BackSurfaceHash(), stored[static_cast<std::size_t>(frame)].picture)
+        << "frame " << frame;
     return taken.count();
 }
 

@@ -13,6 +13,7 @@
 #include "base/float_mode.h"
 #include "larkfen-capture/picture.h"
 #include "overlay.h"
+#include "platform/soft/fit_picture.h"
 #include "player/chapters.h"
 #include "player/show.h"
 #include "timedemo.h"
@@ -417,14 +418,13 @@ void OnEvent(Player* p, const SDL_Event& event) {
 
 SDL_Rect PlaceOfPicture(const Player& p) {
     const int width = std::max(p.picture.width, 1), height = std::max(p.picture.height, 1);
-    const int whole = std::min(p.width / width, p.height / height);
-    int w = width * whole, h = height * whole;
-    if (p.stretched || whole < 1) {
-        const double factor =
-            std::min(static_cast<double>(p.width) / width, static_cast<double>(p.height) / height);
-        w = static_cast<int>(width * factor);
-        h = static_cast<int>(height * factor);
+    if (!p.stretched) {
+        const ombrel::Rect fit = ombrel::FitPicture(p.width, p.height, width, height);
+        return {fit.left, fit.top, fit.right - fit.left, fit.bottom - fit.top};
     }
+    const double factor =
+        std::min(static_cast<double>(p.width) / width, static_cast<double>(p.height) / height);
+    const int w = static_cast<int>(width * factor), h = static_cast<int>(height * factor);
     return {(p.width - w) / 2, (p.height - h) / 2, w, h};
 }
 

@@ -7,47 +7,21 @@
 #include <set>
 #include <string>
 
-#include "app/frame_driver.h"
 #include "base/hash.h"
-#include "demo/reset.h"
-#include "platform/display.h"
-#include "platform/offscreen/offscreen.h"
+#include "open_show.h"
 #include "player/show.h"
 #include "player/trace.h"
-#include "support/hand_made_data.h"
+
+#include "support/back_surface.h"
 
 namespace ombrel {
 namespace {
 
-constexpr std::int32_t kWidth = 320, kHeight = 240;
-
-std::uint64_t ShownHash() {
-    LockFrame();
-    const std::uint64_t hash =
-        HashPicture(display.back.pixels, display.back.pitch, display.width, display.height);
-    (void)UnlockFrame();
-    return hash;
-}
 std::uint64_t HashOf(const LookPicture& picture) {
     return HashPicture(picture.pixels.data(), picture.width * 2, picture.width, picture.height);
 }
 
-class Looks : public testing::Test {
-protected:
-    Looks() {
-        ResetWorld();
-        ResetOffscreen();
-        WriteWholeFolder(folder_, "1"); // scene two begins with frame 33
-        EXPECT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0}));
-    }
-    ~Looks() override {
-        CloseShow();
-        ResetOffscreen();
-    }
-
-private:
-    DataFolderForTest folder_;
-};
+using Looks = OpenShowTest;
 
 TEST_F(Looks, HaveNamesThatFindThem) {
     std::set<std::string> names;
@@ -80,19 +54,19 @@ TEST_F(Looks, LeaveNoTrace) {
     std::vector<std::uint64_t> played;
     for (int i = 0; i < kLookCount + 1; ++i) {
         StepShow();
-        played.push_back(ShownHash());
+        played.push_back(BackSurfaceHash());
     }
     SeekShow(59, nullptr, nullptr);
     for (int i = 0; i < kLookCount; ++i) {
         StepShow();
-        ASSERT_EQ(ShownHash(), played[static_cast<std::size_t>(i)]) << "before look " << i;
+        ASSERT_EQ(BackSurfaceHash(), played[static_cast<std::size_t>(i)]) << "before look " << i;
         LookPicture picture;
         ASSERT_TRUE(DrawLook(static_cast<Look>(i), &picture)) << i;
         FindObject(kWidth / 2, kHeight / 2);
-        EXPECT_EQ(ShownHash(), played[static_cast<std::size_t>(i)]) << "after look " << i;
+        EXPECT_EQ(BackSurfaceHash(), played[static_cast<std::size_t>(i)]) << "after look " << i;
     }
     StepShow();
-    EXPECT_EQ(ShownHash(), played.back());
+    EXPECT_EQ(BackSurfaceHash(), played.back());
 }
 
 TEST_F(Looks, NoneIsThePictureAndTheOthersDiffer) {
@@ -101,8 +75,8 @@ TEST_F(Looks, NoneIsThePictureAndTheOthersDiffer) {
     ASSERT_TRUE(DrawLook(Look::None, &picture));
     EXPECT_EQ(picture.width, kWidth);
     EXPECT_EQ(picture.height, kHeight);
-    EXPECT_EQ(HashOf(picture), ShownHash());
-    std::set<std::uint64_t> hashes = {ShownHash()};
+    EXPECT_EQ(HashOf(picture), BackSurfaceHash());
+    std::set<std::uint64_t> hashes = {BackSurfaceHash()};
     for (const Look look : {Look::Wires, Look::Dots, Look::LightsOff, Look::NoBlur, Look::Depth,
                             Look::Overdraw, Look::Fillers, Look::Density, Look::Objects}) {
         ASSERT_TRUE(DrawLook(look, &picture));

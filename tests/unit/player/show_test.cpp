@@ -3,47 +3,18 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <random>
 #include <vector>
 
-#include "app/frame_driver.h"
-#include "base/hash.h"
-#include "demo/reset.h"
-#include "demo/scene_two.h"
-#include "platform/display.h"
-#include "platform/offscreen/offscreen.h"
+#include "open_show.h"
 #include "player/chapters.h"
-#include "support/hand_made_data.h"
+
+#include "support/back_surface.h"
 
 namespace ombrel {
 namespace {
 
-std::uint64_t PictureHash() {
-    LockFrame();
-    const std::uint64_t hash =
-        HashPicture(display.back.pixels, display.back.pitch, display.width, display.height);
-    (void)UnlockFrame();
-    return hash;
-}
-
-// A small world whose production is over after some 4,000 frames.
-class Show : public testing::Test {
-protected:
-    Show() {
-        ResetWorld();
-        ResetOffscreen();
-        WriteWholeFolder(folder_, "1"); // scene two begins with frame 33
-        EXPECT_TRUE(OpenShow({RenderFrame, 320, 240, 0, 0}));
-    }
-    ~Show() override {
-        CloseShow();
-        ResetOffscreen();
-    }
-
-private:
-    DataFolderForTest folder_;
-};
+using Show = OpenShowTest;
 
 TEST(Chapters, AreInOrderAndEveryFrameHasOne) {
     for (std::int32_t i = 1; i < kChapterCount; ++i) {
@@ -67,13 +38,13 @@ TEST_F(Show, SoughtFramesHaveTheirBits) {
     std::vector<std::uint64_t> played;
     for (int i = 0; i < 400; ++i) {
         ASSERT_TRUE(StepShow());
-        played.push_back(PictureHash());
+        played.push_back(BackSurfaceHash());
     }
     std::mt19937 random(7);
     for (int i = 0; i < 60; ++i) {
         const auto frame = static_cast<std::int32_t>(random() % played.size());
         ASSERT_EQ(SeekShow(frame, nullptr, nullptr), frame);
-        ASSERT_EQ(PictureHash(), played[static_cast<std::size_t>(frame)]) << frame;
+        ASSERT_EQ(BackSurfaceHash(), played[static_cast<std::size_t>(frame)]) << frame;
     }
 }
 
@@ -100,20 +71,20 @@ TEST_F(Show, ASeekEndsWhenItIsToldTo) {
 
 TEST_F(Show, ARedrawLeavesNoTrace) {
     SeekShow(30, nullptr, nullptr);
-    const std::uint64_t picture = PictureHash();
+    const std::uint64_t picture = BackSurfaceHash();
     std::uint64_t again[2] = {0, 0};
-    const Redraw redraw = {[](void*) {},
-                           [](void* user) { *static_cast<std::uint64_t*>(user) = PictureHash(); },
-                           again};
+    const Redraw redraw = {
+        [](void*) {}, [](void* user) { *static_cast<std::uint64_t*>(user) = BackSurfaceHash(); },
+        again};
     EXPECT_TRUE(RedrawShown(redraw));
     EXPECT_EQ(again[0], picture);
-    EXPECT_EQ(PictureHash(), picture);
+    EXPECT_EQ(BackSurfaceHash(), picture);
     EXPECT_EQ(ShownFrame(), 30);
     StepShow();
-    const std::uint64_t next = PictureHash();
+    const std::uint64_t next = BackSurfaceHash();
     SeekShow(0, nullptr, nullptr);
     SeekShow(31, nullptr, nullptr);
-    EXPECT_EQ(PictureHash(), next);
+    EXPECT_EQ(BackSurfaceHash(), next);
 }
 
 } // namespace
