@@ -33,7 +33,7 @@ INSTRUCTIONS = {"sse41": ["sse4_1"], "avx2": ["avx2"],
 # reaches no line that the others do not is left out: whole productions (scenario) take minutes. Nor
 # does the recorder write its counts where the size of files is limited.
 ENVIRONMENT = {"OMBREL_RANDOM_SHARE": "0.05"}
-PROGRAMS = {"unit_raster": "-Reciprocal.*:*/sixteen*", "faults": "-CaptureFaults.*",
+PROGRAMS = {"unit_raster": "-Arithmetic.Reciprocals*:*/sixteen*", "faults": "-CaptureFaults.*",
             "unit_demo": "*", "unit_scene": "*", "unit_assets": "*", "unit_app": "*",
             "unit_platform": "*", "unit_math": "*", "unit_base": "*"}
 

@@ -79,11 +79,11 @@ FOR_SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
                   "UBSAN_OPTIONS": "print_stacktrace=1", "OMBREL_RANDOM_SHARE": "0.05"}
 # The stored frames and the whole decision table are held to the release build; with sanitizers 200
 # frames and the smaller test of the table are enough.
-NOT_SANITIZED = "--gtest_filter=-Frames.*:Seeks.*:Faults.*:DecisionTable.AllCombinations*"
+NOT_SANITIZED = "--gtest_filter=-Frames.*:Seeks.*:Faults.*:Dispatch.AllCombinations*"
 
 # On an emulated processor every test runs but the whole decision table, and a few random cases.
 ARM64 = ("build arm64",)
-NOT_EMULATED = "'--gtest_filter=-DecisionTable.AllCombinations*'"
+NOT_EMULATED = "'--gtest_filter=-Dispatch.AllCombinations*'"
 ON_ARM64 = "qemu-aarch64-static -L build/sysroot-arm64"
 ARM64_UNITS = [f"unit_{name}" for name in ("base", "math", "assets", "scene", "raster", "demo")]
 

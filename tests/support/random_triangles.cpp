@@ -9,50 +9,20 @@
 
 #include "base/hash.h"
 #include "base/parse_number.h"
-#include "clip_rect.h"
 
 namespace ombrel {
-
-// --- random numbers ----------------------------------------------------------------------------
-
-RandomSource MakeRandomSource(std::uint64_t seed) {
-    // Spread small seeds over all bits.
-    std::uint64_t z = seed * 0xD1342543DE82EF95ULL + 0x9E3779B97F4A7C15ULL;
-    z ^= z >> 32;
-    z *= 0xDABA0B6EB09322E3ULL;
-    z ^= z >> 29;
-    return {z == 0 ? 1 : z};
-}
-
-std::uint64_t NextRandom(RandomSource* source) {
-    std::uint64_t s = source->state;
-    s ^= s << 13;
-    s ^= s >> 7;
-    s ^= s << 17;
-    source->state = s;
-    return s * 0x2545F4914F6CDD1DULL;
-}
-
-std::int32_t RandomBelow(RandomSource* source, std::int32_t count) {
-    const std::uint64_t high = NextRandom(source) >> 32;
-    return static_cast<std::int32_t>((high * static_cast<std::uint64_t>(count)) >> 32);
-}
-
-std::int32_t RandomBetween(RandomSource* source, std::int32_t first, std::int32_t last) {
-    return first + RandomBelow(source, last - first + 1);
-}
 
 namespace {
 
 // A multiple of 1/16 from first to last.
-float RandomSixteenth(RandomSource* source, std::int32_t first, std::int32_t last) {
-    return static_cast<float>(RandomBetween(source, first * 16, last * 16)) / 16.0F;
+float RandomSixteenth(RandomNumbers* source, std::int32_t first, std::int32_t last) {
+    return static_cast<float>(source->Between(first * 16, last * 16)) / 16.0F;
 }
 
-void RandomBytes(RandomSource* source, void* bytes, std::size_t size) {
+void RandomBytes(RandomNumbers* source, void* bytes, std::size_t size) {
     auto* out = static_cast<unsigned char*>(bytes);
     for (std::size_t i = 0; i < size; i += 8) {
-        const std::uint64_t random = NextRandom(source);
+        const std::uint64_t random = source->Next();
         std::memcpy(out + i, &random, size - i < 8 ? size - i : 8);
     }
 }
@@ -80,17 +50,17 @@ std::int32_t RowsRead(const TextureSize& size) {
     return rows > size.height ? rows : size.height;
 }
 
-void AddTexture(RandomStage* stage, RandomSource* source, const TextureSize& size) {
+void AddTexture(RandomStage* stage, RandomNumbers* source, const TextureSize& size) {
     const auto count =
         static_cast<std::size_t>(size.width) * static_cast<std::size_t>(RowsRead(size));
-    const bool behind = RandomBelow(source, 4) != 0;
+    const bool behind = source->Below(4) != 0;
     GuardMemory memory = MakeGuardMemory(count * 2, behind ? GuardSide::Behind : GuardSide::Before);
     auto* pixels = reinterpret_cast<Pixel16*>(memory.bytes);
-    const bool keyed = RandomBelow(source, 2) == 0;
+    const bool keyed = source->Below(2) == 0;
     // A mip level without rows has only guard texels, and those are 0.
     for (std::size_t i = 0; i < count && size.height > 0; ++i) {
-        const auto texel = static_cast<Pixel16>(NextRandom(source) >> 48);
-        pixels[i] = keyed && RandomBelow(source, 3) == 0 ? Pixel16{0} : texel;
+        const auto texel = static_cast<Pixel16>(source->Next() >> 48);
+        pixels[i] = keyed && source->Below(3) == 0 ? Pixel16{0} : texel;
     }
     Texture texture = {};
     texture.valid = 1;
@@ -108,7 +78,7 @@ void AddTexture(RandomStage* stage, RandomSource* source, const TextureSize& siz
 
 RandomStage MakeRandomStage() {
     RandomStage stage = {};
-    RandomSource source = MakeRandomSource(1);
+    RandomNumbers source(1);
     for (int i = 0; i < 2; ++i) {
         const GuardSide side = i == 0 ? GuardSide::Before : GuardSide::Behind;
         stage.frame[i] = MakeGuardMemory(kMaxFramePitch * kMaxFrameHeight, side);
@@ -168,29 +138,29 @@ bool UsesTexture(const reference::Filler& row) {
     return row.mapping != reference::Mapping::Untextured;
 }
 
-Rect RandomClip(RandomSource* source, std::int32_t width, std::int32_t height) {
-    if (RandomBelow(source, 4) < 3) {
+Rect RandomClip(RandomNumbers* source, std::int32_t width, std::int32_t height) {
+    if (source->Below(4) < 3) {
         return {0, 0, width, height};
     }
     Rect clip = {};
-    clip.left = RandomBetween(source, 0, width);
-    clip.right = RandomBetween(source, clip.left, width);
-    clip.top = RandomBetween(source, 0, height);
-    clip.bottom = RandomBetween(source, clip.top, height);
+    clip.left = source->Between(0, width);
+    clip.right = source->Between(clip.left, width);
+    clip.top = source->Between(0, height);
+    clip.bottom = source->Between(clip.top, height);
     return clip;
 }
 
-Scene RandomScene(RandomStage* stage, RandomSource* source) {
+Scene RandomScene(RandomStage* stage, RandomNumbers* source) {
     Scene scene = {};
-    const bool tiny = RandomBelow(source, 8) == 0;
-    scene.width = RandomBetween(source, 1, tiny ? 9 : kMaxFrameWidth);
-    scene.height = RandomBetween(source, 1, tiny ? 9 : kMaxFrameHeight);
+    const bool tiny = source->Below(8) == 0;
+    scene.width = source->Between(1, tiny ? 9 : kMaxFrameWidth);
+    scene.height = source->Between(1, tiny ? 9 : kMaxFrameHeight);
     // Pitches that are no whole number of pixels are cut to one.
-    const std::int32_t framePixels = scene.width + RandomBelow(source, 8);
-    const std::int32_t depthCells = scene.width + RandomBelow(source, 8);
-    scene.framePitch = framePixels * 2 + RandomBelow(source, 2);
-    scene.depthPitch = depthCells * 4 + RandomBelow(source, 4);
-    scene.side = RandomBelow(source, 2);
+    const std::int32_t framePixels = scene.width + source->Below(8);
+    const std::int32_t depthCells = scene.width + source->Below(8);
+    scene.framePitch = framePixels * 2 + source->Below(2);
+    scene.depthPitch = depthCells * 4 + source->Below(4);
+    scene.side = source->Below(2);
     scene.frameSize =
         static_cast<std::size_t>((framePixels * (scene.height - 1) + scene.width) * 2);
     scene.depthSize = static_cast<std::size_t>((depthCells * (scene.height - 1) + scene.width) * 4);
@@ -199,33 +169,32 @@ Scene RandomScene(RandomStage* stage, RandomSource* source) {
         scene.depthOffset = stage->depth[1].size - scene.depthSize;
     }
     scene.clip = RandomClip(source, scene.width, scene.height);
-    scene.depthRange = kDepthRanges[RandomBelow(source, 8)];
-    scene.wildDepth = RandomBelow(source, 32) == 0;
+    scene.depthRange = kDepthRanges[source->Below(8)];
+    scene.wildDepth = source->Below(32) == 0;
     const auto textureCount = static_cast<std::int32_t>(stage->textures.size());
-    scene.texture = &stage->textures[static_cast<std::size_t>(RandomBelow(source, textureCount))];
-    scene.level = static_cast<std::uint32_t>(RandomBelow(source, 8));
+    scene.texture = &stage->textures[static_cast<std::size_t>(source->Below(textureCount))];
+    scene.level = static_cast<std::uint32_t>(source->Below(8));
     return scene;
 }
 
-std::uint32_t RandomCell(RandomSource* source, const reference::Filler& row,
+std::uint32_t RandomCell(RandomNumbers* source, const reference::Filler& row,
                          const DepthRange& range) {
-    const std::int32_t z = RandomBetween(source, range.first, range.last);
+    const std::int32_t z = source->Between(range.first, range.last);
     if (row.depth == reference::Depth::TestW) {
-        return static_cast<std::uint32_t>(0x10000000 / z + RandomBelow(source, 2));
+        return static_cast<std::uint32_t>(0x10000000 / z + source->Below(2));
     }
     return (static_cast<std::uint32_t>(z) << 16) +
-           static_cast<std::uint32_t>(RandomBelow(source, 0x10000));
+           static_cast<std::uint32_t>(source->Below(0x10000));
 }
 
 // Fills the depth buffer as a frame finds it: cleared, full of other depths, or partly so.
-void RandomDepths(RandomSource* source, const reference::Filler& row, const Scene& scene,
+void RandomDepths(RandomNumbers* source, const reference::Filler& row, const Scene& scene,
                   std::uint32_t* cells) {
     const bool isW = row.depth == reference::Depth::TestW;
-    const std::uint32_t cleared =
-        isW ? 0 : (RandomBelow(source, 2) == 0 ? 0x7FFFFFFFU : 0xFFFFFFFFU);
-    const std::int32_t clearedOfEight = RandomBetween(source, 0, 8);
+    const std::uint32_t cleared = isW ? 0 : (source->Below(2) == 0 ? 0x7FFFFFFFU : 0xFFFFFFFFU);
+    const std::int32_t clearedOfEight = source->Between(0, 8);
     for (std::size_t i = 0; i < scene.depthSize / 4; ++i) {
-        const bool clear = clearedOfEight == 8 || RandomBelow(source, 8) < clearedOfEight;
+        const bool clear = clearedOfEight == 8 || source->Below(8) < clearedOfEight;
         cells[i] = clear ? cleared : RandomCell(source, row, scene.depthRange);
     }
 }
@@ -239,14 +208,14 @@ struct Points {
     Point p[3];
 };
 
-Point PointIn(RandomSource* source, std::int32_t left, std::int32_t top, std::int32_t right,
+Point PointIn(RandomNumbers* source, std::int32_t left, std::int32_t top, std::int32_t right,
               std::int32_t bottom) {
     const float x = RandomSixteenth(source, left, right);
     const float y = RandomSixteenth(source, top, bottom);
     return {x, y};
 }
 
-void PointsIn(RandomSource* source, Points* points, const Rect& area) {
+void PointsIn(RandomNumbers* source, Points* points, const Rect& area) {
     for (Point& point : points->p) {
         point = PointIn(source, area.left, area.top, area.right, area.bottom);
     }
@@ -284,14 +253,14 @@ constexpr Shape kShapes[] = {
 };
 constexpr auto kShapeCount = static_cast<std::int32_t>(sizeof(kShapes) / sizeof(kShapes[0]));
 
-Points RandomPoints(RandomSource* source, const Scene& scene) {
+Points RandomPoints(RandomNumbers* source, const Scene& scene) {
     const std::int32_t w = scene.width;
     const std::int32_t h = scene.height;
     const Rect& clip = scene.clip;
     Points points = {};
     Point* p = points.p;
     PointsIn(source, &points, {0, 0, w, h});
-    switch (kShapes[RandomBelow(source, kShapeCount)]) {
+    switch (kShapes[source->Below(kShapeCount)]) {
     case Shape::Inside:
         break;
     case Shape::AcrossLeft:
@@ -302,13 +271,13 @@ Points RandomPoints(RandomSource* source, const Scene& scene) {
         break;
     case Shape::AcrossTop:
         p[0] = PointIn(source, 0, clip.top - 40, w, clip.top);
-        if (RandomBelow(source, 2) == 0) {
+        if (source->Below(2) == 0) {
             p[1] = PointIn(source, 0, clip.top - 40, w, clip.top);
         }
         break;
     case Shape::AcrossBottom:
         p[0] = PointIn(source, 0, clip.bottom, w, clip.bottom + 40);
-        if (RandomBelow(source, 2) == 0) {
+        if (source->Below(2) == 0) {
             p[1] = PointIn(source, 0, clip.bottom, w, clip.bottom + 40);
         }
         break;
@@ -331,43 +300,43 @@ Points RandomPoints(RandomSource* source, const Scene& scene) {
         p[2].y = (p[0].y + p[1].y) / 2.0F + RandomSixteenth(source, -1, 1);
         break;
     case Shape::OnePixel: {
-        const std::int32_t x = RandomBetween(source, -1, w);
-        const std::int32_t y = RandomBetween(source, -1, h);
+        const std::int32_t x = source->Between(-1, w);
+        const std::int32_t y = source->Between(-1, h);
         PointsIn(source, &points, {x, y, x + 1, y + 1});
         break;
     }
     case Shape::Huge:
         PointsIn(source, &points, {-4096, -4096, 4096, 4096});
-        if (RandomBelow(source, 2) == 0) {
+        if (source->Below(2) == 0) {
             p[0] = PointIn(source, 0, 0, w, h);
         }
         break;
     case Shape::EqualVertices:
         p[1] = p[0];
-        if (RandomBelow(source, 8) == 0) {
+        if (source->Below(8) == 0) {
             p[2] = p[0];
         }
         break;
     case Shape::Small: {
-        const std::int32_t x = RandomBetween(source, -3, w);
-        const std::int32_t y = RandomBetween(source, -3, h);
+        const std::int32_t x = source->Between(-3, w);
+        const std::int32_t y = source->Between(-3, h);
         PointsIn(source, &points, {x, y, x + 5, y + 5});
         break;
     }
     case Shape::Upright:
         p[1].x = p[0].x;
-        if (RandomBelow(source, 8) == 0) {
+        if (source->Below(8) == 0) {
             p[2].x = p[0].x;
         }
         break;
     case Shape::Outside: {
-        const std::int32_t dx = RandomBetween(source, -1, 1) * (w + RandomBelow(source, 3));
-        const std::int32_t dy = RandomBetween(source, -1, 1) * (h + RandomBelow(source, 3));
+        const std::int32_t dx = source->Between(-1, 1) * (w + source->Below(3));
+        const std::int32_t dy = source->Between(-1, 1) * (h + source->Below(3));
         PointsIn(source, &points, {dx, dy, dx + w, dy + h});
         break;
     }
     case Shape::OneRow: {
-        const std::int32_t y = RandomBetween(source, -1, h);
+        const std::int32_t y = source->Between(-1, h);
         PointsIn(source, &points, {-2, y, w + 2, y + 1});
         break;
     }
@@ -376,48 +345,48 @@ Points RandomPoints(RandomSource* source, const Scene& scene) {
 }
 
 // Any order of the corners.
-void Shuffle(RandomSource* source, Points* points) {
+void Shuffle(RandomNumbers* source, Points* points) {
     for (int i = 2; i > 0; --i) {
-        const int j = RandomBelow(source, i + 1);
+        const int j = source->Below(i + 1);
         const Point kept = points->p[i];
         points->p[i] = points->p[j];
         points->p[j] = kept;
     }
 }
 
-float RandomZ(RandomSource* source, const Scene& scene) {
-    if (scene.wildDepth && RandomBelow(source, 2) == 0) {
+float RandomZ(RandomNumbers* source, const Scene& scene) {
+    if (scene.wildDepth && source->Below(2) == 0) {
         constexpr float kWild[] = {0.0F,   0.25F,       -0.5F,
                                    -3.0F,  -1000.0F,    300000000.0F,
                                    3.0e9F, 16000000.0F, -268435456.0F,
                                    -1.5F,  1.0F,        std::numeric_limits<float>::quiet_NaN()};
-        return kWild[RandomBelow(source, 12)];
+        return kWild[source->Below(12)];
     }
     return RandomSixteenth(source, scene.depthRange.first, scene.depthRange.last);
 }
 
 // 0 to a little less than size; 0 to less than a half where the size is 0.
-float RandomTexelCoordinate(RandomSource* source, std::int32_t size) {
+float RandomTexelCoordinate(RandomNumbers* source, std::int32_t size) {
     const std::int32_t sixteenths = size > 0 ? size * 16 : 8;
-    return static_cast<float>(RandomBelow(source, sixteenths)) / 16.0F;
+    return static_cast<float>(source->Below(sixteenths)) / 16.0F;
 }
 
 // What the filler does not use holds values that would show if it did.
-ScreenPolygon RandomPolygon(RandomSource* source, const reference::Filler& row,
+ScreenPolygon RandomPolygon(RandomNumbers* source, const reference::Filler& row,
                             const Scene& scene) {
     const float unused = std::numeric_limits<float>::quiet_NaN();
     ScreenPolygon polygon = {};
-    polygon.state = static_cast<std::uint32_t>(NextRandom(source) >> 32);
-    polygon.flags = static_cast<std::uint32_t>(NextRandom(source) >> 32);
-    polygon.color = static_cast<std::uint32_t>(NextRandom(source) >> 32);
+    polygon.state = static_cast<std::uint32_t>(source->Next() >> 32);
+    polygon.flags = static_cast<std::uint32_t>(source->Next() >> 32);
+    polygon.color = static_cast<std::uint32_t>(source->Next() >> 32);
     for (std::uint32_t& color : polygon.litColors) {
-        color = static_cast<std::uint32_t>(NextRandom(source) >> 32);
+        color = static_cast<std::uint32_t>(source->Next() >> 32);
     }
     polygon.texture.single = UsesTexture(row) ? scene.texture : nullptr;
     Points points = RandomPoints(source, scene);
     Shuffle(source, &points);
-    const bool oneTexel = RandomBelow(source, 16) == 0;
-    const bool oneDepth = RandomBelow(source, 8) == 0;
+    const bool oneTexel = source->Below(16) == 0;
+    const bool oneDepth = source->Below(8) == 0;
     for (int i = 0; i < 3; ++i) {
         Vertex& vertex = polygon.vertices[i];
         vertex = {points.p[i].x, points.p[i].y, unused, unused, unused, unused,
@@ -539,19 +508,18 @@ bool SameOutside(const RandomStage& stage, int side) {
 }
 
 std::string CompareScene(RandomStage* stage, const reference::Filler& row, Filler fast,
-                         RandomSource* source, RandomComparison* result) {
+                         RandomNumbers* source, RandomComparison* result) {
     const Scene scene = RandomScene(stage, source);
     const Buffers buffers = BuffersOf(stage, scene);
     RandomBytes(source, buffers.frame, scene.frameSize);
     RandomDepths(source, row, scene, reinterpret_cast<std::uint32_t*>(buffers.depth));
     std::memcpy(buffers.frameCopy, buffers.frame, scene.frameSize);
     std::memcpy(buffers.depthCopy, buffers.depth, scene.depthSize);
-    clipRect = scene.clip;
     std::uint8_t before[kMaxFramePitch * kMaxFrameHeight];
     ScreenPolygon polygon = {};
     for (std::int32_t i = 0; i < kTrianglesPerScene; ++i) {
         // Now and then the same triangle again: its depths are equal to those in the buffer.
-        if (i == 0 || RandomBelow(source, 8) != 0) {
+        if (i == 0 || source->Below(8) != 0) {
             polygon = RandomPolygon(source, row, scene);
         }
         std::memcpy(before, buffers.frame, scene.frameSize);
@@ -578,13 +546,12 @@ std::string CompareScene(RandomStage* stage, const reference::Filler& row, Fille
 RandomComparison CompareRandomTriangles(RandomStage* stage, const reference::Filler& row,
                                         Filler fast, std::int32_t scenes) {
     RandomComparison result = {"", 0, 0, 0, 0, kHashStart};
-    const Rect savedClip = clipRect;
     for (std::int32_t i = 0; i < scenes; ++i) {
         if (i == kFirstScenes) {
             result.firstScenesHash = result.hash;
         }
         const auto number = static_cast<std::uint64_t>(&row - reference::kFillers);
-        RandomSource source = MakeRandomSource(number * 1000003 + static_cast<std::uint64_t>(i));
+        RandomNumbers source(number * 1000003 + static_cast<std::uint64_t>(i));
         const std::string failure = CompareScene(stage, row, fast, &source, &result);
         if (!failure.empty()) {
             result.failure =
@@ -595,7 +562,6 @@ RandomComparison CompareRandomTriangles(RandomStage* stage, const reference::Fil
     if (scenes == kFirstScenes) {
         result.firstScenesHash = result.hash;
     }
-    clipRect = savedClip;
     return result;
 }
 

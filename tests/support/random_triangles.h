@@ -9,24 +9,12 @@
 #include <string>
 #include <vector>
 
-#include <gtest/gtest.h>
-
-#include "base/float_mode.h"
 #include "guard_memory.h"
-#include "raster/blend_tables.h"
+#include "random_numbers.h"
 #include "raster/fillers.h"
 #include "reference_fillers.h"
 
 namespace ombrel {
-
-// A small random generator of our own: 64 bits of state, never 0.
-struct RandomSource {
-    std::uint64_t state;
-};
-RandomSource MakeRandomSource(std::uint64_t seed); // any seed
-std::uint64_t NextRandom(RandomSource* source);
-std::int32_t RandomBelow(RandomSource* source, std::int32_t count); // 0..count - 1
-std::int32_t RandomBetween(RandomSource* source, std::int32_t first, std::int32_t last);
 
 // Sides of the frame in pixels, at most.
 inline constexpr std::int32_t kMaxFrameWidth = 64;
@@ -64,18 +52,6 @@ struct RandomComparison {
 // difference. The float mode in force is used.
 RandomComparison CompareRandomTriangles(RandomStage* stage, const reference::Filler& row,
                                         Filler fast, std::int32_t scenes);
-
-// A parameterised test on one stage; both families have their blend tables as at start-up.
-template <class Parameter> class RandomStageTest : public testing::TestWithParam<Parameter> {
-protected:
-    static void SetUpTestSuite() {
-        const ScopedFloatMode nearest(FloatMode::Nearest);
-        BuildBlendTables(8, BlendTables[0]);
-        stage = MakeRandomStage();
-    }
-    static void TearDownTestSuite() { FreeRandomStage(&stage); }
-    inline static RandomStage stage;
-};
 
 // The share of the random tests to run: OMBREL_RANDOM_SHARE, above 0 and up to 1; else 1.
 float RandomShare();
