@@ -1,5 +1,5 @@
 // Rows of --compare: the triangle fillers, on large triangles whose pixels all pass their depth
-// test; on large ones behind what is there; on small ones.
+// test; on large ones hidden by what is there; on small ones.
 #include <algorithm>
 #include <memory>
 

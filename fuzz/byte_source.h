@@ -1,4 +1,4 @@
-// Takes numbers out of a fuzzer's input, front to back; zeros behind its end.
+// Takes numbers out of a fuzzer's input, front to back; zeros after its end.
 #pragma once
 
 #include <cstddef>

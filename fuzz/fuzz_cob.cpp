@@ -63,6 +63,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ResetObjectLoader();
     const MemoryFile file(data, size);
     LoadOnce(file.Path(), 0x708, 0);
-    LoadOnce(file.Path(), 0xFFF, 1); // into the records behind, after the same textures
+    LoadOnce(file.Path(), 0xFFF, 1); // into the next records, after the same textures
     return 0;
 }

@@ -149,9 +149,9 @@ void FillFace(RenderFace* face, ByteSource* source, MadeTexture* texture) {
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     constexpr std::size_t kCells = std::size_t{kMaxPitch} * kMaxHeight;
     frameRoom = {MakeGuardMemory(kCells * 2, GuardSide::Before),
-                 MakeGuardMemory(kCells * 2, GuardSide::Behind)};
+                 MakeGuardMemory(kCells * 2, GuardSide::After)};
     depthRoom = {MakeGuardMemory(kCells * 4, GuardSide::Before),
-                 MakeGuardMemory(kCells * 4, GuardSide::Behind)};
+                 MakeGuardMemory(kCells * 4, GuardSide::After)};
     BuildBlendTables(kBlendTableCount, BlendTables[0]);
     FaceListClear(&list);
     return 0;

@@ -19,7 +19,7 @@ def text(x, y, advance, words):
 
 
 def sheet(width, height, bits, tail=b""):
-    """An uncompressed bottom-up image with a pattern; what comes behind belongs to its pixels."""
+    """An uncompressed bottom-up image with a pattern; what follows belongs to its pixels."""
     size = width * height * bits // 8
     pixels = bytes((i * 37 + i // width) & 255 for i in range(size))
     header = struct.pack("<2sIHHI", b"BM", 54 + size, 0, 0, 54)

@@ -259,7 +259,7 @@ int Refuse(const std::string& why) {
     return kUsage;
 }
 
-// Reads the list to compare with, and ends the run behind its last frame. Empty, or what is wrong.
+// Reads the list to compare with, and ends the run after its last frame. Empty, or what is wrong.
 std::string PrepareVerification(Recorder* recorder, std::int64_t whole) {
     Options& options = recorder->options;
     const std::string file = !options.publishedFile.empty()

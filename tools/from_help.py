@@ -3,7 +3,7 @@
 both are written once.
   from_help.py man PROGRAM VERSION OUT.1.gz      a page of section 1, compressed
   from_help.py bash PROGRAM VERSION OUT          a completion file
-What --help says must have this form: `Usage:` with the arguments, a line behind it that tells what
+What --help says must have this form: `Usage:` with the arguments, a line after it that says what
 the program does, options as `  --name VALUE   what it does` with further lines below the text, and
 at the end a paragraph that begins with `Exit code:`."""
 import gzip
@@ -74,7 +74,7 @@ def roff(text):
 
 
 def option_text(lines):
-    """The text behind an option; rows of two columns stay rows."""
+    """The text after an option; rows of two columns stay rows."""
     out = []
     for line in lines:
         row = ROW.fullmatch(line)

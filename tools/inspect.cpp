@@ -32,7 +32,7 @@ constexpr char kHelp[] =
     "Usage: larkfen-inspect [--data DIR] [--picture OUT.png] FILE...\n"
     "Says what data files of the production hold and what is wrong with them, line by line.\n"
     "\n"
-    "Of everything that the production would refuse, clamp, cut or draw wrongly it tells what is\n"
+    "Of everything that the production would refuse, clamp, cut or draw wrongly it says what is\n"
     "wrong, what the production does with it and how to mend it:\n"
     "    FILE:LINE: WHAT; WHAT HAPPENS; HOW TO MEND IT      (a byte offset in .bmp and .mp3 "
     "files)\n"

@@ -3,7 +3,7 @@
   ./test --quick   checks of the sources and the unit tests of the release build
   ./test           what ships: builds it, plays it, holds every frame to the stored one
   ./test --all     everything: other compilers, sanitizers, every path, every case, the archives
-The last line counts the tests: "N passed, N failed"; behind it ", N skipped" where some were.
+The last line counts the tests: "N passed, N failed"; after it ", N skipped" where some were.
 Exit code 0 only when none failed."""
 import argparse
 import dataclasses
@@ -319,7 +319,7 @@ def report(step, result):
 
 
 def run(steps):
-    """Runs steps, each behind those that it needs; {step: result}."""
+    """Runs steps, each after those that it needs; {step: result}."""
     runner, results, waiting = Runner(), {}, list(steps)
     failed = set()  # names
 

@@ -1,4 +1,4 @@
-// The program larkfen on systems with SDL2: answers --help and --version, tells what is missing,
+// The program larkfen on systems with SDL2: answers --help and --version, says what is missing,
 // and hands the command line on as one raw string.
 #include <signal.h>
 
@@ -48,7 +48,7 @@ bool Answered(const char* argument) {
     return false;
 }
 
-// Tells of a folder that is not there once, else of each file.
+// Reports a folder that is not there once, else each file.
 void WatchDataFolder() {
     const std::string folder = ombrel::DataFolder();
     std::error_code error;

@@ -1,5 +1,5 @@
 // The lines of an object file, as the loader looks for them: one table for the loader and for
-// whoever tells what is wrong with a file. Numbers are decimal; blanks separate words.
+// whoever reports what is wrong with a file. Numbers are decimal; blanks separate words.
 #pragma once
 
 #include <cstddef>

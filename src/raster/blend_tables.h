@@ -15,7 +15,7 @@ inline constexpr std::int32_t kBlendTableSize = 65536; // indexed by a Pixel16
 extern Pixel16 BlendTables[kBlendTableCount][kBlendTableSize];
 void ResetBlendTables(); // all zero
 
-// Fills count (2 or more) tables one behind the other: table k scales each 5-6-5 channel by
+// Fills count (2 or more) tables one after the other: table k scales each 5-6-5 channel by
 // k * (1/(count - 1) + 0.000001), to nearest, ties to even, whatever rounding mode is in force.
 // Returns 1, or -1 when destination is null.
 int BuildBlendTables(std::int32_t count, Pixel16* destination);

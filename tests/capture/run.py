@@ -122,7 +122,7 @@ def rate_tests(record, work, exact):
 
 
 def resume_tests(record, work):
-    """What is whole of a video outlives its end, and the next call goes on behind it."""
+    """What is whole of a video outlives its end, and the next call goes on after it."""
     film = ["--frames", "0:900", "--fps", 60, "--video", "film.mp4", "--resume"]
     pieces = work / "film.mp4.pieces"
 
@@ -141,7 +141,7 @@ def resume_tests(record, work):
           "320x240, 60 pictures a second, from frame 0 to 899; give the same or remove it" in said, said)
     code, said, stopped = record.until(there(2), signal.SIGINT, *film)
     check("interrupted after twenty", stopped and code == 1 and "film.mp4.pieces holds 2 pieces of 400 "
-          "frames; the same call goes on behind them" in said, said)
+          "frames; the same call goes on after them" in said, said)
     check("the first piece was not made again", first.exists() and kept ==
           (first.stat().st_mtime_ns, hashlib.sha256(first.read_bytes()).hexdigest()))
     check("nothing half is there", not (work / "film.mp4").exists() and

@@ -76,7 +76,7 @@ void NoteMessage(const char* text, MessageKind kind, void* user) {
 struct Fault {
     const char* name;
     const char* commandLine;
-    std::function<void()> arrange; // the script, behind its reset
+    std::function<void()> arrange; // the script, after its reset
     std::function<void(std::int64_t turn)> onTurn;
     std::function<void(const Outcome&)> check;
 };
@@ -100,7 +100,7 @@ Outcome Play(const Fault& fault) {
 }
 
 // Turn kFrames posts the destroy message, which the next takes; the quit message ends the turn
-// behind that, without a frame.
+// after that, without a frame.
 constexpr std::int64_t kAll = kFrames + 1;
 
 // The whole picture, every frame of it.

@@ -126,8 +126,8 @@ def object_cases():
            WARNINGS)
     yield ("a number without digits", changed(13, "- 0 0"),
            ["13: \"-\" has no digits; it counts as 0; write the number"], WARNINGS)
-    yield ("an exponent behind d", changed(17, "0 0 2d3"),
-           ["17: \"2d3\" has an exponent behind a d; the number ends at the d and is 2; write e"],
+    yield ("an exponent after d", changed(17, "0 0 2d3"),
+           ["17: \"2d3\" has an exponent after a d; the number ends at the d and is 2; write e"],
            WARNINGS)
     yield ("an infinite number", changed(17, "0 0 1e99"),
            ["14: this corner is 1 from the origin and the bounding radius only 1; the object vanishes at "
@@ -221,7 +221,7 @@ def object_cases():
             "until one of the two comes; write one of the two"], WARNINGS)
     yield ("two blanks before the texture's name", changed(36, "file name:  string \"./wall.bmp\""),
            ["36: the texture's name does not begin in column 19; it is taken as \"wall.bmp\"; write "
-            "'file name: string \"./NAME\"' with one blank behind each word"], WARNINGS)
+            "'file name: string \"./NAME\"' with one blank after each word"], WARNINGS)
     yield ("a texture's name without a slash", changed(36, "file name: string \"wall.bmp\""),
            ["36: the texture's name has no slash; it keeps the blank before it and is not found; write "
             "\"./wall.bmp\"",
@@ -235,7 +235,7 @@ def object_cases():
             "36: texture \"%s...\" is not in the folder texture; its faces are white, or black once any "
             "other texture was read; put it there or correct the name" % ("w" * 40)], WARNINGS)
     yield ("a texture name beyond ASCII", changed(36, "file name: string \"./m\xFCwall.bmp\""),
-           ["36: the texture's name has letters beyond ASCII; it is taken from behind the last of them: "
+           ["36: the texture's name has letters beyond ASCII; it is taken from after the last of them: "
             "\"wall.bmp\"; rename the file with plain letters"], WARNINGS)
     yield ("a texture that is missing", changed(36, "file name: string \"./absent.bmp\""),
            ["36: texture \"absent.bmp\" is not in the folder texture; its faces are white, or black once "
@@ -280,8 +280,8 @@ def object_cases():
             "each number",
             "41: no face uses material 7; its block takes the place of a later one that is used; remove "
             "the block and number the others 0, 1, 2 and so on"], WARNINGS)
-    yield ("a block behind the last", files.OBJECT + "mat# 2\n",
-           ["52: a material block behind the last that is read; as many are read as numbers are used: 2; "
+    yield ("a block after the last", files.OBJECT + "mat# 2\n",
+           ["52: a material block after the last that is read; as many are read as numbers are used: 2; "
             "remove it, or the blocks before it that are not needed"], WARNINGS)
     gap = files.OBJECT.replace("mat 1", "mat 3").replace("mat# 1", "mat# 3")
     yield ("gaps in the numbers", gap,
@@ -365,7 +365,7 @@ def image_cases():
     yield ("padded rows", files.bmp(2, 2, pixels=b"\x40" * 16),
            ["18: rows of 6 bytes, which the format pads to a multiple of 4; the padding is taken for "
             "pixels: each row is shifted against the last; make it 4 pixels wide"], WARNINGS)
-    yield ("bytes behind the pixels", files.bmp(after=b"more"),
+    yield ("bytes after the pixels", files.bmp(after=b"more"),
            ["10: the pixels begin at byte 54, but 192 bytes before the end is byte 58; the last bytes of "
             "the file are taken: the picture is shifted; let nothing follow the pixels and let the image "
             "size be theirs"], WARNINGS)
@@ -507,7 +507,7 @@ def list_cases():
     yield ("nothing in the list", "", ["1: no object; the world is empty but for sky and ground; add "
                                        "entries"], WARNINGS)
     yield ("a last object that is not small", good + lines[0].replace("thing", "ball") + "\n",
-           ["6: the last object has 20 faces; it is never drawn; put a small dummy behind it"], WARNINGS)
+           ["6: the last object has 20 faces; it is never drawn; put a small dummy after it"], WARNINGS)
     yield ("too many objects", (lines[0].replace("thing", "plain") + "\n") * 501,
            ["501: more than 500 objects; the rest is not read; remove them"], WARNINGS)
     yield ("too many faces", (lines[0].replace("thing", "many") + "\n") * 30 + good,
@@ -523,7 +523,7 @@ def sound_cases():
             "MP3"], BROKEN)
     yield ("a last frame cut short", files.mp3()[:-10],
            ["3753: the last frame is cut short; the sound breaks off there; encode it again"], WARNINGS)
-    yield ("something behind the sound", files.mp3() + b"nothing to hear",
+    yield ("something after the sound", files.mp3() + b"nothing to hear",
            ["4170: 15 bytes that are no sound; they are skipped or end the sound, as the library likes; "
             "encode it again"], WARNINGS)
 
@@ -616,7 +616,7 @@ def test_missing(folder):
         check("missing " + name, code == BROKEN and
               "\n%s:%d: no such file; %s\n" % (name, place, then) in text, text)
     code, text = folder.run("absent.cob", "3d/thing.cob")
-    check("what is behind a missing file is inspected", code == BROKEN and
+    check("what is after a missing file is inspected", code == BROKEN and
           "3d/thing.cob: object" in text and text.endswith("1 broken, 0 warnings\n"), text)
     code, text = folder.run("absent.cob", "--picture", "out.png")
     check("no picture of a missing file", code == BROKEN and not (folder.root / "out.png").exists(),

@@ -262,7 +262,7 @@ def argument_tests(capture, data, work):
         check(f"wrong argument '{text}' is named", result.returncode == 2
               and named in result.stderr and result.stderr.count("\n") == 1, result.stderr.strip())
     result = record(capture, data, "--help")
-    check("--help tells every option", result.returncode == 0 and all(
+    check("--help lists every option", result.returncode == 0 and all(
         word in result.stdout for word in ("--data", "--frames", "--every", "--png", "--video",
                                            "--scale", "--hashes", "--switch")))
     result = record(capture, data, "-?")

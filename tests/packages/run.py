@@ -141,7 +141,7 @@ def windows_programs(work):
 
 def linux_programs(work):
     """the Linux programs: no symbols, no path of the checkout, no library but the C library, and of
-    that nothing newer than the readme tells"""
+    that nothing is newer than the readme says"""
     for name in PROGRAMS:
         linux_program(work / TAR / "ombrel" / name, "X86-64", "ld-linux-x86-64.so.2")
         linux_program(work / TAR_ARM64 / "ombrel" / name, "AArch64", "ld-linux-aarch64.so.1")

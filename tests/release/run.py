@@ -158,7 +158,7 @@ def desktop_tests(prefix):
     path = prefix / "share/metainfo/org.quellant.ombrel.metainfo.xml"
     code, said = run("appstreamcli", "validate", "--no-net", "--pedantic", path)
     check("appstreamcli validate", code == 0, said)
-    check("the metainfo tells the version", f'version="{VERSION}"' in path.read_text("utf-8"))
+    check("the metainfo has the version", f'version="{VERSION}"' in path.read_text("utf-8"))
     for size in (16, 256):
         raw = (prefix / f"share/icons/hicolor/{size}x{size}/apps/larkfen.png").read_bytes()
         check(f"icon of {size} pixels", raw[16:24] == size.to_bytes(4, "big") * 2)

@@ -11,7 +11,7 @@ namespace ombrel {
 
 struct FrameLine {
     std::int64_t frame; // of the production, from 0
-    std::int32_t scene; // index behind the frame
+    std::int32_t scene; // index after the frame
     std::int32_t faces; // in the list
     std::uint64_t state;
     std::uint64_t picture;

@@ -29,7 +29,7 @@ constexpr std::int64_t kF1 = 1025; // frames of scene one with steps of 1/32
 constexpr float kRest = 1.8849556F;
 constexpr std::uint32_t kDepthMark = 0xDEADBEEF;
 
-// What is kept of a frame: the state behind it and what its picture shows.
+// What is kept of a frame: the state after it and what its picture shows.
 struct FrameLog {
     std::int32_t scene;
     std::uint32_t tick;
@@ -183,7 +183,7 @@ TEST_F(Timeline, FadeAndTitleOfSceneOne) {
 
 TEST_F(Timeline, SceneOneHandsOverAtF1) {
     for (std::size_t f = 0; f < log->size(); ++f) {
-        // Behind frame F1 - 1 the index is raised already.
+        // After frame F1 - 1 the index is raised already.
         ASSERT_EQ((*log)[f].scene, f < kF1 - 1 ? 0 : 1) << f;
     }
     EXPECT_EQ(Two(0).ambient, PackLightColor(54, 38, 54));

@@ -31,8 +31,8 @@ protected:
         ResetWorld();
         ResetOffscreen();
     }
-    // Plays the shipped data to a frame, with a look at the world behind every frame; tamper is
-    // called behind the check of each.
+    // Plays the shipped data to a frame, with a look at the world after every frame; tamper is
+    // called after the check of each.
     static WorldFindings Play(std::int64_t frames,
                               const std::function<void(std::int64_t)>& tamper) {
         WorldFindings findings{};

@@ -1,5 +1,5 @@
 // Whole productions one after another in one process, over the offscreen back end: what they hold
-// of memory and descriptors behind each must be what they held behind the first.
+// of memory and descriptors after each must be what they held after the first.
 //   soak [--fast] [--scenes N] [--data DIR] [--size WxH] COUNT
 // --fast: the camera goes on to the next part of its way with every frame, and the long middle of
 // scene two is left out; --scenes N: only the first N frames of each scene. Exit code 0: nothing

@@ -16,7 +16,7 @@ struct RecordedCall {
 };
 
 inline constexpr int kMaxRecordedCalls = 1024;
-// Written by the recorders: the calls since RecordFillers(); those behind the last place are only
+// Written by the recorders: the calls since RecordFillers(); those after the last place are only
 // counted.
 extern RecordedCall recordedCalls[kMaxRecordedCalls];
 extern int recordedCount;

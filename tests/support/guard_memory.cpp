@@ -43,7 +43,7 @@ GuardMemory MakeGuardMemory(std::size_t size, GuardSide side) {
         Fail("mprotect");
     }
     std::memset(memory.map + page, kMark, inner);
-    memory.bytes = memory.map + page + (side == GuardSide::Behind ? inner - size : 0);
+    memory.bytes = memory.map + page + (side == GuardSide::After ? inner - size : 0);
     std::memset(memory.bytes, 0, size);
     return memory;
 }

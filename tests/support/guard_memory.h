@@ -1,8 +1,8 @@
-// Memory with an unreadable, unwritable page right before and right behind it, so that a drawing
+// Memory with an unreadable, unwritable page right before and right after it, so that a drawing
 // function that touches one byte too many stops the test at once. Used by the comparisons of the
 // fillers and of anything else that draws into plain memory.
 //
-// The room between the memory and the far page is filled with a mark; GuardIntact tells whether it
+// The room between the memory and the far page is filled with a mark; GuardIntact says whether it
 // still is.
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace ombrel {
 
 // Which end of the memory touches its page exactly. The other end has up to one page of marks.
-enum class GuardSide { Before, Behind };
+enum class GuardSide { Before, After };
 
 struct GuardMemory {
     unsigned char* bytes; // the memory to use; null when nothing is held
@@ -21,7 +21,7 @@ struct GuardMemory {
 };
 
 // size bytes, zeroed, for size > 0. Ends the program with a message when the system has none.
-// Behind: the memory is aligned as size is (a multiple of 4 gives room for 32-bit cells).
+// After: the memory is aligned as size is (a multiple of 4 gives room for 32-bit cells).
 GuardMemory MakeGuardMemory(std::size_t size, GuardSide side);
 
 // Whether every byte between the memory and the pages still carries the mark.

@@ -34,7 +34,7 @@ inline Pixel16 PixelOf(const PresentedFrame& shown, std::int32_t x, std::int32_t
     return reinterpret_cast<const Pixel16*>(row)[x];
 }
 
-// To be called with every frame shown: behind the 60th of scene two, the clock of its dot view and
+// To be called with every frame shown: after the 60th of scene two, the clock of its dot view and
 // its scroller are set close to their ends, so that the long middle is left out.
 void LeaveOutTheMiddle();
 

@@ -42,7 +42,7 @@ constexpr std::int32_t kMaxFramePitch = (kMaxFrameWidth + 8) * 2;
 constexpr std::int32_t kMaxDepthPitch = (kMaxFrameWidth + 8) * 4;
 
 // Rows of texels that a filler may read with valid coordinates: where the texture is wider than
-// high, the bilinear filter touches the row behind the last one.
+// high, the bilinear filter touches the row after the last one.
 std::int32_t RowsRead(const TextureSize& size) {
     const std::int32_t lastRow = size.height > 0 ? size.height - 1 : 0;
     const std::int32_t below = lastRow + 1 < size.width - 1 ? lastRow + 1 : size.width - 1;
@@ -53,8 +53,8 @@ std::int32_t RowsRead(const TextureSize& size) {
 void AddTexture(RandomStage* stage, RandomNumbers* source, const TextureSize& size) {
     const auto count =
         static_cast<std::size_t>(size.width) * static_cast<std::size_t>(RowsRead(size));
-    const bool behind = source->Below(4) != 0;
-    GuardMemory memory = MakeGuardMemory(count * 2, behind ? GuardSide::Behind : GuardSide::Before);
+    const bool after = source->Below(4) != 0;
+    GuardMemory memory = MakeGuardMemory(count * 2, after ? GuardSide::After : GuardSide::Before);
     auto* pixels = reinterpret_cast<Pixel16*>(memory.bytes);
     const bool keyed = source->Below(2) == 0;
     // A mip level without rows has only guard texels, and those are 0.
@@ -80,7 +80,7 @@ RandomStage MakeRandomStage() {
     RandomStage stage = {};
     RandomNumbers source(1);
     for (int i = 0; i < 2; ++i) {
-        const GuardSide side = i == 0 ? GuardSide::Before : GuardSide::Behind;
+        const GuardSide side = i == 0 ? GuardSide::Before : GuardSide::After;
         stage.frame[i] = MakeGuardMemory(kMaxFramePitch * kMaxFrameHeight, side);
         stage.depth[i] = MakeGuardMemory(kMaxDepthPitch * kMaxFrameHeight, side);
         stage.frameCopy[i].assign(stage.frame[i].size, 0);

@@ -26,7 +26,7 @@ inline constexpr std::int32_t kScenesPerFiller = 8192;
 inline constexpr std::int32_t kFirstScenes = 160;
 
 // The memory that all comparisons share; frames and depth buffers once against the page before,
-// once against the page behind.
+// once against the page after.
 struct RandomStage {
     GuardMemory frame[2];
     GuardMemory depth[2];
@@ -45,7 +45,7 @@ struct RandomComparison {
     std::int64_t visible;          // triangles that changed the frame
     std::int64_t hidden;           // triangles that changed nothing
     std::uint64_t firstScenesHash; // after kFirstScenes; 0 when fewer were asked for
-    std::uint64_t hash;            // of frame and depth behind every scene
+    std::uint64_t hash;            // of frame and depth after every scene
 };
 
 // Draws scenes 0..scenes - 1 of a filler with both implementations and stops at the first

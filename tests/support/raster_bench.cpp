@@ -22,7 +22,7 @@ struct Rooms {
 
     Rooms() {
         for (int i = 0; i < 2; ++i) {
-            const GuardSide side = i == 0 ? GuardSide::Before : GuardSide::Behind;
+            const GuardSide side = i == 0 ? GuardSide::Before : GuardSide::After;
             sides[i] = {MakeGuardMemory(kLargestPicture * 2, side),
                         MakeGuardMemory(kLargestPicture * 4, side)};
         }

@@ -72,7 +72,7 @@ struct TestTexture {
     TestTexture& operator=(const TestTexture&) = delete;
 };
 std::vector<Pixel16> EqualTexels(std::int32_t count, Pixel16 texel);
-// Texel i has the value i + 1: no texel is 0, and a pixel tells which one it shows.
+// Texel i has the value i + 1: no texel is 0, and a pixel shows which one it is.
 std::vector<Pixel16> CountedTexels(std::int32_t count);
 
 struct Corner {

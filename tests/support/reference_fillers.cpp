@@ -3,7 +3,7 @@
 //            T               prepare the vertices, reject, sort by y
 //           / \              two edges start at T: T-M (short) and T-B (long)
 //          /   \             one row: a span from the left edge to the right edge
-//         M     \            behind row YM the short edge becomes M-B
+//         M     \            after row YM the short edge becomes M-B
 //           \    \           .
 //              \  \          Flat on top or at the bottom: two long edges, no M
 //                 \\         .
@@ -206,7 +206,7 @@ Attributes AttributesOf(const Filler& filler, const ScreenPolygon& polygon, int 
     return at;
 }
 
-// Sorts by y, tells flat tops and bottoms; there the corner with the smaller x comes first.
+// Sorts by y, finds flat tops and bottoms; there the corner with the smaller x comes first.
 Triangle SortCorners(const Filler& filler, const ScreenPolygon& polygon, const Rect& clip) {
     Triangle triangle = {};
     Corner* corner = triangle.corner;
@@ -491,7 +491,7 @@ void SkipColumns(Span* span, std::int32_t columns) {
 
 void DrawSpan(const Filler& filler, const ScreenPolygon& polygon, const Target& target, Span span,
               bool insideColumns) {
-    // One behind the last column to draw.
+    // One after the last column to draw.
     std::int32_t end = filler.lastColumnAndRow ? Add(span.right, 1) : span.right;
     if (!insideColumns && span.left < target.clip.left) {
         SkipColumns(&span, Subtract(target.clip.left, span.left));
@@ -509,7 +509,7 @@ void DrawSpan(const Filler& filler, const ScreenPolygon& polygon, const Target& 
 
 // --- the walk ----------------------------------------------------------------------------------
 
-// One behind the last row to draw.
+// One after the last row to draw.
 std::int32_t RowsEnd(const Filler& filler, std::int32_t bottomRow, const Rect& clip) {
     std::int32_t end = bottomRow < clip.bottom ? bottomRow : clip.bottom;
     if (filler.lastColumnAndRow && end < clip.bottom) {

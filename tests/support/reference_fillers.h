@@ -53,7 +53,7 @@ extern const Filler kFillers[kCount];
 const Filler* FindFiller(const char* name);
 
 // Where to draw. Pitches in bytes; depth may be null for fillers without depth, blendTables (eight
-// tables of 65,536, one behind the other) for those that do not blend.
+// tables of 65,536, one after the other) for those that do not blend.
 struct Target {
     Pixel16* frame;
     std::int32_t framePitch;

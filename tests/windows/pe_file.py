@@ -11,7 +11,7 @@ GRAPHICAL = 2
 
 
 def imports(path):
-    """{(dll, function)} in small letters for the dll, as objdump tells them."""
+    """{(dll, function)} in small letters for the dll, as objdump prints them."""
     text = subprocess.run(["x86_64-w64-mingw32-objdump", "-p", str(path)], check=True,
                           stdout=subprocess.PIPE).stdout.decode()
     found, dll = set(), None

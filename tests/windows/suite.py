@@ -597,7 +597,7 @@ def whole_production(suite):
 
 
 def run_cases(suite, waiting, results, lock):
-    """Runs cases until none waits; tells of each, and adds whether it passed to the results."""
+    """Runs cases until none waits; reports each, and adds whether it passed to the results."""
     while True:
         try:
             name, function = waiting.get_nowait()

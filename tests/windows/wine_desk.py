@@ -21,7 +21,7 @@ from x11 import SLOW
 
 WIDTH, HEIGHT = 1280, 1024
 # Wine's server kills a program that takes more than a second to leave, as it may on a busy machine.
-# Its exit code, 0 or not, was given before; what it wrote last tells.
+# Its exit code, 0 or not, was given before; what it wrote last counts.
 KILLED_LEAVING = -9
 
 

@@ -230,7 +230,7 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
     }
     const bool asksHelp = options->production.find("-?") != std::string::npos;
     if (!Records(*options) && !asksHelp) {
-        return "nothing to record: give --png, --video, --hashes or --verify; --help tells more";
+        return "nothing to record: give --png, --video, --hashes or --verify; see --help";
     }
     const std::string problem = CheckVideo(options);
     return problem.empty() ? CheckVerify(*options) : problem;
@@ -259,7 +259,7 @@ std::string HelpText() {
         ".webp;\n"
         "                     each shows the frame that is due at its time\n"
         "  --resume           lets the .mp4 grow in pieces of ten seconds, which stay in\n"
-        "                     FILE.pieces when it breaks off; the same call goes on behind them\n"
+        "                     FILE.pieces when it breaks off; the same call goes on after them\n"
         "  --hashes FILE      writes a line a frame: frame 123 scene 0 faces 4567 hash 0123...\n"
         "                     (scene that drew it, faces drawn, hash of its pixels); - is\n"
         "                     standard output\n"

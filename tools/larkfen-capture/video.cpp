@@ -343,8 +343,7 @@ void DropVideo(Video* video) {
     }
     const std::size_t kept = WholePieces(*video).size();
     if (kept > 0) {
-        std::fprintf(stderr,
-                     "%s holds %zu pieces of %d frames; the same call goes on behind them\n",
+        std::fprintf(stderr, "%s holds %zu pieces of %d frames; the same call goes on after them\n",
                      PiecesOf(*video).c_str(), kept, kPieceFrames);
     } else {
         std::error_code error;

@@ -24,7 +24,7 @@ struct VideoRequest {
     std::int64_t firstFrame; // of the production: where in the soundtrack the video begins
     std::int32_t width, height;
     std::int32_t rate;    // pictures a second
-    bool resume;          // in pieces; goes on behind those that are there
+    bool resume;          // in pieces; goes on after those that are there
     std::string settings; // whatever else makes the pictures; pieces of other settings are refused
 };
 

@@ -189,7 +189,7 @@ void CheckObjects(const std::vector<Entry>& entries, const std::vector<bool>& lo
     if (last.faceCount > kDummyFaces) {
         Warn(report, entries.back().place, nullptr,
              {"the last object has " + Format("%d faces", last.faceCount), "it is never drawn",
-              "put a small dummy behind it"});
+              "put a small dummy after it"});
     }
     if (count < 4) {
         Warn(report, entries.back().place, nullptr,

@@ -1,4 +1,4 @@
-// The walk tells of the text; here the loaded mesh is looked at.
+// The walk reports on the text; here the loaded mesh is looked at.
 #include "object.h"
 
 #include <algorithm>
@@ -157,7 +157,7 @@ void CheckFaces(const Looked& l) {
     }
 }
 
-// Whether every edge has its twin; then the sign of the volume tells which side is seen.
+// Whether every edge has its twin; then the sign of the volume says which side is seen.
 bool IsClosed(const Mesh& mesh) {
     using Place = std::array<float, 3>;
     std::map<Place, std::int32_t> places;

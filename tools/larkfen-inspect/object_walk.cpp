@@ -1,5 +1,5 @@
 // The walk follows the loader step by step: what it searches for, what it takes unseen, and where
-// it gives up. After a refusal it goes on where that still tells something.
+// it gives up. After a refusal it goes on where that can still find something.
 #include "object_walk.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ struct Walk {
     std::int64_t nearMiss; // of this search: a line that fits but for letter case
     std::int64_t passedBlock;
     bool inBlock;
-    const LineForm* listForm; // lines of this form behind a list are too many for its count
+    const LineForm* listForm; // lines of this form after a list are too many for its count
     const char* listName;
     std::int64_t listLine;
     bool used[kMaterialNumbers];
@@ -112,7 +112,7 @@ void CheckNumberWord(Walk* walk, const std::string& word) {
              {Quote(word) + " has no digits", "it counts as 0", "write the number"});
     } else if (word.find_first_of("dD") != std::string::npos) {
         Warn(walk->report, walk->line, "d exponent",
-             {Quote(word) + " has an exponent behind a d",
+             {Quote(word) + " has an exponent after a d",
               Format("the number ends at the d and is %g", value), "write e"});
     } else if (!(value > -3.5e38 && value < 3.5e38)) {
         Warn(walk->report, walk->line, "infinite",
@@ -446,7 +446,7 @@ void CheckTextureName(Walk* walk) {
     if (std::strncmp(line, "file name: string ", kFileNameStart) != 0) {
         Warn(walk->report, walk->line, nullptr,
              {"the texture's name does not begin in column 19", "it is taken as " + Quote(base),
-              "write 'file name: string \"./NAME\"' with one blank behind each word"});
+              "write 'file name: string \"./NAME\"' with one blank after each word"});
     } else if (taken.size() < name.size()) {
         Warn(walk->report, walk->line, nullptr,
              {Format("a texture name of %zu characters", name.size()),
@@ -458,7 +458,7 @@ void CheckTextureName(Walk* walk) {
     } else if (std::any_of(name.begin(), name.end(), [](char c) { return (c & 0x80) != 0; })) {
         Warn(walk->report, walk->line, nullptr,
              {"the texture's name has letters beyond ASCII",
-              "it is taken from behind the last of them: " + Quote(base),
+              "it is taken from after the last of them: " + Quote(base),
               "rename the file with plain letters"});
     } else if (name.find_first_of("/\\") == std::string::npos) {
         Warn(walk->report, walk->line, nullptr,
@@ -628,13 +628,13 @@ bool WalkMaterials(Walk* walk) {
     return true;
 }
 
-// What stands behind the last block that is read.
+// What stands after the last block that is read.
 void WalkRest(Walk* walk) {
     const std::int64_t from = walk->line;
     while (NextLine(walk)) {
         if (walk->line > from && Fits(&walk->scratch, walk->reader.line, kMaterial)) {
-            Warn(walk->report, walk->line, "block behind the last",
-                 {"a material block behind the last that is read",
+            Warn(walk->report, walk->line, "block after the last",
+                 {"a material block after the last that is read",
                   Format("as many are read as numbers are used: %d", walk->facts->materialCount),
                   "remove it, or the blocks before it that are not needed"});
         }

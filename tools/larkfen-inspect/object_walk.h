@@ -1,5 +1,5 @@
 // Goes through an object file line by line as the loader does, with the loader's own reader,
-// matcher and table of lines, and tells of every line what the loader makes of it.
+// matcher and table of lines, and says of every line what the loader makes of it.
 #pragma once
 
 #include <cstdint>

@@ -19,7 +19,7 @@ struct Finding {
     std::int64_t place;
     std::string kind;
     std::string text;
-    std::int32_t more; // findings of this kind behind it that are not told
+    std::int32_t more; // findings of this kind after it that are not printed
 };
 
 struct Report {
@@ -50,7 +50,7 @@ void Row(Report* report, const char* name, const std::string& value);
 // "file:place: what; what the production does; how to mend it", by place, a line each.
 std::string FindingLines(const Report& report);
 
-// A file in memory: one block, and a zero byte behind the file's own.
+// A file in memory: one block, and a zero byte after the file's own.
 struct FreeBlock {
     void operator()(char* block) const { std::free(block); }
 };

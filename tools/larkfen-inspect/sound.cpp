@@ -47,7 +47,7 @@ bool ReadHeader(const unsigned char* p, SoundFrame* frame) {
     return frame->bytes > 4;
 }
 
-// Behind a tag at the start.
+// After a tag at the start.
 std::size_t StartOf(std::string_view bytes) {
     if (bytes.size() < kTagHeader || bytes.compare(0, 3, "ID3") != 0) {
         return 0;

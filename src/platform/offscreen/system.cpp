@@ -1,4 +1,4 @@
-// Window, messages, boxes, cursor and clock as the script tells them.
+// Window, messages, boxes, cursor and clock as the script has them.
 #include <filesystem>
 
 #include "base/float_mode.h"

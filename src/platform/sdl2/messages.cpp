@@ -69,7 +69,7 @@ void PostWindowDestroy() {
 }
 
 bool EscapeKeyDown() {
-    // A press shorter than a frame counts too, whether an event tells of it or the window system's
+    // A press shorter than a frame counts too, whether an event reports it or the window system's
     // own record; a key that is held is asked for.
     TakeEvents();
     const bool pressed = sdl2.escapePressed != 0;

@@ -32,7 +32,7 @@ bool ReadWholeFile(Mp3Stream* stream, const char* path) {
     if (file == nullptr) {
         return false;
     }
-    // A device or a pipe tells no size.
+    // A device or a pipe has no size.
     const long size = std::fseek(file, 0, SEEK_END) == 0 ? std::ftell(file) : -1;
     if (size > 0 && static_cast<std::size_t>(size) <= kMaxFile) {
         std::rewind(file);
@@ -83,12 +83,12 @@ bool FindFirstFrame(Mp3Stream* stream) {
     return false;
 }
 
-// One frame as it comes out of the decoder, and what it tells about the whole file.
+// One frame as it comes out of the decoder, and what it says about the whole file.
 struct DecodedFrame {
     short left[kMp3FrameSamples], right[kMp3FrameSamples];
     std::int32_t samples; // a channel; 0 at the end of the file
     mp3data_struct facts;
-    int delay, padding; // samples the encoder put in front and behind; -1: not told
+    int delay, padding; // samples the encoder put before and after; -1: not stated
 };
 
 void DecodeFrame(Mp3Stream* stream, DecodedFrame* frame) {

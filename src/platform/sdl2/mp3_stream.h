@@ -1,5 +1,5 @@
 // An MP3 file as a stream of samples: the file is read at once, its frames are decoded when they
-// are asked for. What the encoder put before and behind the music is left out. Caller: the sound
+// are asked for. What the encoder put before and after the music is left out. Caller: the sound
 // table.
 #pragma once
 

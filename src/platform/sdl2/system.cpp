@@ -13,7 +13,7 @@ namespace ombrel {
 
 namespace {
 
-// A sleep may end late; what is left behind it is waited for at the clock.
+// A sleep may end late; the rest is waited for at the clock.
 constexpr std::uint32_t kAwakeBeforeFrame = 2; // ms
 constexpr long kNanosecondsAMillisecond = 1000000;
 

@@ -1,5 +1,5 @@
-// What is asked of X behind the back of SDL. The Escape key while another window has the focus: X
-// tells the state of every key to whoever asks and, since version 2.1 of its input extension, every
+// What is asked of X without SDL. The Escape key while another window has the focus: X
+// gives the state of every key to whoever asks and, since version 2.1 of its input extension, every
 // press as it comes from the keyboard, so that not even a short one is lost. Other window systems
 // do not; there the window needs the focus. And whether there is a window manager.
 #include <SDL_config.h>

@@ -116,7 +116,7 @@ TEST_F(Bmp, R24_PixelsAreTheEndOfTheFile) {
     recipe.dataOffset = 60;
     ASSERT_EQ(Load(recipe), 1);
     EXPECT_EQ(std::string(image.pixels, image.pixels + 2), Bytes({7, 8}));
-    // A file that goes on behind its pixels gives that end instead.
+    // A file that goes on after its pixels gives that end instead.
     ASSERT_EQ(LoadBytes(BmpBytes(recipe) + Bytes({1, 2})), 1);
     EXPECT_EQ(std::string(image.pixels, image.pixels + 2), Bytes({1, 2}));
 }

@@ -262,7 +262,7 @@ TEST_F(BrokenObject, FullMaterialTable) {
 }
 
 TEST_F(BrokenObject, WhatAFailedLoadLeftInTheTableDoesNoHarm) {
-    // The first file fails behind its texture map; its flags stay in record 0 of the table, and the
+    // The first file fails after its texture map; its flags stay in record 0 of the table, and the
     // next object uses that record.
     CobFile file;
     file.materials[0].texture = "/absent.bmp";

@@ -143,7 +143,7 @@ TEST_F(ObjectLoader, ObjectFrame) {
     file.axes[1] = "4 5 6";
     file.axes[2] = "7 8 10";
     EXPECT_EQ(Place("1 10 100", LOAD_OBJECT_FRAME, file), (Triple{321, 654, 1087}));
-    // The centre is taken off behind the axes.
+    // The centre is taken off after the axes.
     file.center = "1 1 1";
     EXPECT_EQ(Place("1 10 100", LOAD_OBJECT_FRAME, file), (Triple{320, 653, 1086}));
 }

@@ -51,7 +51,7 @@ TEST_F(Mp3StreamTest, TheSoundtrackHasItsLengthWithoutWhatTheEncoderAdded) {
     EXPECT_EQ(stream_.rate, 44100);
     EXPECT_EQ(stream_.channels, 2);
     const std::vector<short> samples = Rest();
-    // The length that the file itself states: 7447 frames of 1152, less 576 in front, 918 behind.
+    // The length that the file itself states: 7447 frames of 1152, less 576 before, 918 after.
     EXPECT_EQ(samples.size() / 2, std::size_t{7447} * 1152 - 576 - 918);
     const auto [low, high] = std::minmax_element(samples.begin(), samples.end());
     EXPECT_LT(*low, -8000);

@@ -16,21 +16,21 @@ namespace {
 // Death tests run in a child of their own.
 TEST(GuardMemoryDeathTest, ByteAfterAndByteBeforeCannotBeTouched) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    GuardMemory behind = MakeGuardMemory(100, GuardSide::Behind);
+    GuardMemory after = MakeGuardMemory(100, GuardSide::After);
     GuardMemory before = MakeGuardMemory(100, GuardSide::Before);
-    volatile unsigned char* last = behind.bytes;
+    volatile unsigned char* last = after.bytes;
     volatile unsigned char* first = before.bytes;
     last[99] = 1;
     first[0] = 1;
     EXPECT_DEATH(last[100] = 1, "");
     EXPECT_DEATH(first[-1] = 1, "");
     EXPECT_DEATH((void)last[100], "");
-    FreeGuardMemory(&behind);
+    FreeGuardMemory(&after);
     FreeGuardMemory(&before);
 }
 
 TEST(GuardMemory, MarksShowWhatWasTouchedOnTheOtherSide) {
-    for (const GuardSide side : {GuardSide::Before, GuardSide::Behind}) {
+    for (const GuardSide side : {GuardSide::Before, GuardSide::After}) {
         GuardMemory memory = MakeGuardMemory(5000, side);
         EXPECT_TRUE(GuardIntact(memory));
         memory.bytes[0] = 1;
@@ -45,7 +45,7 @@ TEST(GuardMemory, MarksShowWhatWasTouchedOnTheOtherSide) {
 }
 
 TEST(GuardMemory, WholePagesHaveNoRoomForMarksAndAreZeroed) {
-    GuardMemory memory = MakeGuardMemory(8192, GuardSide::Behind);
+    GuardMemory memory = MakeGuardMemory(8192, GuardSide::After);
     EXPECT_TRUE(
         std::all_of(memory.bytes, memory.bytes + 8192, [](unsigned char b) { return b == 0; }));
     EXPECT_TRUE(GuardIntact(memory));
@@ -177,7 +177,7 @@ private:
 };
 
 TEST_P(Memory, NothingOutsideIsTouched) {
-    for (const GuardSide side : {GuardSide::Before, GuardSide::Behind}) {
+    for (const GuardSide side : {GuardSide::Before, GuardSide::After}) {
         for (const bool wild : {false, true}) {
             DrawMany(side, {16, 64, 64}, wild);
         }
@@ -185,7 +185,7 @@ TEST_P(Memory, NothingOutsideIsTouched) {
 }
 
 TEST_P(Memory, NothingOutsideIsTouchedWithOddTextures) {
-    for (const GuardSide side : {GuardSide::Before, GuardSide::Behind}) {
+    for (const GuardSide side : {GuardSide::Before, GuardSide::After}) {
         for (const bool wild : {false, true}) {
             for (const TextureShape& shape : {TextureShape{16, 64, 16},
                                               {16, 16, 64},

@@ -330,7 +330,7 @@ TEST_F(Pixels, EqualDepthDoesNotOverwrite) {
         Draw(&twice, id, MakePolygon(corners, &other.record, {0x7800, 0x7800, 0x7800}));
         EXPECT_EQ(twice, once) << RowOf(id).name;
     }
-    // One step behind is overwritten.
+    // One step after it is overwritten.
     for (const FillerId id : {FillGouraudZ, FillFlatW}) {
         const std::uint32_t equal = id == FillFlatW ? 2684354U : (100U << 16) + 0x8000U;
         Picture picture(64, 48, id == FillFlatW ? equal - 1 : equal + 1);
