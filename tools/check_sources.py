@@ -21,7 +21,7 @@ MAY_INCLUDE = {
     "player": ["base/", "math/", "assets/", "scene/", "raster/", "demo/", "platform/*.h"],
     "app": [""],
 }
-BACKENDS = ["win32", "sdl2", "offscreen"]
+BACKENDS = ["win32", "sdl2", "offscreen", "web"]
 SYSTEM_HEADERS = re.compile(
     r"windows\.h|mmsystem\.h|ddraw\.h|SDL|unistd\.h|signal\.h|sys/|dlfcn\.h|X11/|immintrin\.h|"
     r"[a-z]mmintrin\.h|x86intrin\.h|cpuid\.h|arm_neon\.h|shellapi\.h")

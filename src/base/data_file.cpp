@@ -3,16 +3,13 @@
 
 #include <cctype>
 #include <cstring>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 
+#include "base/file_store.h"
 #include "base/memory_reserve.h"
 #include "base/text.h"
 
 namespace ombrel {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -21,6 +18,8 @@ constexpr std::string_view kDataPrefix = "./data";
 constexpr std::size_t kMaxFolderLength = 4095;
 constinit char dataFolder[kMaxFolderLength + 1] = "";
 constinit MissingFileHook missingFileHook = nullptr;
+
+} // namespace
 
 bool SameLetters(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) {
@@ -34,49 +33,6 @@ bool SameLetters(std::string_view a, std::string_view b) {
     }
     return true;
 }
-
-// The entry of folder whose name is name but for letter case; the first in sorted order when
-// several are, so that every system picks the same. Empty when there is none.
-std::string EntryInAnyCase(const fs::path& folder, std::string_view name) {
-    std::string best;
-    std::error_code error;
-    for (fs::directory_iterator it(folder, error), last; !error && it != last;
-         it.increment(error)) {
-        std::string entry = it->path().filename().string();
-        if (SameLetters(entry, name) && (best.empty() || entry < best)) {
-            best = std::move(entry);
-        }
-    }
-    return best;
-}
-
-bool Exists(const fs::path& path) {
-    std::error_code error;
-    return fs::exists(path, error);
-}
-
-// Walks the parts of relative below root, forgiving letter case where a part is not there as
-// written.
-std::string FindBelow(const fs::path& root, const fs::path& relative) {
-    fs::path found = root;
-    for (const fs::path& part : relative) {
-        if (part.empty() || part == ".") {
-            continue;
-        }
-        if (!Exists(found / part)) {
-            const std::string entry = EntryInAnyCase(found.empty() ? "." : found, part.string());
-            if (entry.empty()) {
-                return {};
-            }
-            found /= entry;
-        } else {
-            found /= part;
-        }
-    }
-    return found.string();
-}
-
-} // namespace
 
 void SetDataFolder(const std::string& folder) {
     const std::size_t length = folder.size() <= kMaxFolderLength ? folder.size() : 0;
@@ -105,11 +61,10 @@ std::string FindDataFile(const char* path) {
     const bool below = SameLetters(prefix, kDataPrefix) &&
                        (name.size() == kDataPrefix.size() || name[kDataPrefix.size()] == '/');
     if (!below) {
-        return Exists(name) ? name : std::string{};
+        return IsStored(name) ? name : std::string{};
     }
     const std::string rest = name.substr(kDataPrefix.size());
-    const fs::path root = dataFolder[0] == '\0' ? fs::path("data") : fs::path(dataFolder);
-    return FindBelow(root, fs::path(rest).relative_path());
+    return FindStoredBelow(dataFolder[0] == '\0' ? "data" : dataFolder, rest);
 }
 
 void SetMissingFileHook(MissingFileHook hook) {
@@ -120,11 +75,7 @@ std::FILE* OpenDataFile(const char* path, const char* mode) {
     KeepMemoryReserve(); // again, where the names of the file before took of it
     // Always binary: a text file read here never depends on the system's idea of a line end.
     (void)mode;
-    const std::string found = FindDataFile(path);
-    std::error_code error;
-    // Folders cannot be read, and a device or a pipe may never end.
-    const bool readable = !found.empty() && fs::is_regular_file(found, error);
-    std::FILE* const file = readable ? std::fopen(found.c_str(), "rb") : nullptr;
+    std::FILE* const file = OpenStored(FindDataFile(path));
     if (file == nullptr && missingFileHook != nullptr) {
         missingFileHook(path);
     }

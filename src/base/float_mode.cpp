@@ -1,6 +1,8 @@
 // The control register of the unit that computes single precision, by architecture.
 // x86: MXCSR (bits 13..14 rounding, 15 flush results, 6 denormal inputs are zero).
 // ARM64: FPCR (bits 22..23 rounding, 24 flush).
+// WebAssembly has one mode, to nearest: there Single (single.h) cuts by itself, always, and what is
+// kept here only answers who asks.
 #include "base/float_mode.h"
 
 namespace ombrel {
@@ -32,6 +34,19 @@ std::uint64_t ReadControl() {
 }
 void WriteControl(std::uint64_t value) {
     __asm__ volatile("msr fpcr, %0" : : "r"(value));
+}
+#elif defined(__wasm__)
+constexpr std::uint64_t kModeBits = 1;
+constexpr std::uint64_t kChopBits = 1;
+constexpr std::uint64_t kRoundBits = 1;
+constexpr std::uint64_t kRoundChop = 1;
+constinit std::uint64_t control = 0;
+
+std::uint64_t ReadControl() {
+    return control;
+}
+void WriteControl(std::uint64_t value) {
+    control = value;
 }
 #else
 #error "Say here how this processor is put into round-toward-zero mode."

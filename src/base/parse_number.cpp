@@ -1,12 +1,9 @@
-// Finds the extent of a number by the program's own grammar, then leaves the exact conversion to
-// the standard library's from_chars, which knows no locale.
+// Finds the extent of a number by the program's own grammar, then leaves the exact conversion to a
+// library.
 #include "base/parse_number.h"
 
-#include <charconv>
-#include <limits>
-#include <system_error>
-
 #include "base/float_mode.h"
+#include "base/nearest_float.h"
 #include "base/text.h"
 
 namespace ombrel {
@@ -39,35 +36,6 @@ struct Text {
         return there;
     }
 };
-
-// from_chars leaves the value alone when it is out of range. Whether it is too large or too small
-// is read off the decimal exponent of the first digit that counts.
-bool IsLarge(const char* p, const char* last) {
-    long position = 0; // decimal exponent of the first non-zero digit
-    bool found = false;
-    bool afterPoint = false;
-    for (; p < last && (IsDigit(*p) || *p == '.'); ++p) {
-        if (*p == '.') {
-            afterPoint = true;
-        } else if (!found) {
-            found = *p != '0';
-            position -= afterPoint ? 1 : 0;
-        } else if (!afterPoint) {
-            ++position;
-        }
-    }
-    long exponent = 0;
-    if (p < last) {
-        const bool negative = p[1] == '-';
-        for (++p; p < last; ++p) {
-            if (IsDigit(*p) && exponent < 100000000) {
-                exponent = exponent * 10 + (*p - '0');
-            }
-        }
-        exponent = negative ? -exponent : exponent;
-    }
-    return found && position + exponent > 0;
-}
 
 } // namespace
 
@@ -102,11 +70,7 @@ float ParseFloat(const char* text, const char** end) {
     const bool negative = *number.first == '-';
     const char* const first = SkipSign(number.first);
     const ScopedFloatMode nearest(FloatMode::Nearest);
-    float value = 0.0F;
-    const auto result = std::from_chars(first, last, value, std::chars_format::general);
-    if (result.ec == std::errc::result_out_of_range) {
-        value = IsLarge(first, last) ? std::numeric_limits<float>::infinity() : 0.0F;
-    }
+    const float value = NearestFloat(first, last);
     return negative ? -value : value;
 }
 

@@ -25,7 +25,7 @@ struct ShowState {
     std::vector<Snapshot> snapshots; // number n was taken after n * distance frames
     Snapshot before;                 // before the shown frame
 };
-constinit ShowState show = {};
+ShowState show = {}; // no constinit: not every library has vectors for that
 
 // Keeps the state that the next frame starts from, where its number asks for it.
 void KeepSnapshot() {

@@ -28,7 +28,7 @@ struct Recording {
     std::vector<std::uint32_t> depth; // of the masks
     std::int32_t next;                // in the list, after the face drawn last
 };
-constinit Recording recording = {};
+Recording recording = {}; // no constinit: not every library has vectors for that
 
 // The pixels a triangle may touch, right and bottom excluded.
 Rect BoxOf(const ScreenPolygon& polygon, const Rect& clip) {
