@@ -4,7 +4,7 @@ set(CMAKE_SYSTEM_NAME Generic)
 set(CMAKE_SYSTEM_PROCESSOR wasm32)
 set(CMAKE_CXX_COMPILER clang++-14)
 set(CMAKE_CXX_COMPILER_TARGET wasm32-wasi)
-set(CMAKE_CXX_FLAGS_INIT -msimd128)
+set(CMAKE_CXX_FLAGS_INIT "-msimd128 -mnontrapping-fptoint -mbulk-memory -msign-ext")
 # A library of functions without a main program.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -mexec-model=reactor)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

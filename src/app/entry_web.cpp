@@ -112,7 +112,7 @@ OMBREL_EXPORT(ombrel_version)()->const char* {
 OMBREL_EXPORT(ombrel_open)
 (std::int32_t width, std::int32_t height, std::size_t snapshotBytes)->std::int32_t {
     ombrel::CloseShow();
-    ombrel::ResetWeb;
+    ombrel::ResetWeb();
     show.missing.clear();
     ombrel::SetMissingFileHook(NoteMissing);
     return ombrel::OpenShow({ombrel::RenderFrame, width, height, 0, snapshotBytes}) ? 1 : 0;

@@ -137,13 +137,13 @@ int CopyPixels(Texture* texture, const BmpImage* image, const CopySource& from) 
 }
 
 // One channel of a mip texel. REQUIRED R26: brighter than the mean.
-std::uint32_t MipChannel(std::int32_t sum, float brightness, std::int32_t largest) {
-    const float value = static_cast<float>(sum) * brightness * 0.25F + 0.5F;
+std::uint32_t MipChannel(std::int32_t sum, Single brightness, std::int32_t largest) {
+    const Single value = static_cast<Single>(sum) * brightness * 0.25F + 0.5F;
     return static_cast<std::uint32_t>(std::clamp(ToIntChop(value), 0, largest));
 }
 
 // Fills a level from the one before it, whose rows are taken to be twice as long as the level's.
-void FilterLevel(const Pixel16* source, Texture* level, float brightness) {
+void FilterLevel(const Pixel16* source, Texture* level, Single brightness) {
     auto* const out = static_cast<Pixel16*>(level->pixels);
     const std::ptrdiff_t width = level->width;
     const std::ptrdiff_t height = level->height;
@@ -249,7 +249,7 @@ int copyPixels16(Texture* texture, const BmpImage* image, std::int32_t x, std::i
     return CopyPixels(texture, image, {x, y, direct != 0, 2});
 }
 
-int buildMipChain(Texture* texture, Texture*** chain, float brightness) {
+int buildMipChain(Texture* texture, Texture*** chain, Single brightness) {
     *chain = nullptr;
     if (texture->width < 0 || texture->width >= kLog2TableSize) {
         return 0;

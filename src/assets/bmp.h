@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "assets/texture.h"
+#include "base/single.h"
 
 namespace ombrel {
 
@@ -74,7 +75,7 @@ int copyPixels16(Texture* texture, const BmpImage* image, std::int32_t x, std::i
 // others half the size of the one before (halves cut, so a height can be 0) and 16 bits a pixel. A
 // texel is sum of four * brightness / 4 + 0.5 for each channel, cut down, at most the channel's
 // largest value. 0, and *chain null: no memory, or a width outside the floor-log2 table (0..1024).
-int buildMipChain(Texture* texture, Texture*** chain, float brightness);
+int buildMipChain(Texture* texture, Texture*** chain, Single brightness);
 void releaseMipChain(Texture** chain); // the levels above 0 and the array, not the texture itself
 
 } // namespace ombrel

@@ -175,7 +175,7 @@ bool TestWord(LineReader* reader, const Token& token, const Words& words, Word* 
             return false;
         }
         if (reader->floatCount < kMaxTokens) {
-            reader->floats[reader->floatCount++] = static_cast<float>(value);
+            reader->floats[reader->floatCount++] = static_cast<Single>(value);
         }
         return true;
     }

@@ -11,6 +11,8 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "base/single.h"
+
 namespace ombrel {
 
 inline constexpr std::int32_t kMaxLine = 1024; // characters of a line, the closing zero included
@@ -36,7 +38,7 @@ struct LineReader {
     char commentMarker[kMaxMarker] = "#";
     char words[kMaxTokens][kMaxWord] = {}; // results of the last match; entries at and beyond the
     std::int32_t wordCount = 0;            // counts keep what earlier matches left
-    float floats[kMaxTokens] = {};
+    Single floats[kMaxTokens] = {};
     std::int32_t floatCount = 0;
     std::int32_t ints[kMaxTokens] = {};
     std::int32_t intCount = 0;

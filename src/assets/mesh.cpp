@@ -76,20 +76,20 @@ int ReleaseMesh(Mesh* mesh) {
 
 Single ComputeMeshRadius(Mesh* mesh) {
     const std::ptrdiff_t start = static_cast<std::ptrdiff_t>(mesh->currentCopy) * mesh->vertexCount;
-    double sum = 0.0;
-    double largest = 0.0;
+    Double sum = 0.0;
+    Double largest = 0.0;
     for (std::int32_t i = 0; i < mesh->vertexCount; ++i) {
         const Vertex& vertex = mesh->vertices[start + i];
-        const double x = static_cast<double>(vertex.x);
-        const double y = static_cast<double>(vertex.y);
-        const double z = static_cast<double>(vertex.z);
-        const double distance = __builtin_sqrt(x * x + y * y + z * z);
+        const auto x = static_cast<Double>(vertex.x);
+        const auto y = static_cast<Double>(vertex.y);
+        const auto z = static_cast<Double>(vertex.z);
+        const Double distance = SquareRoot(x * x + y * y + z * z);
         sum += distance;
         largest = distance > largest ? distance : largest;
     }
     // Without vertices the mean is 0 / 0, not a number.
     mesh->avgRadius[mesh->currentCopy] =
-        static_cast<Single>(sum / static_cast<double>(mesh->vertexCount));
+        static_cast<Single>(sum / static_cast<Double>(mesh->vertexCount));
     mesh->maxRadius[mesh->currentCopy] = static_cast<Single>(largest);
     return mesh->maxRadius[mesh->currentCopy];
 }

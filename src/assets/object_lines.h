@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "assets/mesh.h"
+#include "base/single.h"
 
 namespace ombrel::cob {
 
@@ -62,9 +63,9 @@ inline constexpr const ShadingClass& kDefaultClass = kClasses[1];
 inline constexpr std::size_t kFileNameStart = 18;     // REQUIRED R18: characters before the name
 inline constexpr std::int32_t kMaterialNumbers = 256; // numbers a file can use
 inline constexpr char kTextureFolder[] = "./data/texture/";
-inline constexpr float kMipBrightness = 1.01F;
-inline constexpr float kFilterScale = 0.02745098F; // 7 / 255
-inline constexpr long kShortestVertexLine = 6;     // "0 0 0" and a line end
+inline constexpr Single kMipBrightness = 1.01F;
+inline constexpr Single kFilterScale = 0.02745098F; // 7 / 255
+inline constexpr long kShortestVertexLine = 6;      // "0 0 0" and a line end
 
 // What follows the last slash, backslash or character beyond ASCII of a texture's name.
 const char* BaseName(const char* name);

@@ -69,7 +69,7 @@ bool SearchCount(LineReader* reader, const LineForm& form, std::int64_t limit) {
     return Search(reader, form) && reader->ints[0] >= 0 && reader->ints[0] <= limit;
 }
 
-void SetColumn(Matrix4* matrix, std::size_t column, const float* values) {
+void SetColumn(Matrix4* matrix, std::size_t column, const Single* values) {
     for (std::size_t row = 0; row < 3; ++row) {
         matrix->m[row][column] = values[row];
     }
@@ -145,7 +145,7 @@ Vec3 PlaceVertex(const Load& load, Vec3 position) {
     if (HasOption(load, LOAD_SWAP_XY)) {
         std::swap(position.x, position.y);
     }
-    if (const float* const scale = load.request->scale; scale != nullptr) {
+    if (const Single* const scale = load.request->scale; scale != nullptr) {
         position.x *= scale[0];
         position.y *= scale[1];
         position.z *= scale[2];
@@ -169,7 +169,7 @@ bool ReadVertices(Load* load) {
         if (!Search(reader, kThree)) {
             return false;
         }
-        const float* const f = reader->floats;
+        const Single* const f = reader->floats;
         const Vec3 position = PlaceVertex(*load, {f[0], f[1], f[2], 1.0F});
         Vertex& vertex = mesh->vertices[i];
         vertex.x = position.x;
@@ -378,7 +378,7 @@ bool ReadTransparency(LineReader* reader, Material* material) {
         }
         const std::int32_t* const rgb = reader->ints;
         const std::int32_t brightest = std::max({rgb[0], rgb[1], rgb[2]});
-        const std::uint8_t level = ToByte(static_cast<float>(brightest) * kFilterScale);
+        const std::uint8_t level = ToByte(static_cast<Single>(brightest) * kFilterScale);
         material->color[0] = std::min<std::uint8_t>(level, 7);
     }
     return true;

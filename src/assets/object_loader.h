@@ -7,6 +7,7 @@
 
 #include "assets/bmp.h"
 #include "assets/mesh.h"
+#include "base/single.h"
 
 namespace ombrel {
 
@@ -25,7 +26,7 @@ inline constexpr std::uint32_t LOAD_TRANSFORM = 0x400;
 inline constexpr std::uint32_t LOAD_SWAP_UV = 0x800;
 
 struct LoadRequest {
-    const float* scale;                // three factors, or null for none
+    const Single* scale;               // three factors, or null for none
     const Vec3* position;              // or null for (0, 0, 0, 1)
     std::uint32_t options;             // LOAD_...
     std::int32_t mipMode;              // 1: mip chain; 0: none; other: see below

@@ -1,11 +1,12 @@
 // The control register of the unit that computes single precision, by architecture.
 // x86: MXCSR (bits 13..14 rounding, 15 flush results, 6 denormal inputs are zero).
 // ARM64: FPCR (bits 22..23 rounding, 24 flush).
-// WebAssembly has one mode, to nearest: there Single (single.h) cuts by itself, always, and what is
-// kept here only answers who asks.
+// WebAssembly: none; a variable in its place, which the numbers of cut_single.h read.
 #include "base/float_mode.h"
 
 namespace ombrel {
+
+constinit bool numbersAreCut = false;
 
 namespace {
 
@@ -40,13 +41,12 @@ constexpr std::uint64_t kModeBits = 1;
 constexpr std::uint64_t kChopBits = 1;
 constexpr std::uint64_t kRoundBits = 1;
 constexpr std::uint64_t kRoundChop = 1;
-constinit std::uint64_t control = 0;
 
 std::uint64_t ReadControl() {
-    return control;
+    return numbersAreCut ? 1 : 0;
 }
 void WriteControl(std::uint64_t value) {
-    control = value;
+    numbersAreCut = value != 0;
 }
 #else
 #error "Say here how this processor is put into round-toward-zero mode."

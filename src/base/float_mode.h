@@ -16,6 +16,10 @@ enum class FloatMode {
 void SetFloatMode(FloatMode mode);
 FloatMode CurrentFloatMode();
 
+// WebAssembly has one mode, to nearest. There the numbers of cut_single.h keep to what this says.
+// Written by SetFloatMode and ScopedFloatMode; of no meaning elsewhere.
+extern bool numbersAreCut;
+
 // Sets a mode for a block and puts the old one back.
 class ScopedFloatMode {
 public:

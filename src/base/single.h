@@ -6,18 +6,34 @@
 #include <cstdint>
 
 #include "base/convert.h"
+#if defined(__wasm__)
+#include "base/cut_single.h"
+#endif
 
 namespace ombrel {
 
 // A single whose sums, products, quotients and roots are cut toward zero and whose denormals are
-// zero. Processors do that by themselves in the mode of float_mode.h, so here it is a float; a
-// platform without such a mode has a class in its place. Code for it therefore writes conversions
-// from and to other numbers out, and takes roots and absolute values by the functions below.
+// zero. Processors do that by themselves in the mode of float_mode.h, so there it is a float;
+// WebAssembly, which has no such mode, has a class in its place. Code for it therefore writes
+// conversions from and to other numbers out, and takes roots and absolute values by the functions
+// below. Double is the same for the few sums that are wider.
+#if defined(__wasm__)
+using Single = CutSingle;
+using Double = CutDouble;
+#else
 using Single = float;
+using Double = double;
 
 inline Single SquareRoot(Single value) {
     return __builtin_sqrtf(value);
 }
+inline Double SquareRoot(Double value) {
+    return __builtin_sqrt(value);
+}
+inline Single AbsoluteValue(Single value) {
+    return __builtin_fabsf(value);
+}
+#endif
 
 // One lane: a number itself. The sets of src/lanes, one an instruction set, have the same
 // operations for several at a time, and give each lane the bits of this one.
@@ -26,7 +42,7 @@ struct PlainFloats {
     using Ints = std::int32_t;
     using Mask = bool; // what a comparison gives; masks are joined by &
 
-    static Floats Abs(Floats v) { return __builtin_fabsf(v); }
+    static Floats Abs(Floats v) { return AbsoluteValue(v); }
     // Toward zero; what no 32-bit integer holds gives INT32_MIN.
     static Ints ToIntChop(Floats v) { return ombrel::ToIntChop(v); }
     static Floats ToFloat(Ints v) { return static_cast<Floats>(v); }

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "assets/object_loader.h"
+#include "base/single.h"
 #include "demo/world.h"
 
 namespace ombrel {
@@ -15,7 +16,7 @@ static_assert(kFixedOptions == 0x610);
 struct FixedObject {
     Mesh World::*mesh;
     const char* path;
-    float scale[3];
+    Single scale[3];
     Vec3 position;
     bool shifted; // the x of its vertex 0 grows by kGroundShift
 };
@@ -32,6 +33,6 @@ inline constexpr FixedObject kFixedObjects[] = {
 
 // Loaded last, after the scene list, with the same options; stands at the origin.
 inline constexpr char kLightMarkerPath[] = "./data/3d/light_debug.cob";
-inline constexpr float kLightMarkerScale[3] = {100.0F, 100.0F, 100.0F};
+inline constexpr Single kLightMarkerScale[3] = {100.0F, 100.0F, 100.0F};
 
 } // namespace ombrel

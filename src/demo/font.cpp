@@ -111,8 +111,8 @@ std::int32_t DrawGlyphText(GlyphSet* set, const TextPlace& place, const char* te
     const std::int32_t y = ToIntChop(place.y);
     std::int32_t width = 0;
     for (const char* p = text; *p != '\0'; ++p) {
-        set->x = static_cast<float>(x);
-        set->y = static_cast<float>(y);
+        set->x = static_cast<Single>(x);
+        set->y = static_cast<Single>(y);
         set->currentGlyph = static_cast<unsigned char>(*p);
         DrawGlyph(*set, surface);
         x = WrappingSum(x, place.advance);

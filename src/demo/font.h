@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "assets/bmp.h"
+#include "base/single.h"
 #include "platform/display.h"
 
 namespace ombrel {
@@ -19,7 +20,7 @@ inline constexpr std::uint32_t GLYPHS_FILLED = 0x80;  // a glyph has been filled
 inline constexpr std::uint32_t kGlyphAttributesAtStart = 17;
 
 struct GlyphSet {
-    float x, y; // pixels: where the next draw puts the current glyph's top-left corner
+    Single x, y; // pixels: where the next draw puts the current glyph's top-left corner
     std::int32_t width, height;
     std::int32_t glyphCount;
     std::int32_t currentGlyph; // character code, 0..255
@@ -45,7 +46,7 @@ void ReleaseGlyphSet(GlyphSet* set); // releases the surfaces, clears the record
 
 // Where a text begins and how far its glyphs are apart, in pixels.
 struct TextPlace {
-    float x, y;
+    Single x, y;
     std::int32_t advance;
 };
 

@@ -7,6 +7,7 @@
 
 #include "base/rect.h"
 #include "base/shell_state.h"
+#include "base/single.h"
 #include "demo/face_views.h"
 #include "scene/mesh_transform.h"
 #include "scene/pipeline.h"
@@ -15,8 +16,8 @@ namespace ombrel {
 
 namespace {
 
-constexpr float kSkyStep = -0.02F; // degrees a frame
-constexpr float kPartStep = 0.2F;
+constexpr Single kSkyStep = -0.02F; // degrees a frame
+constexpr Single kPartStep = 0.2F;
 
 constexpr std::int32_t kOwnLevels = -1;
 constexpr std::int32_t kLodDistance = 1000;
@@ -24,14 +25,14 @@ constexpr std::int32_t kLodDistance = 1000;
 constexpr std::int32_t kSorted = 0; // by average depth
 constexpr std::int32_t kUnsorted = -1;
 
-void TurnInPlace(Mesh* object, float degrees) {
+void TurnInPlace(Mesh* object, Single degrees) {
     Matrix4 rotation;
     Matrix4RotationXYZ(0.0F, degrees, 0.0F, &rotation);
     MeshTransform(object, &rotation, {TransformMode::InPlace, 0, 0});
 }
 
-float TilePlace(std::int32_t index) {
-    return static_cast<float>(index * 10000) * 0.1F + 500.0F;
+Single TilePlace(std::int32_t index) {
+    return static_cast<Single>(index * 10000) * 0.1F + 500.0F;
 }
 
 void DrawFilled(FaceList* list, World* scene) {

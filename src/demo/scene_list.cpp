@@ -41,7 +41,7 @@ bool ReadWord(SceneListText* text, char* word, std::int32_t capacity) {
     return true;
 }
 
-bool ReadNumber(SceneListText* text, float* value) {
+bool ReadNumber(SceneListText* text, Single* value) {
     const ScannedNumber number = ScanNumber(text->at, text->end);
     text->at = number.end;
     if (!number.complete) {
@@ -73,8 +73,8 @@ bool FileExists(const char* path) {
 }
 
 void LoadSceneObject(Mesh* mesh, const SceneLine& line, const DisplayFormat& format) {
-    const float* const v = line.values;
-    const float scale[3] = {v[0] * 0.1F, v[1] * 0.1F, v[2] * 0.1F};
+    const Single* const v = line.values;
+    const Single scale[3] = {v[0] * 0.1F, v[1] * 0.1F, v[2] * 0.1F};
     const Vec3 position{v[3] * 0.1F, v[4] * 0.1F, v[5] * 0.1F, 1.0F};
     loadObject(mesh, line.path, LoadRequest{scale, &position, kListOptions, 0, format});
     MeshRotate(mesh, v[6], v[7], v[8], 0);

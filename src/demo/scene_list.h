@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "assets/object_loader.h"
+#include "base/single.h"
 #include "demo/world.h"
 
 namespace ombrel {
@@ -19,7 +20,7 @@ inline constexpr std::int32_t kMaxScenePath = 1023; // characters; a longer word
 // What one read of the list gives: sizes and places in tenths of a unit, angles in degrees.
 struct SceneLine {
     char path[kMaxScenePath + 1];
-    float values[9]; // sx, sy, sz, px, py, pz, ax, ay, az
+    Single values[9]; // sx, sy, sz, px, py, pz, ax, ay, az
 };
 
 // A list as text in memory, and where reading goes on.

@@ -13,17 +13,17 @@ namespace ombrel {
 
 namespace {
 
-constexpr float kStartFov = 146.5F;
+constexpr Single kStartFov = 146.5F;
 constexpr std::int32_t kLights = 2;
 constexpr std::int32_t kLastSegment = 31; // the next one belongs to scene two
 constexpr std::int32_t kBuildOrder = 4;
 
-constexpr float kFadeEnd = 128.4F; // for the green of light 0
-constexpr float kAmbientStep[3] = {0.225F, 0.2F, 0.225F};
-constexpr float kLightStep[3] = {0.3609375F, 0.3421875F, 0.2703125F};
+constexpr Single kFadeEnd = 128.4F; // for the green of light 0
+constexpr Single kAmbientStep[3] = {0.225F, 0.2F, 0.225F};
+constexpr Single kLightStep[3] = {0.3609375F, 0.3421875F, 0.2703125F};
 
-constexpr float kBoxSide = 3500.0F; // |x|, |z| and y stay below it
-constexpr float kBoxFloor = -100.0F;
+constexpr Single kBoxSide = 3500.0F; // |x|, |z| and y stay below it
+constexpr Single kBoxFloor = -100.0F;
 constexpr std::int32_t kGridInside = 8;
 constexpr std::int32_t kGridOutside = 6;
 constexpr std::uint32_t kWhite = 0xFFFF;
@@ -31,7 +31,7 @@ constexpr std::uint32_t kWhite = 0xFFFF;
 constexpr TextPlace kTitlePlace{210.0F, 200.0F, 20};
 constexpr TextPlace kSubtitlePlace{100.0F, 240.0F, 12};
 
-std::uint32_t PackFade(const float fade[3]) {
+std::uint32_t PackFade(const Single fade[3]) {
     return PackLightColor(static_cast<std::uint32_t>(ToIntChop(fade[0])),
                           static_cast<std::uint32_t>(ToIntChop(fade[1])),
                           static_cast<std::uint32_t>(ToIntChop(fade[2])));

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "base/single.h"
 #include "demo/scene_frame.h"
 
 namespace ombrel {
@@ -16,8 +17,8 @@ struct SceneOneState {
     bool insideBox;
     bool titleDone;
     std::int32_t gridSize; // of the field of ground tiles: 8 inside the box, 6 outside
-    float ambientFade[3];  // red, green, blue of light 0, from 0
-    float lightFade[3];    // of light 1
+    Single ambientFade[3]; // red, green, blue of light 0, from 0
+    Single lightFade[3];   // of light 1
     TrackKey keys[kMaxTrackKeys];
     std::int32_t keyCount;
 };

@@ -27,23 +27,23 @@ constexpr std::uint32_t kFirstColors[] = {
 constexpr std::uint32_t kDotAmbient = PackLightColor(162, 114, 162);
 constexpr std::uint32_t kDotLight = PackLightColor(234, 201, 174);
 
-constexpr float kLightHeight = 500.0F;
-constexpr float kLightStep = 0.01F;
+constexpr Single kLightHeight = 500.0F;
+constexpr Single kLightStep = 0.01F;
 
 constexpr std::int32_t kSmallAdvance = 12;
 constexpr std::int32_t kBigAdvance = 20;
-constexpr float kRestAngle = 1.8849556F; // 108 degrees: a sliding line that reaches it has arrived
+constexpr Single kRestAngle = 1.8849556F; // 108 degrees: a sliding line that reaches it has arrived
 
-constexpr float kBlockStep = 0.03965464F;
+constexpr Single kBlockStep = 0.03965464F;
 constexpr std::int32_t kBlockDelay = 5;
 
-constexpr float kFallEnd = 1.5707964F;
-constexpr float kSpeedScale = 3.051851e-5F; // 1 / 32767
-constexpr float kTopSpeed = 0.04F;
-constexpr float kLeastSpeed = 0.01F;
+constexpr Single kFallEnd = 1.5707964F;
+constexpr Single kSpeedScale = 3.051851e-5F; // 1 / 32767
+constexpr Single kTopSpeed = 0.04F;
+constexpr Single kLeastSpeed = 0.01F;
 
 struct ColumnPlace {
-    float x;
+    Single x;
     std::int32_t firstSlot;
     std::int32_t slots;
 };
@@ -53,19 +53,19 @@ constexpr ColumnPlace kColumns[kGreetingColumns] = {
 };
 
 constexpr std::int32_t kScrollerStart = 1000; // frames
-constexpr float kScrollerStep = 0.03446879F;
-constexpr float kScrollerOutStep = 0.04684217F;
+constexpr Single kScrollerStep = 0.03446879F;
+constexpr Single kScrollerOutStep = 0.04684217F;
 constexpr std::int32_t kLastLine = kPageLines - 1;
 constexpr std::int32_t kPagesEnd = 48; // first slot after the last page
 
 constexpr std::int32_t kBorder = 8; // pixels
 
 // Radians to a single; the functions work in double precision, the rest does not.
-float Sine(float radians) {
-    return static_cast<float>(SinRad(static_cast<double>(radians)));
+Single Sine(Single radians) {
+    return static_cast<Single>(SinRad(static_cast<Double>(radians)));
 }
-float Cosine(float radians) {
-    return static_cast<float>(CosRad(static_cast<double>(radians)));
+Single Cosine(Single radians) {
+    return static_cast<Single>(CosRad(static_cast<Double>(radians)));
 }
 
 // The dots replace the filled view. False when the production is over.
@@ -97,7 +97,7 @@ void MoveCamera() {
     }
 }
 
-void PlaceLight(std::int32_t number, float x, float z) {
+void PlaceLight(std::int32_t number, Single x, Single z) {
     Vec3& place = world.lights[number].sourcePosition;
     place.x = x;
     place.y = kLightHeight;
@@ -105,7 +105,7 @@ void PlaceLight(std::int32_t number, float x, float z) {
 }
 
 void MoveLights() {
-    const float p = sceneTwo.lightPhase;
+    const Single p = sceneTwo.lightPhase;
     PlaceLight(2, Cosine(0.84F * p) * Cosine(3.0F * p) * 4000.0F,
                Cosine(3.9354F * p) * Sine(p) * 3000.0F);
     PlaceLight(3, Cosine(5.546F * p) * Sine(3.0F * p) * 2000.0F,
@@ -115,16 +115,16 @@ void MoveLights() {
     sceneTwo.lightPhase = p + kLightStep;
 }
 
-void DrawSmall(float x, float y, const char* text) {
+void DrawSmall(Single x, Single y, const char* text) {
     DrawGlyphText(&fonts.small, {x, y, kSmallAdvance}, text, display.backSurface);
 }
 
 void DrawBlock(BlockState* block) {
     for (std::int32_t i = 0; i <= block->stage; ++i) {
-        DrawSmall(680.0F - Sine(block->angles[i]) * 679.0F, static_cast<float>(24 * i),
+        DrawSmall(680.0F - Sine(block->angles[i]) * 679.0F, static_cast<Single>(24 * i),
                   kBlockTexts[i]);
     }
-    float* const angle = &block->angles[block->stage];
+    Single* const angle = &block->angles[block->stage];
     if (*angle < kRestAngle) {
         *angle += kBlockStep;
     } else if (++block->delay > kBlockDelay) {
@@ -133,9 +133,9 @@ void DrawBlock(BlockState* block) {
     }
 }
 
-float DrawSpeed() {
+Single DrawSpeed() {
     for (;;) {
-        const float speed = static_cast<float>(Random15()) * kSpeedScale * kTopSpeed;
+        const Single speed = static_cast<Single>(Random15()) * kSpeedScale * kTopSpeed;
         if (!(speed < kLeastSpeed)) {
             return speed;
         }
@@ -144,7 +144,7 @@ float DrawSpeed() {
 
 void DrawColumn(GreetingColumn* column, const ColumnPlace& place) {
     column->phase += column->speed;
-    const float y = Sine(column->phase) * static_cast<float>(shell.screenHeight + 1);
+    const Single y = Sine(column->phase) * static_cast<Single>(shell.screenHeight + 1);
     if (column->phase >= kFallEnd) {
         column->phase = 0.0F;
         // REQUIRED R44: a column that is off goes on falling, unseen, and takes its share of the
@@ -187,10 +187,10 @@ void DrawScroller(ScrollerState* scroller) {
         return;
     }
     for (std::int32_t j = 0; j <= scroller->line; ++j) {
-        DrawSmall(660.0F - Sine(scroller->angles[j]) * 689.0F, static_cast<float>(j) * 21.6F,
+        DrawSmall(660.0F - Sine(scroller->angles[j]) * 689.0F, static_cast<Single>(j) * 21.6F,
                   kScrollerTexts[scroller->page + j]);
     }
-    float* const angle = &scroller->angles[scroller->line];
+    Single* const angle = &scroller->angles[scroller->line];
     if (*angle < kRestAngle) {
         *angle += kScrollerStep;
     } else if (scroller->line < kLastLine) {
@@ -229,8 +229,8 @@ void DrawBorder() {
     FillSurfaceRect({0, h - kBorder, w, h}, black, display.backSurface);
 }
 
-constexpr float kFirstSpeeds[kGreetingColumns] = {0.0356464F, 0.0243451F, 0.0245641F,
-                                                  0.0198741F, 0.0304854F, 0.0446551F};
+constexpr Single kFirstSpeeds[kGreetingColumns] = {0.0356464F, 0.0243451F, 0.0245641F,
+                                                   0.0198741F, 0.0304854F, 0.0446551F};
 
 constexpr SceneTwoState InitialSceneTwo() {
     SceneTwoState initial{};

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "base/single.h"
 #include "demo/scene_one.h"
 #include "demo/texts.h"
 
@@ -16,13 +17,13 @@ inline constexpr std::int32_t kPageLines = 13; // of the scroller: 12 and the fi
 struct BlockState {
     std::int32_t stage; // the line now sliding in; kBlockSlots: the block is over
     std::int32_t delay; // frames waited since it arrived
-    float angles[kBlockSlots];
+    Single angles[kBlockSlots];
 };
 
 // A handle falls along a sine: its phase (radians) grows to 90 degrees, then the next one starts.
 struct GreetingColumn {
-    float phase;
-    float speed; // a frame
+    Single phase;
+    Single speed; // a frame
     std::int32_t index;
     bool on;
 };
@@ -32,7 +33,7 @@ struct ScrollerState {
     std::int32_t line;       // 0..12: the line of the page now sliding in
     std::int32_t page;       // first slot of the page: 0, 12, 24 or 36
     std::int32_t delay;
-    float angles[kPageLines];
+    Single angles[kPageLines];
 };
 
 // Written and read by SceneTwo alone.
@@ -41,7 +42,7 @@ struct SceneTwoState {
     std::uint32_t startFrame; // frame counter at the first call
     bool endFlag;             // the last page has gone
     std::int32_t closingCount;
-    float lightPhase; // grows by 0.01 a frame
+    Single lightPhase; // grows by 0.01 a frame
     std::int32_t gridSize;
     BlockState block;
     GreetingColumn columns[kGreetingColumns];

@@ -8,6 +8,7 @@
 #include "base/memory_reserve.h"
 #include "base/random15.h"
 #include "base/shell_state.h"
+#include "base/single.h"
 #include "demo/fixed_objects.h"
 #include "demo/font.h"
 #include "demo/scene_list.h"
@@ -28,18 +29,18 @@ constexpr std::uint32_t kDepthFormat = 32;
 
 constexpr Vec3 kOrigin{0.0F, 0.0F, 0.0F, 1.0F};
 constexpr std::int32_t kCameraMode = 8;
-constexpr float kNear = 1.0F;
-constexpr float kFar = 15000.0F;
-constexpr float kFov = 90.0F;
+constexpr Single kNear = 1.0F;
+constexpr Single kFar = 15000.0F;
+constexpr Single kFov = 90.0F;
 
-constexpr float kGroundShift = 50.0F;
+constexpr Single kGroundShift = 50.0F;
 
 // clang-format off
 struct LightRow {
     std::uint32_t kind;
     std::uint32_t ambientColor, lightColor;
     Vec3 position, direction;
-    float c1, exponent;
+    Single c1, exponent;
 };
 constexpr Vec3 kNone{0.0F, 0.0F, 0.0F, 0.0F};
 constexpr Vec3 kSun{1.0F, 0.8F, 1.0F, 1.0F};
@@ -64,8 +65,8 @@ void SetUpCamera() {
     setup.zNear = kNear;
     setup.zFar = kFar;
     setup.fov = kFov;
-    setup.screenWidth = static_cast<float>(shell.screenWidth);
-    setup.screenHeight = static_cast<float>(shell.screenHeight);
+    setup.screenWidth = static_cast<Single>(shell.screenWidth);
+    setup.screenHeight = static_cast<Single>(shell.screenHeight);
     CameraInit(&world.camera, setup);
     startUp.marker = {20.0F, 20.0F, 20.0F, 1.0F};
 }
@@ -170,7 +171,7 @@ int StartUp() {
     LoadGlyphSet("./data/2d/font-48-16px.bmp", &fonts.small, display.format);
 
     ParkCursor();
-    startUp.cameraStart = (180.0F - world.camera.fov) * 0.3F * (1.0F / 90.0F);
+    startUp.cameraStart = (180.0F - world.camera.fov) * 0.3F * (Single{1.0F} / 90.0F);
     switches.cameraRunning = 0;
 
     if (!shell.noSound) {

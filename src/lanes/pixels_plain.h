@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "base/convert.h"
+#include "base/single.h"
 #include "lanes/inline.h"
 #include "lanes/reciprocal.h"
 #include "lanes/texels.h"
@@ -95,12 +96,12 @@ struct PlainPixels {
     using Words = std::uint32_t;
     using Pixels = std::uint32_t;
     using Quad = Four<std::int32_t>;
-    using Floats = Four<float>;
+    using Floats = Four<Single>;
     template <std::uint32_t mask> using Point = PlainPoint<mask>;
 
     // --- quads: the set-up of a triangle
 
-    OMBREL_INLINE static Floats LoadFloats(const float* from) {
+    OMBREL_INLINE static Floats LoadFloats(const Single* from) {
         return {from[0], from[1], from[2], from[3]};
     }
     OMBREL_INLINE static Quad LoadQuad(const std::int32_t* from) {
@@ -110,12 +111,12 @@ struct PlainPixels {
         Unroll<4>([&](int i) { to[i] = a[i]; });
     }
     // The first two numbers, as singles.
-    OMBREL_INLINE static void StorePair(float* to, Quad a) {
-        to[0] = static_cast<float>(a[0]);
-        to[1] = static_cast<float>(a[1]);
+    OMBREL_INLINE static void StorePair(Single* to, Quad a) {
+        to[0] = static_cast<Single>(a[0]);
+        to[1] = static_cast<Single>(a[1]);
     }
     // Three pairs of neighbours: the first two in one vector, the last one in another.
-    OMBREL_INLINE static void LoadPairs(const float* const (&from)[3], Floats (&to)[2]) {
+    OMBREL_INLINE static void LoadPairs(const Single* const (&from)[3], Floats (&to)[2]) {
         to[0] = {from[0][0], from[0][1], from[1][0], from[1][1]};
         to[1] = {from[2][0], from[2][1], 0, 0};
     }

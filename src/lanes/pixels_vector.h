@@ -14,6 +14,7 @@
 #include <cstring>
 #include <type_traits>
 
+#include "base/single.h"
 #include "lanes/inline.h"
 #include "lanes/reciprocal.h"
 #include "lanes/texels.h"
@@ -78,14 +79,14 @@ template <class L, int lanes> struct VectorPixels {
 
     // --- quads
 
-    OMBREL_INLINE static Floats LoadFloats(const float* from) { return Load<Floats>(from); }
+    OMBREL_INLINE static Floats LoadFloats(const Single* from) { return Load<Floats>(from); }
     OMBREL_INLINE static Quad LoadQuad(const std::int32_t* from) { return Load<Quad>(from); }
     OMBREL_INLINE static void StoreQuad(std::int32_t (&to)[4], Quad a) { Store(to, a); }
-    OMBREL_INLINE static void StorePair(float* to, Quad a) {
+    OMBREL_INLINE static void StorePair(Single* to, Quad a) {
         const Floats all = __builtin_convertvector(a, Floats);
         std::memcpy(to, &all, 2 * sizeof *to);
     }
-    OMBREL_INLINE static void LoadPairs(const float* const (&from)[3], Floats (&to)[2]) {
+    OMBREL_INLINE static void LoadPairs(const Single* const (&from)[3], Floats (&to)[2]) {
         const Floats a = {from[0][0], from[0][1], 0, 0}, b = {from[1][0], from[1][1], 0, 0};
         to[0] = __builtin_shufflevector(a, b, 0, 1, 4, 5);
         to[1] = Floats{from[2][0], from[2][1], 0, 0};

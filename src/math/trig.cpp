@@ -27,34 +27,34 @@ constexpr double kTwoOverPi = 0.6366197723675814;
 // An angle as quadrant * pi/2 + high + low, |high| up to about pi/4, low below high's last bit.
 struct Reduced {
     std::uint32_t quadrant; // counts modulo 4
-    double high, low;
+    Double high, low;
 };
 
 // a - b, with what the rounding of the difference lost added to lost.
-double Difference(double a, double b, double* lost) {
-    const double d = a - b;
-    const double shift = d - a;
+Double Difference(Double a, Double b, Double* lost) {
+    const Double d = a - b;
+    const Double shift = d - a;
     *lost += (a - (d - shift)) - (b + shift);
     return d;
 }
 
-Reduced Reduce(double radians) {
-    const double turns = radians * kTwoOverPi;
+Reduced Reduce(Double radians) {
+    const Double turns = radians * kTwoOverPi;
     const std::int32_t quadrant = ToIntChop(turns + (turns < 0.0 ? -0.5 : 0.5));
-    const double n = quadrant;
-    double lost = 0.0;
-    double rest = radians - n * kHalfPi1;
+    const Double n = static_cast<Double>(quadrant);
+    Double lost = 0.0;
+    Double rest = radians - n * kHalfPi1;
     rest = Difference(rest, n * kHalfPi2, &lost);
     rest = Difference(rest, n * kHalfPi3, &lost);
     lost -= n * kHalfPi4;
-    const double high = rest + lost;
+    const Double high = rest + lost;
     return {static_cast<std::uint32_t>(quadrant), high, (rest - high) + lost};
 }
 
 // x - x^3/3! + x^5/5! ... - x^15/15!
-double SineNearZero(double x, double low) {
-    const double xx = x * x;
-    double sum = -7.647163731819816e-13;
+Double SineNearZero(Double x, Double low) {
+    const Double xx = x * x;
+    Double sum = -7.647163731819816e-13;
     sum = sum * xx + 1.6059043836821613e-10;
     sum = sum * xx - 2.505210838544172e-08;
     sum = sum * xx + 2.7557319223985893e-06;
@@ -66,9 +66,9 @@ double SineNearZero(double x, double low) {
 }
 
 // 1 - x^2/2! + x^4/4! ... + x^16/16!
-double CosineNearZero(double x, double low) {
-    const double xx = x * x;
-    double sum = 4.779477332387385e-14;
+Double CosineNearZero(Double x, Double low) {
+    const Double xx = x * x;
+    Double sum = 4.779477332387385e-14;
     sum = sum * xx - 1.1470745597729725e-11;
     sum = sum * xx + 2.08767569878681e-09;
     sum = sum * xx - 2.755731922398589e-07;
@@ -76,13 +76,13 @@ double CosineNearZero(double x, double low) {
     sum = sum * xx - 1.388888888888889e-03;
     sum = sum * xx + 4.1666666666666664e-02;
     // 1 - x^2/2 rounds; what it lost is added back among the small terms.
-    const double half = 0.5 * xx;
-    const double head = 1.0 - half;
+    const Double half = 0.5 * xx;
+    const Double head = 1.0 - half;
     return head + (((1.0 - head) - half) + (xx * xx * sum - low * x));
 }
 
-double SineOf(const Reduced& r) {
-    const double value =
+Double SineOf(const Reduced& r) {
+    const Double value =
         (r.quadrant & 1) != 0 ? CosineNearZero(r.high, r.low) : SineNearZero(r.high, r.low);
     return (r.quadrant & 2) != 0 ? -value : value;
 }
@@ -111,7 +111,7 @@ Single Lookup(const Single* table, Single degrees) {
 [[gnu::noinline]] void FillTables() {
     constexpr Single kRadiansPerDegree = 0.0174532924F;
     for (std::int32_t i = 0; i <= 360; ++i) {
-        const double radians = static_cast<double>(i) * static_cast<double>(kRadiansPerDegree);
+        const Double radians = static_cast<Double>(i) * static_cast<Double>(kRadiansPerDegree);
         SinTableDeg[i] = static_cast<Single>(SinRad(radians));
         CosTableDeg[i] = static_cast<Single>(CosRad(radians));
     }
@@ -119,15 +119,15 @@ Single Lookup(const Single* table, Single degrees) {
 
 } // namespace
 
-double SinRad(double radians) {
+Double SinRad(Double radians) {
     return SineOf(Reduce(radians));
 }
 
-double CosRad(double radians) {
+Double CosRad(Double radians) {
     return SineOf(QuarterTurnOn(Reduce(radians)));
 }
 
-double TanRad(double radians) {
+Double TanRad(Double radians) {
     const Reduced r = Reduce(radians);
     return SineOf(r) / SineOf(QuarterTurnOn(r));
 }

@@ -48,9 +48,9 @@ Single CosDeg(Single degrees);
 // same bits. Arguments up to 1e9 in size; the error is below 4 units in the last place (in either
 // rounding mode), and close to a zero of the function below 1e-25. Beyond 1e9 the result is defined
 // but means nothing.
-double SinRad(double radians);
-double CosRad(double radians);
-double TanRad(double radians);
+Double SinRad(Double radians);
+Double CosRad(Double radians);
+Double TanRad(Double radians);
 
 // b - a: the vector from a to b. The first argument is the one subtracted.
 inline void Vec3Sub(const Vec3* a, const Vec3* b, Vec3* out) {

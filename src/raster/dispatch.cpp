@@ -5,6 +5,7 @@
 
 #include "base/convert.h"
 #include "base/log2_table.h"
+#include "base/single.h"
 #include "raster/fillers.h"
 
 namespace ombrel {
@@ -77,7 +78,7 @@ Kind KindOf(std::uint32_t flags) {
 }
 
 // The first set path bit; kPathCount when there is none.
-Path PathOf(const DrawJob& job, float firstDepth) {
+Path PathOf(const DrawJob& job, Single firstDepth) {
     if ((job.flags & DRAW_PATH_1) != 0) {
         return (job.flags & DRAW_PATH_1_ALT) != 0 ? Path1Alt : Path1;
     }
@@ -88,7 +89,7 @@ Path PathOf(const DrawJob& job, float firstDepth) {
         return Path3;
     }
     if ((job.flags & DRAW_PATH_BY_DISTANCE) != 0) {
-        return static_cast<float>(job.lodDistance) < firstDepth ? Far : Near;
+        return static_cast<Single>(job.lodDistance) < firstDepth ? Far : Near;
     }
     return kPathCount;
 }
@@ -102,8 +103,8 @@ bool ChooseTexture(const DrawJob& job, const RenderFace& face, ScreenPolygon* po
         if (texture != nullptr && (job.flags & DRAW_MIPMAP) != 0) {
             const std::int32_t levels = Log2Table[static_cast<std::size_t>(
                 std::clamp(texture->width, 0, kLog2TableSize - 1))];
-            const float exact = static_cast<float>(levels) * polygon->vertices[0].z /
-                                static_cast<float>(job.mipDistance);
+            const Single exact = static_cast<Single>(levels) * polygon->vertices[0].z /
+                                 static_cast<Single>(job.mipDistance);
             const std::int32_t level = std::clamp(ToIntChop(exact), 0, levels);
             texture = face.texture.chain[level];
             for (Vertex& vertex : polygon->vertices) {

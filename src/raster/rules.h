@@ -191,8 +191,8 @@ template <class Rule> struct Perspective : Fetched<Rule> {
     template <class L> OMBREL_INLINE static void Fill(const Corners<L>& c, Quad<L> (&to)[8]) {
         const Quad<L> two = L::template Shuffle<0, 0, 1, 1>(c.z, c.z);
         const Quad<L> third = L::template Shuffle<2, 2, 2, 2>(c.z, c.z);
-        to[kU] = L::DivChop(L::ToIntChop(c.uv[0] + 0.5F) << 22, two);
-        to[kV] = L::DivChop(L::ToIntChop(c.uv[1] + 0.5F) << 22, third);
+        to[kU] = L::DivChop(L::ToIntChop(c.uv[0] + Single{0.5F}) << 22, two);
+        to[kV] = L::DivChop(L::ToIntChop(c.uv[1] + Single{0.5F}) << 22, third);
     }
     template <class L> OMBREL_INLINE static Quad<L> Strays(const TexelMemory&, const Corners<L>&) {
         return Quad<L>{};

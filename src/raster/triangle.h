@@ -26,7 +26,8 @@ template <class L> struct Places {
 };
 template <class L> OMBREL_INLINE Places<L> RoundCorners(const Vertex (&vertices)[3]) {
     Places<L> places;
-    Unroll<3>([&](auto i) { places.of[i] = L::ToIntChop(L::LoadFloats(&vertices[i].x) + 0.5F); });
+    Unroll<3>(
+        [&](auto i) { places.of[i] = L::ToIntChop(L::LoadFloats(&vertices[i].x) + Single{0.5F}); });
     places.least = L::Min(L::Min(places.of[0], places.of[1]), places.of[2]);
     places.most = L::Max(L::Max(places.of[0], places.of[1]), places.of[2]);
     return places;

@@ -14,8 +14,8 @@ constexpr Vec3 kOrigin = {0.0F, 0.0F, 0.0F, 1.0F};
 // round.
 Single TanHalf(Single fov) {
     constexpr Single kPi = 3.1415927F;
-    const double radians =
-        static_cast<double>(fov) * 0.5 * static_cast<double>(kPi) * 0.005555555555555556;
+    const Double radians =
+        static_cast<Double>(fov) * 0.5 * static_cast<Double>(kPi) * 0.005555555555555556;
     return static_cast<Single>(TanRad(radians));
 }
 
