@@ -23,6 +23,7 @@ PROTOTYPES = {
     "XKeysymToKeycode": (ctypes.c_ubyte, [POINTER, LONG]),
     "XSetInputFocus": (ctypes.c_int, [POINTER, LONG, ctypes.c_int, LONG]),
     "XGetInputFocus": (ctypes.c_int, [POINTER, POINTER, POINTER]),
+    "XResizeWindow": (ctypes.c_int, [POINTER, LONG, ctypes.c_uint, ctypes.c_uint]),
     "XSendEvent": (ctypes.c_int, [POINTER, LONG, ctypes.c_int, ctypes.c_long, POINTER]),
     "XQueryTree": (ctypes.c_int, [POINTER, LONG, POINTER, POINTER, POINTER, POINTER]),
     "XGetWindowAttributes": (ctypes.c_int, [POINTER, LONG, POINTER]),
@@ -156,10 +157,29 @@ class Screen:
         for name in reversed(names):
             self.key(name, False)
 
-    def click(self, x, y):
-        """Clicks the left button."""
+    def move(self, x, y):
+        """Moves the mouse."""
         self.xtst.XTestFakeMotionEvent(self.display, -1, x, y, 0)
         self.x.XSync(self.display, 0)
+
+    def drag(self, x, y, to_x, to_y):
+        """Presses the left button at a place and lets it go at another, with a stop between."""
+        self.move(x, y)
+        self.xtst.XTestFakeButtonEvent(self.display, 1, 1, 0)
+        for part in (1, 2):
+            self.move(x + (to_x - x) * part // 2, y + (to_y - y) * part // 2)
+            time.sleep(0.1)
+        self.xtst.XTestFakeButtonEvent(self.display, 1, 0, 0)
+        self.x.XSync(self.display, 0)
+
+    def resize(self, window, width, height):
+        """What a window manager does when a border is dragged."""
+        self.x.XResizeWindow(self.display, window, width, height)
+        self.x.XSync(self.display, 0)
+
+    def click(self, x, y):
+        """Clicks the left button."""
+        self.move(x, y)
         time.sleep(0.3)
         for down in (1, 0):
             self.xtst.XTestFakeButtonEvent(self.display, 1, down, 0)
