@@ -36,15 +36,21 @@ target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_demo
 if(NOT OMBREL_SANITIZE)
   target_link_options(larkfen-hashes PRIVATE -static-libstdc++ -static-libgcc LINKER:--gc-sections)
 endif()
-if(NOT CMAKE_CROSSCOMPILING) # it is linked with SDL2, which is there for this machine only
-  ombrel_program(larkfen-player tools/player.cpp ombrel_app ombrel_player ombrel_demo
-                 ombrel_platform_offscreen PNG::PNG ${SDL2_LINK_LIBRARIES})
-  target_include_directories(larkfen-player PRIVATE tools)
-  target_include_directories(larkfen-player SYSTEM PRIVATE ${SDL2_INCLUDE_DIRS})
-  foreach(source picture processor production)
-    target_sources(larkfen-player PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/${source}.cpp)
-  endforeach()
-endif()
+# The player draws off screen and shows the pictures itself: of the SDL2 back end it takes the table of
+# calls and the decoder. The inspector tells it what is wrong with a file.
+ombrel_program(larkfen-player tools/player.cpp ombrel_app ombrel_player ombrel_demo
+               ombrel_platform_offscreen PNG::PNG ${MP3_LIBRARY} ${CMAKE_DL_LIBS} m)
+target_include_directories(larkfen-player PRIVATE tools)
+target_include_directories(larkfen-player SYSTEM PRIVATE ${SDL2_INCLUDE_DIRS})
+foreach(source picture processor production)
+  target_sources(larkfen-player PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/${source}.cpp)
+endforeach()
+foreach(source mp3_stream quiet say sdl2_calls x11)
+  target_sources(larkfen-player PRIVATE ${CMAKE_SOURCE_DIR}/src/platform/sdl2/${source}.cpp)
+endforeach()
+foreach(source fillers folder image list object object_walk report sound track)
+  target_sources(larkfen-player PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-inspect/${source}.cpp)
+endforeach()
 # The inspector's pictures are lettered and written as those of the other tools.
 target_sources(larkfen-inspect PRIVATE ${CMAKE_SOURCE_DIR}/tools/larkfen-gallery/tiny_font.cpp
                                        ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/picture.cpp)

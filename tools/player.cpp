@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr std::int32_t kWidth = 640, kHeight = 480;
 constexpr int kDone = 0, kFailed = 1, kUsage = 2;
 
 int Refuse(const std::string& why) {
@@ -32,7 +31,8 @@ std::string FindProduction(const player::Options& options) {
                                     : ombrel::DataFolder() + ": no data of the production is in it";
 }
 
-int Play(const player::Options& options, std::int64_t whole, ombrel::VectorPath path) {
+int Play(const player::Options& options, std::int64_t whole, ombrel::VectorPath path,
+         player::Watch* watch) {
     const std::int64_t end = whole > 0 ? whole - 1 : INT32_MAX - 1;
     const auto last = static_cast<std::int32_t>(options.to < end ? options.to : end);
     const auto first = static_cast<std::int32_t>(options.from < last ? options.from : last);
@@ -40,7 +40,7 @@ int Play(const player::Options& options, std::int64_t whole, ombrel::VectorPath 
         return player::RunTimeDemo({first, last, options.json, ombrel::NameOf(path)});
     }
     return player::RunWindow({first, last, static_cast<std::int32_t>(whole > 0 ? whole : 0),
-                              options.loop, options.fullScreen, options.look});
+                              options.loop, options.fullScreen, options.look, watch});
 }
 
 } // namespace
@@ -69,11 +69,17 @@ int main(int argc, char** argv) {
     if (!outside.empty()) {
         return Refuse(outside);
     }
-    if (!ombrel::OpenShow({player::TimedRenderFrame, kWidth, kHeight, 0, 0})) {
+    player::Watch watch;
+    const std::string unwatched = options.watch ? OpenWatch(&watch, ombrel::DataFolder()) : "";
+    if (!unwatched.empty()) {
+        return Refuse(unwatched);
+    }
+    if (!player::OpenProduction()) {
         std::fprintf(stderr, "larkfen-player: the production could not be opened\n");
         return kFailed;
     }
-    const int result = Play(options, whole, path);
+    const int result = Play(options, whole, path, options.watch ? &watch : nullptr);
     ombrel::CloseShow();
+    CloseWatch(&watch);
     return result;
 }

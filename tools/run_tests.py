@@ -111,12 +111,16 @@ STEPS = [
     Step("Windows programs", ALL,
          "tests/windows/run.sh build/win64 --desks 2 --but 'whole production'",
          RELEASE + WIN64 + WIN32, limit=1800, load=WAITS),
+    Step("player's window, quick", SHORT, "tests/player/run.sh build/release --quick", RELEASE,
+         load=WAITS),
+    Step("player's window", ALL, "tests/player/run.sh build/release", RELEASE, limit=1200,
+         load=WAITS),
     Step("Linux window", DEFAULT, "tests/linux/run.sh build/release", RELEASE, load=WAITS),
 
     # The whole production, and what takes long beside it.
     Step("scenario: every frame", DEFAULT, "build/release/scenario --gtest_filter='Frames.*'",
          RELEASE),
-    Step("scenario: 300 seeks", ALL, "build/release/scenario --gtest_filter='Seeks.*'", RELEASE,
+    Step("scenario: 300 seeks, and cold ones", ALL, "build/release/scenario --gtest_filter='Seeks.*'", RELEASE,
          limit=1200),
     Step("scenario", DEFAULT, "build/release/scenario --gtest_filter='-Frames.*:Seeks.*'", RELEASE),
     *programs(["faults", "golden"], DEFAULT, "release"),

@@ -318,7 +318,7 @@ bool DrawLook(Look look, LookPicture* out) {
     out->width = display.width;
     out->height = display.height;
     out->legend.clear();
-    if (ShownFrame() < 0) {
+    if (!ShowIsSeen()) {
         return false;
     }
     if (row.before != nullptr) {

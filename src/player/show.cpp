@@ -10,6 +10,7 @@
 #include "demo/startup.h"
 #include "platform/display.h"
 #include "platform/system.h"
+#include "player/unseen.h"
 
 namespace ombrel {
 
@@ -18,19 +19,22 @@ namespace {
 struct ShowState {
     bool open;
     int (*renderFrame)();
-    std::int32_t played; // frames drawn since the start
+    std::int32_t played; // frames gone by since the start
     bool ended;
+    bool unseen; // the picture is none of the production's: a seek is under way
     std::int32_t distance;
     std::size_t memory, held;        // bytes of snapshots: allowed, held
-    std::vector<Snapshot> snapshots; // number n was taken after n * distance frames
+    std::vector<Snapshot> snapshots; // number n: after n * distance frames; empty: not drawn yet
     Snapshot before;                 // before the shown frame
+    UnseenSeek seek;
 };
 ShowState show = {}; // no constinit: not every library has vectors for that
 
 // Keeps the state that the next frame starts from, where its number asks for it.
 void KeepSnapshot() {
     const auto number = static_cast<std::size_t>(show.played / show.distance);
-    if (show.played % show.distance != 0 || number != show.snapshots.size()) {
+    if (show.played % show.distance != 0 ||
+        (number < show.snapshots.size() && show.snapshots[number].bytes != nullptr)) {
         return;
     }
     Snapshot snapshot = TakeSnapshot();
@@ -38,7 +42,8 @@ void KeepSnapshot() {
         return;
     }
     show.held += snapshot.size;
-    show.snapshots.push_back(std::move(snapshot));
+    show.snapshots.resize(std::max(show.snapshots.size(), number + 1));
+    show.snapshots[number] = std::move(snapshot);
 }
 
 bool TakeQuit() {
@@ -50,23 +55,154 @@ bool TakeQuit() {
     return pump == Pump::Quit;
 }
 
-// The state after so many frames, or the nearest one held before it.
-void RestoreNearest(std::int32_t played) {
-    if (show.snapshots.empty()) {
+// After how many frames the last snapshot was taken that is not after so many; -1: there is none.
+std::int32_t LastHeld(std::int32_t played) {
+    auto number =
+        std::min(played / show.distance, static_cast<std::int32_t>(show.snapshots.size()) - 1);
+    while (number >= 0 && show.snapshots[static_cast<std::size_t>(number)].bytes == nullptr) {
+        --number;
+    }
+    return number * show.distance;
+}
+
+// Goes to the state that the snapshot was taken in.
+bool Return(const Snapshot& snapshot, std::int32_t played) {
+    if (!RestoreSnapshot(snapshot)) {
+        return false;
+    }
+    show.played = played;
+    show.ended = false;
+    show.unseen = false;
+    show.before = {};
+    return true;
+}
+
+// The nearest state before so many frames, or after them, that is drawn.
+void ReturnToDrawn(std::int32_t played) {
+    const std::int32_t at = LastHeld(played);
+    const bool hereIsNearer = !show.unseen && show.played <= played && show.played >= at;
+    if (!hereIsNearer && at >= 0) {
+        (void)Return(show.snapshots[static_cast<std::size_t>(at / show.distance)], at);
+    }
+}
+
+bool Step() {
+    KeepSnapshot();
+    show.before = TakeSnapshot();
+    show.renderFrame();
+    ++show.played;
+    show.ended = TakeQuit();
+    return true;
+}
+
+// --- far seeks -----------------------------------------------------------------------------------
+
+// Who is asked between two frames whether the search shall go on.
+struct Asking {
+    KeepOn keepOn;
+    void* user;
+};
+bool GoesOn(const Asking& asking) {
+    return asking.keepOn == nullptr || asking.keepOn(ShownFrame(), asking.user);
+}
+
+enum class Found { Yes, No, NotYet };
+
+// Winds on to the nearest start, and keeps the state of each.
+Found WindUnseen(const Asking& asking) {
+    UnseenSeek* const seek = &show.seek;
+    const std::int32_t last = seek->wanted - kReaches[0];
+    for (;;) {
+        KeepStart(seek, show.played);
+        if (show.played >= last) {
+            return Found::Yes;
+        }
+        show.unseen = true;
+        PlayUnseen(show.renderFrame);
+        ++show.played;
+        if (TakeQuit()) {
+            return Found::No;
+        }
+        if (!GoesOn(asking)) {
+            return Found::NotYet;
+        }
+    }
+}
+
+// Draws on from both pictures of a start until they are the same, one frame before the wanted one
+// at the latest.
+Found Settle(const Asking& asking) {
+    UnseenSeek* const seek = &show.seek;
+    constexpr std::int32_t kAtOnce = 8;
+    if (seek->dark.bytes == nullptr) {
+        show.played = seek->starts[seek->tried].played;
+    }
+    while (show.played < seek->wanted - 1) {
+        const std::int32_t left = seek->wanted - 1 - show.played;
+        const std::int32_t frames = std::min(left, left > kAtOnce ? kAtOnce : 1);
+        bool failed = false;
+        const bool same = PlayBoth({seek, show.renderFrame}, frames, &failed);
+        show.played += frames;
+        failed = failed || TakeQuit();
+        if (same && !failed) {
+            show.unseen = false;
+            return Found::Yes;
+        }
+        if (failed) {
+            break;
+        }
+        if (!GoesOn(asking)) {
+            return Found::NotYet;
+        }
+    }
+    return Found::No;
+}
+
+// The seek that has this frame as its aim: the one under way, or a new one from here or from the
+// nearest snapshot.
+void BeginSeek(std::int32_t wanted) {
+    if (show.seek.wanted == wanted) {
         return;
     }
-    const std::size_t number =
-        std::min(static_cast<std::size_t>(played / show.distance), show.snapshots.size() - 1);
-    const auto at = static_cast<std::int32_t>(number) * show.distance;
-    // Go on from here where that is nearer.
-    if (show.played <= played && show.played >= at) {
-        return;
+    const std::int32_t first = wanted - kReaches[kReachCount - 1];
+    const std::int32_t at = LastHeld(std::max(first, 0));
+    if (show.played > std::max(first, 0) || show.played < at) {
+        (void)Return(show.snapshots[static_cast<std::size_t>(at / show.distance)], at);
     }
-    if (RestoreSnapshot(show.snapshots[number])) {
-        show.played = at;
-        show.ended = false;
-        show.before = {};
+    show.seek = {};
+    show.seek.wanted = wanted;
+    show.seek.tried = -1;
+}
+
+// No: it has to be played from the nearest drawn frame.
+Found FindUnseen(std::int32_t wanted, const Asking& asking) {
+    BeginSeek(wanted);
+    UnseenSeek* const seek = &show.seek;
+    if (seek->tried < 0) {
+        const Found wound = WindUnseen(asking);
+        if (wound != Found::Yes) {
+            return wound;
+        }
+        SortStarts(seek);
     }
+    while (seek->tried <= kReachCount && seek->starts[seek->tried].snapshot.bytes != nullptr) {
+        const Found settled = Settle(asking);
+        if (settled != Found::No) {
+            return settled;
+        }
+        seek->dark = {};
+        seek->bright = {};
+        ++seek->tried;
+    }
+    return Found::No;
+}
+
+// Whether a frame is so far from any that is drawn that the unseen way is the shorter one.
+bool IsFar(std::int32_t wanted) {
+    constexpr std::int32_t kNear = 64;
+    const std::int32_t held = LastHeld(wanted);
+    const std::int32_t here = !show.unseen && show.played <= wanted ? show.played : 0;
+    return held >= 0 && wanted - std::max(held, here) > kNear;
 }
 
 } // namespace
@@ -102,12 +238,10 @@ bool StepShow() {
     if (!show.open || show.ended) {
         return false;
     }
-    KeepSnapshot();
-    show.before = TakeSnapshot();
-    show.renderFrame();
-    ++show.played;
-    show.ended = TakeQuit();
-    return true;
+    if (show.unseen) { // a seek was broken off: go to where it is
+        (void)SeekShow(ShownFrame(), nullptr, nullptr);
+    }
+    return Step();
 }
 
 std::int32_t ShownFrame() {
@@ -120,13 +254,28 @@ bool ShowEnded() {
 
 std::int32_t SeekShow(std::int32_t frame, KeepOn keepOn, void* user) {
     const std::int32_t played = std::max(frame, 0) + 1;
-    RestoreNearest(played - 1);
-    while (show.played < played && StepShow()) {
-        if (keepOn != nullptr && !keepOn(ShownFrame(), user)) {
+    const Asking asking = {keepOn, user};
+    if (!show.open || (show.ended && show.played < played)) {
+        return ShownFrame();
+    }
+    if (show.played == 0) { // the first snapshot
+        (void)Step();
+    }
+    if (IsFar(played - 1) && FindUnseen(played, asking) == Found::NotYet) {
+        return ShownFrame();
+    }
+    show.seek = {};
+    ReturnToDrawn(played - 1);
+    while (show.played < played && !show.ended && Step()) {
+        if (!GoesOn(asking)) {
             break;
         }
     }
     return ShownFrame();
+}
+
+bool ShowIsSeen() {
+    return show.played > 0 && !show.unseen;
 }
 
 std::size_t SnapshotBytes() {
@@ -134,7 +283,7 @@ std::size_t SnapshotBytes() {
 }
 
 bool RedrawShown(const Redraw& redraw) {
-    if (show.played == 0 || show.before.bytes == nullptr) {
+    if (show.played == 0 || show.unseen || show.before.bytes == nullptr) {
         return false;
     }
     const Snapshot after = TakeSnapshot();

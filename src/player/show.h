@@ -31,9 +31,12 @@ bool ShowEnded();
 
 // Goes to a frame, backwards or forwards, and returns the number of the one that is shown then: the
 // frame itself, or the last of the production. Negative numbers count as 0. Frames between are
-// played unseen. keepOn, unless null, is asked after each of them and ends the search early.
+// played unseen, and where nothing near was played before, not even drawn. keepOn, unless null, is
+// asked between them and ends the search early: the next seek for the same frame goes on from
+// there. Until it has come to its end the show may have no picture (ShowIsSeen).
 using KeepOn = bool (*)(std::int32_t frame, void* user);
 std::int32_t SeekShow(std::int32_t frame, KeepOn keepOn, void* user);
+bool ShowIsSeen(); // false after a seek that ended early, where nothing is drawn
 
 // Bytes of the snapshots held.
 std::size_t SnapshotBytes();

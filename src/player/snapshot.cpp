@@ -91,4 +91,10 @@ bool RestoreSnapshot(const Snapshot& snapshot) {
     return true;
 }
 
+std::size_t PictureBytes() {
+    Walk walk{nullptr, 0, false};
+    VisitPicture(&walk);
+    return walk.size;
+}
+
 } // namespace ombrel

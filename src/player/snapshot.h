@@ -19,5 +19,7 @@ Snapshot TakeSnapshot();
 // The state as TakeSnapshot found it. False, and nothing changed, for a snapshot of another size
 // than those of this run.
 bool RestoreSnapshot(const Snapshot& snapshot);
+// The picture is the last so many bytes of every snapshot of this run.
+std::size_t PictureBytes();
 
 } // namespace ombrel

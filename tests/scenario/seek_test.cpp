@@ -13,6 +13,7 @@
 #include "base/data_file.h"
 #include "demo/reset.h"
 #include "platform/offscreen/offscreen.h"
+#include "player/chapters.h"
 #include "player/show.h"
 #include "scenario/frame_record.h"
 #include "support/back_surface.h"
@@ -21,7 +22,7 @@ namespace ombrel {
 namespace {
 
 constexpr std::size_t kMemory = std::size_t{300} << 20;
-constexpr int kSeeks = 300;
+constexpr int kSeeks = 300, kColdSeeks = 24;
 
 // Seconds of a seek; the picture is held to the stored one.
 double SeekAndCompare(std::int32_t frame, const std::vector<FrameLine>& stored) {
@@ -40,40 +41,92 @@ void PrintTimes(const char* what, std::vector<double> seconds) {
                 seconds.back());
 }
 
-TEST(Seeks, ThreeHundredOverTheShippedProductionHaveTheirStoredPictures) {
-    const std::string dataBefore = DataFolder();
-    ResetWorld();
-    ResetOffscreen();
-    SetDataFolder(OMBREL_SOURCE_DIR "/data");
-    ChooseVectorPath(nullptr);
-    std::vector<FrameLine> stored;
-    ASSERT_TRUE(ReadFrameRecord(OMBREL_SOURCE_DIR "/tests/scenario/frames.txt.gz", &stored));
-    const auto last = static_cast<std::int32_t>(stored.size()) - 1;
-    ASSERT_TRUE(OpenShow({RenderFrame, 640, 480, 0, kMemory}));
+// The shipped production, held to its stored frames.
+class Seeks : public testing::Test {
+protected:
+    Seeks() : dataBefore_(DataFolder()) {
+        ResetWorld();
+        ResetOffscreen();
+        SetDataFolder(OMBREL_SOURCE_DIR "/data");
+        EXPECT_TRUE(ReadFrameRecord(OMBREL_SOURCE_DIR "/tests/scenario/frames.txt.gz", &stored_));
+    }
+    ~Seeks() override {
+        CloseShow();
+        ResetWorld();
+        ResetOffscreen();
+        SetDataFolder(dataBefore_);
+    }
+    // From before its first frame, nothing played.
+    static void OpenCold() {
+        CloseShow();
+        ChooseVectorPath(nullptr);
+        ASSERT_TRUE(OpenShow({RenderFrame, 640, 480, 0, kMemory}));
+    }
+    std::vector<FrameLine> stored_;
 
-    // A snapshot for every so many frames, the last ones too.
-    EXPECT_EQ(SeekShow(0, nullptr, nullptr), 0);
-    const std::size_t all = SnapshotBytes() * ((stored.size() - 1) / kSnapshotDistance + 1);
+private:
+    const std::string dataBefore_;
+};
 
-    // The end first: everything before it is played once, unseen.
-    std::printf("from the start to frame %d: %.2f s\n", last, SeekAndCompare(last, stored));
+TEST_F(Seeks, ThreeHundredOverTheShippedProductionHaveTheirStoredPictures) {
+    OpenCold();
+    while (StepShow()) {
+    }
+    ASSERT_EQ(ShownFrame(), static_cast<std::int32_t>(stored_.size()) - 1);
     std::mt19937 random(16);
     std::vector<double> seconds;
-    for (int i = 0; i < kSeeks; ++i) {
-        const std::size_t frame = random() % stored.size();
-        seconds.push_back(SeekAndCompare(static_cast<std::int32_t>(frame), stored));
-        if (testing::Test::HasFailure()) {
-            break;
-        }
+    for (int i = 0; i < kSeeks && !HasFailure(); ++i) {
+        const std::size_t frame = random() % stored_.size();
+        seconds.push_back(SeekAndCompare(static_cast<std::int32_t>(frame), stored_));
     }
-    PrintTimes("300 seeks", seconds);
+    PrintTimes("300 seeks, everything played before", seconds);
     std::printf("snapshots: %.1f MiB\n", static_cast<double>(SnapshotBytes()) / (1 << 20));
-    EXPECT_EQ(SnapshotBytes(), all);
     EXPECT_LE(SnapshotBytes(), kMemory);
-    CloseShow();
-    ResetWorld();
-    ResetOffscreen();
-    SetDataFolder(dataBefore);
+    // One for every so many frames, to the end: the memory was enough.
+    SeekShow(static_cast<std::int32_t>(stored_.size()) - 2, nullptr, nullptr);
+    const std::size_t all = SnapshotBytes();
+    OpenCold();
+    SeekShow(0, nullptr, nullptr);
+    EXPECT_EQ(all, SnapshotBytes() * ((stored_.size() - 1) / kSnapshotDistance + 1));
+}
+
+TEST_F(Seeks, ColdOnesHaveTheirStoredPicturesToo) {
+    const auto last = static_cast<std::int32_t>(stored_.size()) - 1;
+    std::vector<std::int32_t> frames = {last, last - 1, 1, 0};
+    for (const Chapter& chapter : kChapters) {
+        frames.push_back(chapter.frame);
+    }
+    std::mt19937 random(17);
+    for (int i = 0; i < kColdSeeks; ++i) {
+        frames.push_back(static_cast<std::int32_t>(random() % stored_.size()));
+    }
+    std::vector<double> seconds;
+    for (const std::int32_t frame : frames) {
+        OpenCold();
+        seconds.push_back(SeekAndCompare(frame, stored_));
+        std::printf("to frame %d: %.2f s\n", frame, seconds.back());
+        // What follows is right too: nothing of the way there is left over.
+        StepShow();
+        const std::int32_t next = std::min(frame + 1, last);
+        ASSERT_EQ(ShownFrame(), next);
+        ASSERT_EQ(BackSurfaceHash(), stored_[static_cast<std::size_t>(next)].picture) << next;
+    }
+    PrintTimes("cold seeks", seconds);
+}
+
+// Seeks that change their mind, on a show that has not been played.
+TEST_F(Seeks, ThatAreBrokenOffLoseNothing) {
+    OpenCold();
+    std::mt19937 random(18);
+    const auto some = [](std::int32_t, void* user) { return --*static_cast<int*>(user) > 0; };
+    for (int i = 0; i < 40; ++i) {
+        int patience = static_cast<int>(random() % 400);
+        SeekShow(static_cast<std::int32_t>(random() % 2400), some, &patience);
+        if (i % 8 == 7) {
+            SeekAndCompare(static_cast<std::int32_t>(random() % 2400), stored_);
+        }
+        ASSERT_FALSE(HasFailure());
+    }
 }
 
 } // namespace

@@ -69,6 +69,7 @@ bool* SwitchOf(const std::string& name, Options* options) {
            : name == "--fullscreen" ? &options->fullScreen
            : name == "--timedemo"   ? &options->timeDemo
            : name == "--json"       ? &options->json
+           : name == "--watch"      ? &options->watch
            : name == "--version"    ? &options->version
            : name == "--help"       ? &options->help
            : name == "-h"           ? &options->help
@@ -79,9 +80,10 @@ std::string CheckTogether(const Options& options) {
     if (options.json && !options.timeDemo) {
         return "--json: give --timedemo with it";
     }
-    if (options.timeDemo && (options.loop || options.fullScreen)) {
-        return options.loop ? "--loop: a --timedemo plays once"
-                            : "--fullscreen: a --timedemo has no window";
+    if (options.timeDemo && (options.loop || options.fullScreen || options.watch)) {
+        return options.loop    ? "--loop: a --timedemo plays once"
+               : options.watch ? "--watch: a --timedemo plays the data as it is"
+                               : "--fullscreen: a --timedemo has no window";
     }
     if (options.timeDemo && options.look != ombrel::Look::None) {
         return "--look: a --timedemo draws the frames as they are";
@@ -140,7 +142,7 @@ std::string HelpText() {
     std::string text =
         "Usage: larkfen-player [options]\n"
         "Plays the production in a window that can be paused, wound to any frame and looked into.\n"
-        "It is silent.\n"
+        "The soundtrack is heard at the usual speed.\n"
         "\n"
         "A place is a frame (1810), seconds (45.25s) or a chapter:";
     for (const ombrel::Chapter& chapter : ombrel::kChapters) {
@@ -161,6 +163,8 @@ std::string HelpText() {
     text +=
         "  --fullscreen       begins with the whole screen\n"
         "  --data DIR         takes the data files from DIR\n"
+        "  --watch            looks whether data files change, and plays on in the new world from\n"
+        "                     the same frame; a broken file is named in the window\n"
         "  --timedemo         plays without a window, as fast as it goes, and prints frames a\n"
         "                     second, median, 99th percentile and worst time of the frames\n"
         "  --json             prints the same as JSON\n"

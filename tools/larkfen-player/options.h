@@ -15,6 +15,7 @@ struct Options {
     bool fullScreen = false;
     bool timeDemo = false;
     bool json = false;
+    bool watch = false;
     std::string dataFolder; // empty: found by the program
     std::string fromText;   // as given, for messages
     std::string toText;

@@ -4,12 +4,15 @@
 #include <algorithm>
 
 #include "base/small_font.h"
+#include "platform/sdl2/sdl2_calls.h"
 
 namespace player {
 
+using ombrel::sdl;
+
 void FillBox(const Brush& brush, const SDL_Rect& box, Ink ink) {
-    SDL_SetRenderDrawColor(brush.renderer, ink.r, ink.g, ink.b, ink.a);
-    SDL_RenderFillRect(brush.renderer, &box);
+    sdl.SetRenderDrawColor(brush.renderer, ink.r, ink.g, ink.b, ink.a);
+    sdl.RenderFillRect(brush.renderer, &box);
 }
 
 int TextWidth(const Brush& brush, const std::string& text) {
@@ -33,8 +36,8 @@ void DrawText(const Brush& brush, int x, int y, const std::string& text, Ink ink
         }
         x += ombrel::kSmallLetterWidth * brush.scale;
     }
-    SDL_SetRenderDrawColor(brush.renderer, ink.r, ink.g, ink.b, ink.a);
-    SDL_RenderFillRects(brush.renderer, dots.data(), static_cast<int>(dots.size()));
+    sdl.SetRenderDrawColor(brush.renderer, ink.r, ink.g, ink.b, ink.a);
+    sdl.RenderFillRects(brush.renderer, dots.data(), static_cast<int>(dots.size()));
 }
 
 void DrawPanel(const Brush& brush, int x, int y, int windowWidth, const std::vector<Line>& lines) {

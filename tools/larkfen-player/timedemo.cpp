@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/frame_driver.h"
+#include "app/vector_choice.h"
 #include "base/shell_state.h"
 #include "base/version.h"
 #include "larkfen-capture/processor.h"
@@ -127,6 +128,12 @@ void PrintJson(const TimeDemo& demo, const std::vector<Row>& rows) {
 }
 
 } // namespace
+
+bool OpenProduction() {
+    constexpr std::int32_t kWidth = 640, kHeight = 480;
+    ombrel::ChooseVectorPath(nullptr);
+    return ombrel::OpenShow({TimedRenderFrame, kWidth, kHeight, 0, 0});
+}
 
 int TimedRenderFrame() {
     const auto start = std::chrono::steady_clock::now();

@@ -6,6 +6,10 @@
 
 namespace player {
 
+// Opens the show that both the window and the measurement play, with its frames timed. False when
+// it could not be opened.
+bool OpenProduction();
+
 struct TimeDemo {
     std::int32_t first, last; // frames
     bool json;

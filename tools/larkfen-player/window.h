@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "player/looks.h"
+#include "watch.h"
 
 namespace player {
 
@@ -12,6 +13,7 @@ struct WindowSetup {
     std::int32_t whole;       // frames of the production; 0: nobody knows
     bool loop, fullScreen;
     ombrel::Look look;
+    Watch* watch; // the data that is played; null: nobody works on it
 };
 
 // Plays a show that is open until the window is closed. The exit code.

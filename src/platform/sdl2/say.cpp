@@ -18,8 +18,13 @@ namespace {
 constexpr std::size_t kMaxSaid = 256;
 constinit std::size_t saidMissing[kMaxSaid]{};
 constinit std::size_t saidCount = 0;
+constinit const char* programName = "larkfen";
 
 } // namespace
+
+void SayAs(const char* program) {
+    programName = program;
+}
 
 void Say(const char* format, ...) {
     char line[1024];
@@ -27,7 +32,7 @@ void Say(const char* format, ...) {
     va_start(values, format);
     std::vsnprintf(line, sizeof line, format, values);
     va_end(values);
-    std::fprintf(stderr, "larkfen: %s\n", line);
+    std::fprintf(stderr, "%s: %s\n", programName, line);
 }
 
 void SayMissing(const char* path) {

@@ -4,6 +4,9 @@
 
 namespace ombrel {
 
+// The name before every line; "larkfen" at first.
+void SayAs(const char* program);
+
 // One line on standard error, after the program's name. format as that of printf, without a line
 // end.
 void Say(const char* format, ...) __attribute__((format(printf, 1, 2)));

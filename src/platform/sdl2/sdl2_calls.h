@@ -1,12 +1,13 @@
 // The calls of SDL2, opened when the program runs: a system without SDL2 then gets a sentence, and
-// --help and --version are answered without it. Nothing here is linked. Callers: the SDL2 back end.
+// --help and --version are answered without it. Nothing here is linked. Callers: the SDL2 back end, the
+// window of the player.
 #pragma once
 
 #include <SDL.h>
 
 namespace ombrel {
 
-// Every call that the back end makes, by its name without the prefix.
+// Every call that the back end and the player make, by its name without the prefix.
 // clang-format off
 #define OMBREL_SDL_CALLS(CALL)                                                                   \
     CALL(Init) CALL(Quit) CALL(InitSubSystem) CALL(QuitSubSystem) CALL(VideoQuit)                \
@@ -15,13 +16,14 @@ namespace ombrel {
     CALL(GetKeyboardState)                                                                       \
     CALL(CreateWindow) CALL(DestroyWindow) CALL(ShowWindow)                    \
     CALL(GetWindowFlags) CALL(GetWindowSize) CALL(SetWindowSize)               \
-    CALL(SetWindowPosition) CALL(SetWindowBordered) CALL(SetWindowFullscreen)                    \
+    CALL(SetWindowPosition) CALL(GetWindowPosition) CALL(SetWindowMinimumSize)                   \
+    CALL(SetWindowBordered) CALL(SetWindowFullscreen)                                            \
     CALL(SetWindowIcon) CALL(GetWindowBordersSize)                         \
     CALL(GetDesktopDisplayMode) CALL(GetDisplayUsableBounds)                                     \
     CALL(CreateRGBSurfaceWithFormatFrom) CALL(FreeSurface)                                       \
     CALL(CreateRenderer) CALL(DestroyRenderer) CALL(GetRendererOutputSize)                       \
     CALL(SetRenderDrawColor) CALL(RenderClear) CALL(RenderFillRect) CALL(RenderFillRects)        \
-    CALL(RenderCopy) CALL(RenderPresent)                                                         \
+    CALL(RenderCopy) CALL(RenderPresent) CALL(SetRenderDrawBlendMode) CALL(SetTextureScaleMode)  \
     CALL(CreateTexture) CALL(DestroyTexture) CALL(UpdateTexture) CALL(SetTextureBlendMode)       \
     CALL(ShowCursor) CALL(WarpMouseGlobal) CALL(GetGlobalMouseState)                             \
     CALL(EnableScreenSaver) CALL(DisableScreenSaver)                                             \

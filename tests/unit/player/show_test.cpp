@@ -7,7 +7,10 @@
 #include <vector>
 
 #include "open_show.h"
+#include "demo/blur.h"
 #include "player/chapters.h"
+#include "player/looks.h"
+#include "raster/blend_tables.h"
 
 #include "support/back_surface.h"
 
@@ -65,8 +68,79 @@ TEST_F(Show, ASeekEndsWhenItIsToldTo) {
     const auto keepOn = [](std::int32_t, void* user) {
         return ++static_cast<Asked*>(user)->count < 5;
     };
-    EXPECT_EQ(SeekShow(1000, keepOn, &asked), 4);
+    EXPECT_EQ(SeekShow(1000, keepOn, &asked), 5); // the first frame is drawn unasked
     EXPECT_EQ(asked.count, 5);
+    EXPECT_FALSE(ShowIsSeen());
+    LookPicture picture;
+    EXPECT_FALSE(DrawLook(Look::None, &picture));
+    // Stepping on draws again, and goes on from where the seek was.
+    EXPECT_TRUE(StepShow());
+    EXPECT_EQ(ShownFrame(), 6);
+    EXPECT_TRUE(ShowIsSeen());
+    const std::uint64_t sixth = BackSurfaceHash();
+    ASSERT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0}));
+    for (int i = 0; i <= 6; ++i) {
+        StepShow();
+    }
+    EXPECT_EQ(BackSurfaceHash(), sixth);
+}
+
+// A frame that nothing near was played of is found without drawing all before it.
+TEST_F(Show, FarFramesHaveTheirBits) {
+    std::vector<std::uint64_t> played;
+    while (StepShow()) {
+        played.push_back(BackSurfaceHash());
+    }
+    std::mt19937 random(8);
+    for (int i = 0; i < 6; ++i) {
+        const auto frame = static_cast<std::int32_t>(random() % played.size());
+        ASSERT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0}));
+        ASSERT_EQ(SeekShow(frame, nullptr, nullptr), frame);
+        ASSERT_EQ(BackSurfaceHash(), played[static_cast<std::size_t>(frame)]) << frame;
+    }
+    // Behind the end there is nothing.
+    const auto last = static_cast<std::int32_t>(played.size()) - 1;
+    ASSERT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0}));
+    EXPECT_EQ(SeekShow(last + 2, nullptr, nullptr), last);
+    EXPECT_TRUE(ShowEnded());
+}
+
+// What far seeks rest on: brighter below is never darker above.
+TEST_F(Show, BlendingAndBlurKeepTheOrderOfPictures) {
+    for (std::int32_t level = 0; level < kBlendTableCount; ++level) {
+        const Pixel16* const under = BlendTables[kBlendTableCount - 1 - level];
+        const Pixel16* const over = BlendTables[level];
+        for (std::int32_t source = 0; source < 64; ++source) {
+            const auto grey = static_cast<Pixel16>(source >> 1 << 11 | source << 5 | source >> 1);
+            std::int32_t before[3] = {-1, -1, -1};
+            for (std::int32_t there = 0; there < 64; ++there) {
+                const auto below = static_cast<Pixel16>(there >> 1 << 11 | there << 5 | there >> 1);
+                const std::int32_t sum = under[below] + over[grey];
+                const std::int32_t now[3] = {sum >> 11, sum >> 5 & 63, sum & 31};
+                // No channel runs over into the next one.
+                EXPECT_EQ(now[0], (under[below] >> 11) + (over[grey] >> 11));
+                EXPECT_EQ(now[1], (under[below] >> 5 & 63) + (over[grey] >> 5 & 63));
+                EXPECT_LE(now[0], 31);
+                for (int i = 0; i < 3; ++i) {
+                    EXPECT_GE(now[i], before[i]);
+                    before[i] = now[i];
+                }
+            }
+        }
+    }
+    std::mt19937 random(9);
+    std::vector<Pixel16> dark(64 * 32), bright(64 * 32);
+    for (std::size_t i = 0; i < dark.size(); ++i) {
+        dark[i] = static_cast<Pixel16>(random());
+        bright[i] = static_cast<Pixel16>(dark[i] | random()); // no bit less
+    }
+    BlurFrame(dark.data(), 64, 64, 32);
+    BlurFrame(bright.data(), 64, 64, 32);
+    for (std::size_t i = 0; i < dark.size(); ++i) {
+        EXPECT_LE(RedOf(dark[i]), RedOf(bright[i]));
+        EXPECT_LE(GreenOf(dark[i]), GreenOf(bright[i]));
+        EXPECT_LE(BlueOf(dark[i]), BlueOf(bright[i]));
+    }
 }
 
 TEST_F(Show, ARedrawLeavesNoTrace) {
