@@ -24,14 +24,15 @@ if(NOT OMBREL_SANITIZE)
   target_link_options(larkfen PRIVATE -static-libstdc++ -static-libgcc LINKER:--exclude-libs,ALL
                                       LINKER:--gc-sections)
 endif()
-ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
+ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_player ombrel_demo
+               ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 # The recorder of the archives, which needs nothing but the C library and so writes no PNG files.
 file(GLOB capture_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/*.cpp)
 add_executable(larkfen-hashes tools/capture.cpp ${capture_sources})
 target_compile_definitions(larkfen-hashes PRIVATE OMBREL_WITHOUT_PNG)
-target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_demo
+target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_player ombrel_demo
                                              ombrel_platform_offscreen)
 if(NOT OMBREL_SANITIZE)
   target_link_options(larkfen-hashes PRIVATE -static-libstdc++ -static-libgcc LINKER:--gc-sections)

@@ -27,7 +27,7 @@ target_link_libraries(larkfen PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel
 # The recorder without pictures and video: writes the digest lines of the frames on Windows.
 file(GLOB capture_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/*.cpp)
 add_executable(larkfen-hashes tools/capture.cpp ${capture_sources})
-target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_demo
+target_link_libraries(larkfen-hashes PRIVATE ombrel_flags ombrel_app ombrel_player ombrel_demo
                                              ombrel_platform_offscreen)
 
 add_subdirectory(tests/windows)

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "app/command_line.h"
+#include "app/frame_driver.h"
 #include "app/shell.h"
 #include "app/vector_choice.h"
 #include "base/data_file.h"
@@ -32,12 +33,15 @@
 #include "larkfen-capture/published.h"
 #include "larkfen-capture/video.h"
 #include "platform/offscreen/offscreen.h"
+#include "player/looks.h"
+#include "player/show.h"
 
 namespace {
 
 using namespace capture;
 
 constexpr std::uint32_t kMsPerFrame = 25;
+constexpr int kDone = 0, kFailed = 1, kUsage = 2;
 
 // Everything a run of the tool works on.
 struct Recorder {
@@ -186,6 +190,9 @@ std::string OpenVideoOf(Recorder* recorder) {
         line.height * options.scale, options.rate, options.resume, ""};
     request.settings =
         options.end == INT64_MAX ? " to the end" : " to " + std::to_string(options.end - 1);
+    if (options.look != ombrel::Look::None) {
+        request.settings += std::string(", look ") + ombrel::LookName(options.look);
+    }
     for (const SwitchSetting& setting : options.settings) {
         request.settings += ", " + setting.name + "=" + std::to_string(setting.value);
     }
@@ -252,8 +259,6 @@ void CloseOutputs(Recorder* recorder) {
     }
 }
 
-constexpr int kDone = 0, kFailed = 1, kUsage = 2;
-
 int Refuse(const std::string& why) {
     std::fprintf(stderr, "larkfen-capture: %s\n", why.c_str());
     return kUsage;
@@ -310,6 +315,36 @@ int Play(Recorder* recorder, std::int64_t whole) {
     ombrel::script.onMessage = OnMessage;
     ombrel::script.user = recorder;
     return ombrel::RunProduction(options.production.c_str());
+}
+
+// The frames with one look into each, by a show that can be wound: only those that are wanted.
+int PlayLooks(Recorder* recorder, std::int64_t whole) {
+    const Options& options = recorder->options;
+    const std::int64_t end = whole > 0 ? std::min(options.end, whole) : options.end;
+    const std::int64_t every = recorder->video.open ? 1 : options.every;
+    const ombrel::CommandLine line = ombrel::ParseCommandLine(options.production.c_str());
+    if (!ombrel::OpenShow({ombrel::RenderFrame, line.width, line.height, 0, 0})) {
+        Note(recorder, "the production could not be opened");
+        return kFailed;
+    }
+    recorder->progress = StartProgress(end - options.first);
+    ombrel::LookPicture look;
+    for (std::int64_t frame = options.first; frame < end && recorder->problem.empty();
+         frame += every) {
+        if (ombrel::SeekShow(static_cast<std::int32_t>(frame), nullptr, nullptr) != frame ||
+            !ombrel::DrawLook(options.look, &look)) {
+            break;
+        }
+        RecordFrame(recorder,
+                    {look.pixels.data(), look.width * 2, look.width, look.height, 0, 0, frame});
+        recorder->played += every;
+        ShowProgress(&recorder->progress, recorder->played);
+        if (interrupted != 0) {
+            Note(recorder, "interrupted");
+        }
+    }
+    ombrel::CloseShow();
+    return kDone;
 }
 
 // Says how the frames compare; the exit code.
@@ -373,7 +408,8 @@ int main(int argc, char** argv) {
         Note(&recorder, unopened);
         return Finish(&recorder, path);
     }
-    const int result = Play(&recorder, whole);
+    const bool looks = recorder.options.look != ombrel::Look::None;
+    const int result = looks ? PlayLooks(&recorder, whole) : Play(&recorder, whole);
     const bool helped = recorder.played == 0 && result == 0;
     if (!helped && recorder.recorded == 0) {
         Note(&recorder,

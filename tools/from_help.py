@@ -78,7 +78,7 @@ def option_text(lines):
     out = []
     for line in lines:
         row = ROW.fullmatch(line)
-        if row and len(lines) > 1 and re.fullmatch(r"[a-z]\w+", row[1]):
+        if row and len(lines) > 1 and re.fullmatch(r"[a-z][\w-]+", row[1]):
             out += [".br", f"\\fB{roff(row[1])}\\fR: {roff(row[2])}"]
         else:
             out.append(roff(line))
@@ -145,11 +145,13 @@ def completion(program):
             flag, sample = flag.split("=", 1)
             words[flag + "="] = [sample] + re.findall(r"\d+x\d+", " ".join(lines))
         else:
-            words[flag] = value
+            rows = [row[1] for row in map(ROW.fullmatch, lines[1:]) if row]
+            words[flag] = rows if value == "NAME" and rows else value
     cases = ""
     for flag, value in words.items():
         if isinstance(value, list):
-            follow = f'compgen -W "{" ".join(sorted(value, key=lambda v: int(v.split("x")[0])))}"'
+            order = {"key": lambda v: int(v.split("x")[0])} if flag.endswith("=") else {}
+            follow = f'compgen -W "{" ".join(sorted(value, **order))}"'
         elif value == "DIR":
             follow = "compgen -d"
         elif value.startswith(("FILE", "OUT")):

@@ -261,10 +261,14 @@ std::int32_t SeekShow(std::int32_t frame, KeepOn keepOn, void* user) {
     if (show.played == 0) { // the first snapshot
         (void)Step();
     }
-    if (IsFar(played - 1) && FindUnseen(played, asking) == Found::NotYet) {
+    // (A search that has failed stays: what is left is to play on from what is drawn.)
+    const Found found = IsFar(played - 1) ? FindUnseen(played, asking) : Found::Yes;
+    if (found == Found::NotYet) {
         return ShownFrame();
     }
-    show.seek = {};
+    if (found == Found::Yes) {
+        show.seek = {};
+    }
     ReturnToDrawn(played - 1);
     while (show.played < played && !show.ended && Step()) {
         if (!GoesOn(asking)) {

@@ -13,7 +13,7 @@ namespace ombrel {
 
 // How many frames before the wanted one the two shows begin; the next is tried when one fails. A
 // frame without blur hides all before it: behind the last of those nothing earlier is needed.
-inline constexpr std::int32_t kReaches[] = {3, 192, 704};
+inline constexpr std::int32_t kReaches[] = {3, 192, 704, 1600};
 inline constexpr std::int32_t kReachCount = sizeof kReaches / sizeof kReaches[0];
 inline constexpr std::int32_t kSharpEvery = 16; // frames from one start without blur to the next
 

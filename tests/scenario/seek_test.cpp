@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <random>
 #include <string>
 #include <vector>
@@ -24,14 +24,14 @@ namespace {
 constexpr std::size_t kMemory = std::size_t{300} << 20;
 constexpr int kSeeks = 300, kColdSeeks = 24;
 
-// Seconds of a seek; the picture is held to the stored one.
+// Seconds of the processor that a seek takes; the picture is held to the stored one.
 double SeekAndCompare(std::int32_t frame, const std::vector<FrameLine>& stored) {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     EXPECT_EQ(SeekShow(frame, nullptr, nullptr), frame);
-    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+    const std::clock_t taken = std::clock() - start;
     EXPECT_EQ(BackSurfaceHash(), stored[static_cast<std::size_t>(frame)].picture)
         << "frame " << frame;
-    return taken.count();
+    return static_cast<double>(taken) / CLOCKS_PER_SEC;
 }
 
 // Times are printed, never judged.
@@ -127,6 +127,16 @@ TEST_F(Seeks, ThatAreBrokenOffLoseNothing) {
         }
         ASSERT_FALSE(HasFailure());
     }
+    // Again and again for the same frame, a little further each time, until it is there.
+    const auto aim = static_cast<std::int32_t>(stored_.size()) - 200;
+    OpenCold();
+    int turns = 0;
+    do {
+        int patience = 40;
+        SeekShow(aim, some, &patience);
+    } while ((ShownFrame() != aim || !ShowIsSeen()) && ++turns < 1000);
+    EXPECT_EQ(ShownFrame(), aim);
+    EXPECT_EQ(BackSurfaceHash(), stored_[static_cast<std::size_t>(aim)].picture);
 }
 
 } // namespace

@@ -112,12 +112,17 @@ std::string ReadOption(const std::string& name, const std::string& value, Option
     if (name == "--hashes-file") {
         return ReadPath("--hashes-file", value, &options->publishedFile);
     }
+    if (name == "--look") {
+        return ombrel::LookOfName(value.c_str(), &options->look)
+                   ? ""
+                   : "--look: there is no look \"" + value + "\"; --help lists them";
+    }
     return ReadSwitch(value, options);
 }
 
-constexpr const char* kOptionNames[] = {"--fps",         "--data",  "--frames", "--every",
-                                        "--png",         "--video", "--scale",  "--hashes",
-                                        "--hashes-file", "--switch"};
+constexpr const char* kOptionNames[] = {"--fps",         "--data",   "--frames", "--every",
+                                        "--png",         "--video",  "--scale",  "--hashes",
+                                        "--hashes-file", "--switch", "--look"};
 
 bool IsOption(const std::string& name) {
     for (const char* known : kOptionNames) {
@@ -165,6 +170,17 @@ std::string CheckVideo(Options* options) {
         return "--fps: a .gif file has 1, 2, 4, 5, 10, 20, 25 or 50 pictures a second";
     }
     return "";
+}
+
+// Empty, or what does not go with a look.
+std::string CheckLook(const Options& options) {
+    if (options.look == ombrel::Look::None) {
+        return "";
+    }
+    return options.verify              ? "--verify: the frames were published without --look"
+           : !options.hashFile.empty() ? "--hashes: a look has no hashes; give --png or --video"
+           : !options.settings.empty() ? "--look: cannot be given with --switch"
+                                       : "";
 }
 
 // Empty, or why these frames cannot be those of the list.
@@ -232,7 +248,8 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
     if (!Records(*options) && !asksHelp) {
         return "nothing to record: give --png, --video, --hashes or --verify; see --help";
     }
-    const std::string problem = CheckVideo(options);
+    std::string problem = CheckVideo(options);
+    problem = problem.empty() ? CheckLook(*options) : problem;
     return problem.empty() ? CheckVerify(*options) : problem;
 }
 
@@ -280,6 +297,14 @@ std::string HelpText() {
         line += ombrel::SwitchName(i);
         line.append(39 > line.size() ? 39 - line.size() : 1, ' ');
         text += line + ombrel::SwitchMeaning(i) + "\n";
+    }
+    text += "  --look NAME        a look into the frames instead of the frames, in --png and "
+            "--video:\n";
+    for (int i = 1; i < ombrel::kLookCount; ++i) {
+        const auto look = static_cast<ombrel::Look>(i);
+        std::string line = std::string("                       ") + ombrel::LookName(look);
+        line.append(39 > line.size() ? 39 - line.size() : 1, ' ');
+        text += line + ombrel::LookMeaning(look) + "\n";
     }
     text +=
         "  --help             this text\n"

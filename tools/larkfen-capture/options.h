@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "player/looks.h"
+
 namespace capture {
 
 struct SwitchSetting {
@@ -29,6 +31,7 @@ struct Options {
     std::int32_t scale = 1;
     std::int32_t rate = 0; // pictures a second of the video; 0: what suits its kind
     bool resume = false;
+    ombrel::Look look = ombrel::Look::None;
     std::vector<SwitchSetting> settings;
 };
 

@@ -1,6 +1,6 @@
 // The calls of SDL2, opened when the program runs: a system without SDL2 then gets a sentence, and
-// --help and --version are answered without it. Nothing here is linked. Callers: the SDL2 back end, the
-// window of the player.
+// --help and --version are answered without it. Nothing here is linked. Callers: the SDL2 back end,
+// and the window of the player.
 #pragma once
 
 #include <SDL.h>
