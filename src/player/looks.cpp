@@ -114,12 +114,21 @@ void DrawLights(LookPicture* out) {
 
 // --- how a trace is coloured ---------------------------------------------------------------------
 
+// From white, the nearest place of the frame, to dark grey, the farthest; every doubling of the
+// distance takes the same step. Black is nothing at all.
 void ColorDepth(const Trace& trace, LookPicture* out) {
+    constexpr double kDarkest = 24.0;
+    std::uint32_t nearest = 1, farthest = UINT32_MAX;
+    for (const std::uint32_t depth : trace.depth) {
+        nearest = std::max(nearest, depth);
+        farthest = depth != 0 ? std::min(farthest, depth) : farthest;
+    }
+    const double low = std::log2(static_cast<double>(farthest));
+    const double span = std::max(std::log2(static_cast<double>(nearest)) - low, 1e-6);
     for (std::size_t i = 0; i < trace.depth.size(); ++i) {
         if (trace.depth[i] != 0) {
-            // 2^28 / z: its logarithm is 28 for z = 1 and 14 for the far end of the view.
-            const double nearness = std::log2(static_cast<double>(trace.depth[i])) - 14.0;
-            const auto grey = static_cast<std::int32_t>(nearness * (255.0 / 9.0));
+            const double nearness = (std::log2(static_cast<double>(trace.depth[i])) - low) / span;
+            const auto grey = static_cast<std::int32_t>(kDarkest + nearness * (255.0 - kDarkest));
             out->pixels[i] = Rgb(grey, grey, grey);
         }
     }
@@ -186,11 +195,19 @@ void ColorFillers(const Trace& trace, LookPicture* out) {
         [](std::int32_t number) { return std::string(kFillerTable[number].name); });
 }
 
+// Objects of one file have one colour.
 void ColorObjects(const Trace& trace, LookPicture* out) {
     const std::vector<std::string> names = TraceNames();
     ColorByNumber(
         trace, out,
-        [&](const TracedTriangle& t) { return trace.owners[static_cast<std::size_t>(t.record)]; },
+        [&](const TracedTriangle& t) {
+            const std::int32_t owner = trace.owners[static_cast<std::size_t>(t.record)];
+            const auto n = static_cast<std::size_t>(owner);
+            return owner < 0 || n >= names.size()
+                       ? owner
+                       : static_cast<std::int32_t>(std::find(names.begin(), names.end(), names[n]) -
+                                                   names.begin());
+        },
         [&](std::int32_t number) {
             const auto n = static_cast<std::size_t>(number);
             return n < names.size() ? names[n] : "object " + std::to_string(number);
@@ -269,7 +286,7 @@ constexpr LookRow kLooks[kLookCount] = {
     {"fillers",     "which filler drew a pixel last",                     nullptr,      nullptr,    ColorFillers},
     {"density",     "texels a pixel: blue too few, red too many",         nullptr,      nullptr,    ColorDensity},
     {"mip-level",   "size of the texture level: green is the full one",   nullptr,      nullptr,    ColorMipLevels},
-    {"objects",     "a colour for each object",                           nullptr,      nullptr,    ColorObjects},
+    {"objects",     "a colour for the objects of each file",              nullptr,      nullptr,    ColorObjects},
     {"lights",      "where the point lights stand",                       Unchanged,    DrawLights, nullptr},
 };
 // clang-format on

@@ -18,7 +18,7 @@ enum class Look : std::uint8_t {
     LightsOff, // full even light: textures as they were painted
     BackFaces, // faces turned away are drawn too
     NoBlur,    // the frame as it was before the blur
-    Depth,     // near is white; each halving of a grey is a doubling of distance
+    Depth,     // from white, the nearest, to dark, the farthest of the frame, by doublings
     Overdraw,  // how often a pixel was asked for: black never, then blue to red to white
     Fillers,   // which filler drew the pixel last
     Density,   // texels on a pixel: blue too few, green one, red too many

@@ -1,7 +1,9 @@
 """larkfen-player as its user meets it: keys, mouse, the bar, wrong arguments. What is shown is told by
 the pictures that the key S saves: they are held to the stored frames, pixel for pixel."""
+import os
 import pathlib
 import shutil
+import subprocess
 import sys
 import tempfile
 import time
@@ -310,8 +312,131 @@ def end_tests(desk):
     player.end()
 
 
+def world_of(desk, name):
+    """A data folder of our own, with the files of the production."""
+    folder = desk.work / name
+    shutil.copytree(ROOT / "data", folder, ignore=lambda _, names: ["sfx"])
+    return folder
+
+
+def watch_tests(desk):
+    """Files change, break and are mended while they are shown."""
+    data = world_of(desk, "watched")
+    player = desk.player("--data", data, "--watch", "--from", str(START), "--to", str(START))
+    player.opened()
+    saved = player.becomes(lambda shown: shown.frame == START)
+    check("a watched world looks as any", saved and hash_of(saved.pixels) == STORED[START])
+    texture = data / "texture" / "t-sky-04.bmp"
+    texture = texture if texture.exists() else max((data / "texture").glob("*.bmp"),
+                                                   key=lambda file: file.stat().st_size)
+    good = texture.read_bytes()
+
+    texture.write_bytes(good[:60])
+    # (The line about it stands in the lower left of the window, in the colour of marks.)
+    shot = player.shows(lambda now: (now == (255, 190, 60)).all(2).sum() > 100)
+    desk.photo("broken", shot)
+    check("a broken file is named in the window", shot is not None)
+    saved = player.becomes(lambda shown: shown.frame == START)
+    check("and the world before stays", saved and hash_of(saved.pixels) == STORED[START])
+    saved_next = player.press("Shift_L", "Right") or player.becomes(
+        lambda shown: shown.frame == START + 1)
+    check("and plays on", saved_next and hash_of(saved_next.pixels) == STORED[START + 1])
+
+    picture = Image.open(ROOT / "data" / texture.relative_to(data)).convert("RGB")
+    picture.point(lambda value: 255 - value).save(texture)
+    saved = player.becomes(lambda shown: hash_of(shown.pixels) != STORED[START + 1])
+    check("a new file is taken over", saved and saved.frame == START + 1)
+    desk.photo("repainted", saved.pixels if saved else None)
+    check("and the word about the broken one goes",
+          player.shows(lambda now: (now == (255, 190, 60)).all(2).sum() < 100) is not None)
+    texture.write_bytes(good)
+    saved = player.becomes(lambda shown: hash_of(shown.pixels) == STORED[START + 1])
+    check("and the old one again", saved and hash_of(saved.pixels) == STORED[START + 1])
+    track = data / "cam" / "scene1.trk"
+    track.rename(track.with_suffix(".away"))
+    shot = player.shows(lambda now: (now == (255, 190, 60)).all(2).sum() > 100)
+    check("a file that is gone is named", shot is not None)
+    desk.photo("gone", shot)
+    player.press("Escape")
+    check("Escape ends it with 0", player.end()[0] == 0)
+    check("its copy of the data is removed",
+          not list(pathlib.Path(tempfile.gettempdir()).glob("larkfen-player-*")))
+
+
+def tone(path):
+    """A soundtrack that tells where it is: 10 s of silence, 10 s of 400 Hz, the rest 1000 Hz."""
+    path.parent.mkdir(parents=True, exist_ok=True)
+    sound = "if(lt(t,10),0,if(lt(t,20),sin(2*PI*400*t),sin(2*PI*1000*t)))"
+    subprocess.run(["ffmpeg", "-v", "error", "-y", "-f", "lavfi", "-i",
+                    f"aevalsrc='{sound}':s=44100:d=60", "-ac", "2", str(path)], check=True,
+                   timeout=60)
+
+
+def heard(raw):
+    """The loudest frequency of the last fifth of a second that was played; 0: silence."""
+    data = raw.read_bytes() if raw.exists() else b""
+    count = 44100 // 5 * 4
+    if len(data) < count:
+        return None
+    end = len(data) // 4 * 4
+    left = numpy.frombuffer(data[end - count:end], numpy.int16)[::2].astype(float)
+    if numpy.abs(left).max() < 200:
+        return 0
+    return int(numpy.abs(numpy.fft.rfft(left)).argmax() * 5)
+
+
+def sound_tests(desk):
+    data, raw = world_of(desk, "heard"), desk.work / "sound.raw"
+    tone(data / "sfx/soundtrack.mp3")
+    player = desk.player("--data", data, "--from", "12s", SDL_AUDIODRIVER="disk",
+                         SDL_DISKAUDIOFILE=str(raw))
+    player.opened()
+
+    def hears(what, pitch):
+        end = time.monotonic() + SLOW
+        while heard(raw) != pitch and time.monotonic() < end:
+            time.sleep(0.05)
+        now = heard(raw)
+        check(what, now == pitch or heard(raw) == pitch, now)
+
+    hears("the soundtrack is heard where the show is", 400)
+    player.press("space")
+    hears("a pause is silent", 0)
+    player.press("Right")
+    player.press("Right")
+    player.press("space")
+    hears("it follows a seek", 1000)
+    player.press("m")
+    hears("M mutes it", 0)
+    player.press("m")
+    hears("and lets it be heard again", 1000)
+    player.press("plus")
+    hears("it is silent at twice the speed", 0)
+    player.press("minus")
+    player.press("Home")
+    hears("and where the music is", 0)
+    player.press("Escape")
+    check("Escape ends it with 0", player.end()[0] == 0)
+
+    for driver, file in (("alsa", False), ("dummy", True)):
+        if not file:
+            tone(data / "sfx/soundtrack.mp3")
+        else:
+            (data / "sfx/soundtrack.mp3").write_bytes(b"no music at all" * 1000)
+        player = desk.player("--data", data, "--from", str(START), "--to", str(START),
+                             SDL_AUDIODRIVER=driver)
+        player.opened()
+        saved = player.becomes(lambda shown: shown.frame == START)
+        check(f"without a {'sound that can be read' if file else 'sound device'} it plays on",
+              saved and hash_of(saved.pixels) == STORED[START])
+        player.press("Escape")
+        code, _, err = player.end()
+        check("and ends with 0, and one line at most", code == 0 and len(err.splitlines()) <= 1,
+              (code, err))
+
+
 QUICK = [refusal_tests, moving_tests, panel_tests, bar_tests]
-REST = [loop_tests, look_tests, full_screen_tests, end_tests]
+REST = [loop_tests, look_tests, full_screen_tests, end_tests, watch_tests, sound_tests]
 
 
 def main():
@@ -321,6 +446,8 @@ def main():
     if keep:
         keep.mkdir(parents=True, exist_ok=True)
     tests = QUICK if "--quick" in sys.argv else QUICK + REST
+    named = os.environ.get("PLAYER_TESTS", "").split()  # watch_tests, sound_tests, ...
+    tests = [test for test in QUICK + REST if test.__name__ in named] if named else tests
     with tempfile.TemporaryDirectory(prefix="larkfen-") as name:
         desk = Desk(build, pathlib.Path(name), keep)
         try:
