@@ -13,6 +13,7 @@
 #include "demo/font.h"
 #include "demo/scene_one.h"
 #include "demo/scene_two.h"
+#include "demo/scenes.h"
 #include "demo/soundtrack.h"
 #include "demo/startup.h"
 #include "demo/world.h"
@@ -41,6 +42,7 @@ void ResetWorld() {
     ResetFillers();
     ResetFrontEnd();
     ResetBlur();
+    ResetFrameProbe();
     ResetTrigTables();
     ResetDisplayState();
     ResetRandom15();

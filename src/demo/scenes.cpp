@@ -17,7 +17,24 @@ const Scene kScenes[kSceneCount] = {
 };
 // clang-format on
 
+constinit FrameProbe frameProbe = nullptr;
+
+void ResetFrameProbe() {
+    frameProbe = nullptr;
+}
+
+namespace {
+
+void Begin(FramePart part) {
+    if (frameProbe != nullptr) {
+        frameProbe(part);
+    }
+}
+
+} // namespace
+
 void PlayScene(const Scene& scene) {
+    Begin(FramePart::Step);
     if (!*scene.started) {
         *scene.started = true;
         scene.start();
@@ -27,19 +44,24 @@ void PlayScene(const Scene& scene) {
     }
 
     // Bring the faces to the screen.
+    Begin(FramePart::FrontEnd);
     FrontEnd front;
     StartFaces(&front, &sceneFaces, FaceSettingsOf(&world, switches));
     scene.gather(&front);
     FinishFaces(&front);
 
     // Draw them, then what stands over them.
+    Begin(FramePart::Raster);
     LockFrame();
     DrawView(&sceneFaces, &world, scene.view());
+    Begin(FramePart::Blur);
     if (switches.blur == 1) {
         BlurFrame(display.back.pixels, world.pitchPixels, shell.screenWidth, shell.screenHeight);
     }
     UnlockFrame();
+    Begin(FramePart::Texts);
     scene.overlay();
+    Begin(FramePart::Rest);
 }
 
 } // namespace ombrel

@@ -22,4 +22,14 @@ extern const Scene kScenes[kSceneCount]; // by scene index
 // One frame of a scene into the back surface.
 void PlayScene(const Scene& scene);
 
+// What a frame is made of, in its order; Rest is what the frame driver does before and after.
+enum class FramePart : std::uint8_t { Step, FrontEnd, Raster, Blur, Texts, Rest };
+inline constexpr std::int32_t kFramePartCount = 6;
+
+// Told when a part of a frame begins; null, the initial value: nobody asks. Written by whoever
+// measures, read by PlayScene.
+using FrameProbe = void (*)(FramePart begins);
+extern FrameProbe frameProbe;
+void ResetFrameProbe();
+
 } // namespace ombrel

@@ -146,6 +146,7 @@ Found Settle(const Asking& asking) {
         failed = failed || TakeQuit();
         if (same && !failed) {
             show.unseen = false;
+            seek->settled = true;
             return Found::Yes;
         }
         if (failed) {
@@ -178,6 +179,9 @@ void BeginSeek(std::int32_t wanted) {
 Found FindUnseen(std::int32_t wanted, const Asking& asking) {
     BeginSeek(wanted);
     UnseenSeek* const seek = &show.seek;
+    if (seek->settled) {
+        return Found::Yes;
+    }
     if (seek->tried < 0) {
         const Found wound = WindUnseen(asking);
         if (wound != Found::Yes) {
@@ -261,20 +265,19 @@ std::int32_t SeekShow(std::int32_t frame, KeepOn keepOn, void* user) {
     if (show.played == 0) { // the first snapshot
         (void)Step();
     }
-    // (A search that has failed stays: what is left is to play on from what is drawn.)
-    const Found found = IsFar(played - 1) ? FindUnseen(played, asking) : Found::Yes;
-    if (found == Found::NotYet) {
+    const bool far = show.seek.wanted == played || IsFar(played - 1);
+    if (far && FindUnseen(played, asking) == Found::NotYet) {
         return ShownFrame();
     }
-    if (found == Found::Yes) {
-        show.seek = {};
-    }
+    // What is left is played. (Where the search has failed it is everything; while this is broken
+    // off and taken up again the search stays as it is.)
     ReturnToDrawn(played - 1);
     while (show.played < played && !show.ended && Step()) {
-        if (!GoesOn(asking)) {
-            break;
+        if (show.played < played && !GoesOn(asking)) {
+            return ShownFrame();
         }
     }
+    show.seek = {};
     return ShownFrame();
 }
 

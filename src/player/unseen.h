@@ -26,6 +26,7 @@ struct UnseenSeek {
     UnseenStart starts[kReachCount + 1]; // nearest first, once all are passed
     std::int32_t tried;                  // the start that is; -1: none yet
     Snapshot dark, bright;               // the two shows; empty: not begun
+    bool settled;                        // they have met: what is left is played on
 };
 
 // Keeps the state after so many frames, when the two shows may start there.

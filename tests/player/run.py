@@ -1,5 +1,6 @@
 """larkfen-player as its user meets it: keys, mouse, the bar, wrong arguments. What is shown is told by
 the pictures that the key S saves: they are held to the stored frames, pixel for pixel."""
+import json
 import os
 import pathlib
 import shutil
@@ -300,6 +301,28 @@ def refusal_tests(desk):
           (code, said))
 
 
+def measure_tests(desk):
+    """--timedemo: needs no display; what it prints adds up."""
+    run = lambda *more: Player(desk.build, desk.work, None, "--data", ROOT / "data", "--timedemo",
+                               *more).end()
+    code, out, err = run("--json", "--from", "180", "--to", "200")
+    told = json.loads(out) if code == 0 else {"parts": []}
+    rows = {row["name"]: row for row in told["parts"]}
+    check("a measurement has rows for all, the scene and its chapters", (code, err) == (0, "") and
+          list(rows) == ["all", "scene one", "dawn", "gates"], (code, err, list(rows)))
+    check("of these frames", [(row["first"], row["last"], row["frames"]) for row in rows.values()] ==
+          [(180, 200, 21), (180, 200, 21), (180, 191, 12), (192, 200, 9)])
+    check("with a worst frame among them", all(row["first"] <= row["worst_frame"] <= row["last"] and
+          row["median_ms"] <= row["p99_ms"] <= row["worst_ms"] for row in rows.values()))
+    every = rows.get("all", {"mean_ms": {}, "frames_per_second": 1})
+    mean, parts = 1000 / every["frames_per_second"], sum(every["mean_ms"].values())
+    check("the parts of a frame are the whole frame", len(every["mean_ms"]) == 6 and
+          abs(mean - parts) < 0.05 * mean, (mean, parts))
+    code, out, err = run("--to", "20")
+    check("the table tells the same", code == 0 and not err and "front end" in out and
+          out.count("scene one") == 2, (code, err))
+
+
 def end_tests(desk):
     """To the end of the production and over it."""
     player = desk.paused(START)
@@ -435,7 +458,7 @@ def sound_tests(desk):
               (code, err))
 
 
-QUICK = [refusal_tests, moving_tests, panel_tests, bar_tests]
+QUICK = [refusal_tests, measure_tests, moving_tests, panel_tests, bar_tests]
 REST = [loop_tests, look_tests, full_screen_tests, end_tests, watch_tests, sound_tests]
 
 

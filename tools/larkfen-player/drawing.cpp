@@ -136,13 +136,19 @@ std::vector<Line> FigureLines(const Player& p) {
         std::snprintf(text, sizeof text, form, value);
         return Line{text, kInk};
     };
-    return {format("frame      %10.0f", p.shown),
-            format("to draw    %10.2f ms", p.frameMs),
-            format("rate       %10.1f a second", p.playing ? p.rate : 0.0),
-            format("faces      %10.0f", p.counted.faces),
-            format("triangles  %10.0f drawn", p.counted.triangles),
-            format("pixels     %10.0f", static_cast<double>(p.counted.pixels)),
-            format("overdraw   %10.2f", static_cast<double>(p.counted.overdraw))};
+    std::vector<Line> lines = {format("frame      %10.0f", p.shown),
+                               format("to draw    %10.2f ms", p.frameMs.whole)};
+    for (std::int32_t part = 0; part < ombrel::kFramePartCount; ++part) {
+        char form[32];
+        std::snprintf(form, sizeof form, "  %-9s%%10.2f ms", NameOfPart(part));
+        lines.push_back({format(form, p.frameMs.parts[part]).text, kFaint});
+    }
+    lines.push_back(format("rate       %10.1f a second", p.playing ? p.rate : 0.0));
+    lines.push_back(format("faces      %10.0f", p.counted.faces));
+    lines.push_back(format("triangles  %10.0f drawn", p.counted.triangles));
+    lines.push_back(format("pixels     %10.0f", static_cast<double>(p.counted.pixels)));
+    lines.push_back(format("overdraw   %10.2f", static_cast<double>(p.counted.overdraw)));
+    return lines;
 }
 
 void DrawLegend(const Player& p, const Brush& brush) {

@@ -13,6 +13,7 @@
 #include "overlay.h"
 #include "platform/sdl2/sdl2_calls.h"
 #include "player/looks.h"
+#include "timedemo.h"
 #include "window.h"
 
 namespace player {
@@ -45,8 +46,8 @@ struct Player {
     std::int32_t objectFrame; // in which it was asked for; -1: none
     ombrel::FrameFigures counted;
     std::int32_t countedFrame;
-    double frameMs; // of the last frame drawn
-    double rate;    // frames a second, over the last half of a second
+    FrameMs frameMs; // of the last frame drawn
+    double rate;     // frames a second, over the last half of a second
     std::int32_t rateFrames;
     Clock::time_point rateFrom;
     std::int32_t width, height; // of the window, pixels

@@ -21,13 +21,32 @@ namespace player {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 struct FrameTime {
     std::int32_t frame;
     std::int32_t scene; // that drew it
-    double ms;
+    FrameMs ms;
 };
 
-constinit double lastMs = 0.0; // of the frame drawn last
+constexpr const char* kPartNames[ombrel::kFramePartCount] = {"step", "front end", "raster",
+                                                             "blur", "texts",     "rest"};
+
+// The frame that is drawn, or was last; the part that it is in, since when.
+struct Running {
+    FrameMs ms;
+    std::int32_t part;
+    Clock::time_point since;
+};
+constinit Running running = {};
+
+void BeginPart(ombrel::FramePart begins) {
+    const Clock::time_point now = Clock::now();
+    running.ms.parts[running.part] +=
+        std::chrono::duration<double, std::milli>(now - running.since).count();
+    running.part = static_cast<std::int32_t>(begins);
+    running.since = now;
+}
 
 // What a stretch of frames took.
 struct Row {
@@ -35,30 +54,30 @@ struct Row {
     std::int32_t first, last, frames;
     double perSecond, median, slow, worst; // frames; ms: half and 99 of 100 are not slower
     std::int32_t worstFrame;
+    double parts[ombrel::kFramePartCount]; // ms, mean
 };
 
 // Of times that are at least one.
 Row RowOf(const char* name, std::vector<FrameTime> times) {
-    Row row = {name,
-               times.front().frame,
-               times.back().frame,
-               static_cast<std::int32_t>(times.size()),
-               0.0,
-               0.0,
-               0.0,
-               0.0,
-               0};
+    Row row{};
+    row.name = name;
+    row.first = times.front().frame;
+    row.last = times.back().frame;
+    row.frames = static_cast<std::int32_t>(times.size());
     double sum = 0.0;
     for (const FrameTime& time : times) {
-        sum += time.ms;
+        sum += time.ms.whole;
+        for (std::int32_t part = 0; part < ombrel::kFramePartCount; ++part) {
+            row.parts[part] += time.ms.parts[part] / static_cast<double>(times.size());
+        }
     }
     std::sort(times.begin(), times.end(),
-              [](const FrameTime& a, const FrameTime& b) { return a.ms < b.ms; });
+              [](const FrameTime& a, const FrameTime& b) { return a.ms.whole < b.ms.whole; });
     const std::size_t last = times.size() - 1;
     row.perSecond = sum > 0.0 ? static_cast<double>(times.size()) * 1000.0 / sum : 0.0;
-    row.median = times[last / 2].ms;
-    row.slow = times[last * 99 / 100].ms;
-    row.worst = times[last].ms;
+    row.median = times[last / 2].ms.whole;
+    row.slow = times[last * 99 / 100].ms.whole;
+    row.worst = times[last].ms.whole;
     row.worstFrame = times[last].frame;
     return row;
 }
@@ -103,6 +122,21 @@ void PrintTable(const TimeDemo& demo, const std::vector<Row>& rows) {
     }
 }
 
+// What a frame spends its time on.
+void PrintParts(const std::vector<Row>& rows) {
+    std::printf("\n%-11s", "mean ms");
+    for (const char* const name : kPartNames) {
+        std::printf("%11s", name);
+    }
+    for (const Row& row : rows) {
+        std::printf("\n%-11s", row.name);
+        for (const double ms : row.parts) {
+            std::printf("%11.3f", ms);
+        }
+    }
+    std::printf("\n");
+}
+
 // Names and processors hold nothing that JSON would want escaped but these two.
 std::string Quoted(const std::string& text) {
     std::string quoted = "\"";
@@ -120,9 +154,14 @@ void PrintJson(const TimeDemo& demo, const std::vector<Row>& rows) {
     for (const Row& row : rows) {
         std::printf("%s\n  {\"name\": %s, \"first\": %d, \"last\": %d, \"frames\": %d, "
                     "\"frames_per_second\": %.3f, \"median_ms\": %.4f, \"p99_ms\": %.4f, "
-                    "\"worst_ms\": %.4f, \"worst_frame\": %d}",
+                    "\"worst_ms\": %.4f, \"worst_frame\": %d",
                     &row == rows.data() ? "" : ",", Quoted(row.name).c_str(), row.first, row.last,
                     row.frames, row.perSecond, row.median, row.slow, row.worst, row.worstFrame);
+        for (std::int32_t part = 0; part < ombrel::kFramePartCount; ++part) {
+            std::printf("%s%s: %.4f", part == 0 ? ", \"mean_ms\": {" : ", ",
+                        Quoted(kPartNames[part]).c_str(), row.parts[part]);
+        }
+        std::printf("}}");
     }
     std::printf("\n]}\n");
 }
@@ -136,15 +175,22 @@ bool OpenProduction() {
 }
 
 int TimedRenderFrame() {
-    const auto start = std::chrono::steady_clock::now();
+    const Clock::time_point start = Clock::now();
+    running = {{}, static_cast<std::int32_t>(ombrel::FramePart::Rest), start};
+    ombrel::frameProbe = BeginPart;
     const int result = ombrel::RenderFrame();
-    lastMs =
-        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+    BeginPart(ombrel::FramePart::Rest); // ends the last one
+    ombrel::frameProbe = nullptr;
+    running.ms.whole = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
     return result;
 }
 
-double LastFrameMs() {
-    return lastMs;
+const FrameMs& LastFrameMs() {
+    return running.ms;
+}
+
+const char* NameOfPart(std::int32_t part) {
+    return kPartNames[part];
 }
 
 int RunTimeDemo(const TimeDemo& demo) {
@@ -158,7 +204,7 @@ int RunTimeDemo(const TimeDemo& demo) {
         if (!ombrel::StepShow()) {
             break;
         }
-        times.push_back({ombrel::ShownFrame(), scene, lastMs});
+        times.push_back({ombrel::ShownFrame(), scene, running.ms});
     }
     if (times.empty()) {
         std::fprintf(stderr, "larkfen-player: the production ended before frame %d\n", demo.first);
@@ -166,6 +212,9 @@ int RunTimeDemo(const TimeDemo& demo) {
     }
     const std::vector<Row> rows = RowsOf(times);
     (demo.json ? PrintJson : PrintTable)(demo, rows);
+    if (!demo.json) {
+        PrintParts(rows);
+    }
     return std::fflush(stdout) == 0 ? 0 : 1;
 }
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "demo/scenes.h"
+
 namespace player {
 
 // Opens the show that both the window and the measurement play, with its frames timed. False when
@@ -22,6 +24,12 @@ int RunTimeDemo(const TimeDemo& demo);
 // Draws a frame and takes its time: the frame driver of the show that is measured.
 int TimedRenderFrame();
 
-double LastFrameMs(); // of the frame that it drew last
+// Of the frame that it drew last, ms; the parts by ombrel::FramePart.
+struct FrameMs {
+    double whole;
+    double parts[ombrel::kFramePartCount];
+};
+const FrameMs& LastFrameMs();
+const char* NameOfPart(std::int32_t part);
 
 } // namespace player
