@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <string_view>
 
 #include "base/pixel16.h"
@@ -72,7 +73,6 @@ enum class FillerId : std::uint8_t {
     OMBREL_FILLERS(OMBREL_NUMBER)
 #undef OMBREL_NUMBER
 };
-inline constexpr std::int32_t kFillerCount = 45;
 
 // The cells of a row, as words.
 struct FillerRow {
@@ -85,7 +85,7 @@ inline constexpr FillerRow kFillerTable[] = {
     OMBREL_FILLERS(OMBREL_WORDS)
 #undef OMBREL_WORDS
 };
-static_assert(sizeof(kFillerTable) / sizeof(kFillerTable[0]) == kFillerCount);
+inline constexpr std::int32_t kFillerCount = std::size(kFillerTable);
 
 // Where a filler draws; members that a filler's rules do not use are not read.
 struct FillTarget {

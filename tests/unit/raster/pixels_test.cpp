@@ -458,7 +458,7 @@ TEST_F(Pixels, AffineTexelsAreEvenlySpread) {
 }
 
 TEST_F(Pixels, R5_AffineTexelsAreCutPerspectiveOnesRounded) {
-    TestTexture texture(8, 1, CountedTexels(8));
+    TestTexture texture(8, 2, CountedTexels(16)); // the bilinear filter looks one row down
     const ScreenPolygon polygon =
         MakePolygon({{{0, 0, 1, 2.75F}, {60, 0, 1, 2.75F}, {0, 40, 1, 2.75F}}}, &texture.record);
     for (const FillerId id : FillersWith(
