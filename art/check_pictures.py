@@ -21,8 +21,10 @@ HUES = (("gold", 30, 70), ("green", 70, 150), ("teal", 150, 190), ("blue", 190, 
 GROUPS, FRAMES_OF_TEN = 3, 9
 APART, LEAST_CHANGE = 200, 12.0      # calls; mean difference of all channels, of 255
 
-# Where texts rest: first and last call of scene two, x, y, characters, advance.
-TEXTS = (("well", 110, 260, 38, 24, 32, 12), ("greetings", 212, 260, 38, 72, 39, 12),
+# Where texts rest: first and last call of scene two (scene one: below zero), x, y, characters,
+# advance.
+TEXTS = (("title", -2049, -1407, 210, 200, 8, 20), ("subtitle", -2049, -1407, 100, 240, 34, 12),
+         ("well", 110, 260, 38, 24, 32, 12), ("greetings", 212, 260, 38, 72, 39, 12),
          ("holiday", 1120, 1720, 151, 21, 33, 12), ("slogan", 1230, 1720, 199, 64, 27, 12),
          ("page 1, 5", 1340, 1720, 223, 108, 10, 12), ("page 1, 8", 1510, 1720, 223, 172, 11, 12),
          ("page 2, 2", 1940, 2440, 7, 43, 48, 12), ("page 2, 3", 2000, 2440, 7, 64, 32, 12),
@@ -110,7 +112,6 @@ def look(capture, data):
         def page(f):
             return np.asarray(Image.open(files[f]).convert("RGB"))
 
-        near = [f for f in files if (f - HAND_OVER) % EVERY or True]
         points = {f - HAND_OVER: page(f) for f in files if FIRST <= f - HAND_OVER <= LAST}
         texts = {f: page(f) for f in files if any(resting(f))}
         pale = [pale_share(p) for p in points.values()]

@@ -31,6 +31,10 @@ SHELL_EDGE, SHELL_RADIUS = 0.7, 8.9
 LIGHT_BELOW = -60.0
 POINTS_FROM = 1801                # call of scene two that first draws points
 DIVE = 60                         # calls before it in which the eye goes down to the sea
+# Texels: a smeared one is wider than so many pixels, one that sparkles narrower; and how much of a
+# picture, in percent, may be covered with such.
+SMEARED, MOST_SMEARED = 9.0, 22.0
+SPARKLES, MOST_SPARKLING = 0.22, 12.0
 MOST_TURN = {"scene one": 0.65, "scene two": 0.65}     # degrees a frame
 problems = []
 
@@ -263,6 +267,57 @@ def report_flight(name, way, cloud, owner, names, through=None, dive=None):
     return near.min()
 
 
+def texel_sizes(path, tex):
+    """Textured faces of an object file: corners, and the units of the file that a texel covers."""
+    verts, uvs, corners, mats, blocks = read_cob(path)
+    names = {b["texture"] for b in blocks if b["texture"]}
+    if not names:
+        return np.zeros((0, 3), int), np.zeros(0)
+    wide, _ = bmp_size(tex / re.split(r"[\\/]", names.pop())[-1])
+    textured = np.isin(mats, [b["number"] for b in blocks if b["texture"]])
+    v, t = corners[textured, 0::2], corners[textured, 1::2]
+    p, q = verts[v], uvs[t] * (wide - 1)
+    area = np.linalg.norm(np.cross(p[:, 1] - p[:, 0], p[:, 2] - p[:, 0]), axis=1)
+    a, b = q[:, 1] - q[:, 0], q[:, 2] - q[:, 0]
+    return v, np.sqrt(area / np.maximum(np.abs(a[:, 0] * b[:, 1] - a[:, 1] * b[:, 0]), 1e-3))
+
+
+def seen_faces(sample, faces):
+    """Faces that look at the eye of a sample of a flight: which, their depths and areas in pixels."""
+    ax, ay = math.radians(sample[3]), math.radians(sample[4])
+    ahead = np.array((math.cos(ax) * math.sin(ay), -math.sin(ax), math.cos(ax) * math.cos(ay)))
+    right = np.array((math.cos(ay), 0, -math.sin(ay)))
+    q = (faces - sample[0:3]) @ np.stack([right, np.cross(ahead, right), ahead], axis=1)
+    z = np.maximum(q[..., 2], 1.0)
+    x, y = 320 * q[..., 0] / z, 320 * q[..., 1] / z
+    n = np.cross(faces[:, 1] - faces[:, 0], faces[:, 2] - faces[:, 0])
+    facing = np.einsum("ij,ij->i", n, faces[:, 0] - sample[0:3]) < 0
+    mid = (np.abs(x.mean(axis=1)) < 320) & (np.abs(y.mean(axis=1)) < 240)
+    k = np.nonzero(facing & mid & (q[..., 2] > 20).all(axis=1))[0]
+    x, y = x[k], y[k]
+    area = 0.5 * np.abs((x[:, 1] - x[:, 0]) * (y[:, 2] - y[:, 0])
+                        - (x[:, 2] - x[:, 0]) * (y[:, 1] - y[:, 0]))
+    return k, z[k].mean(axis=1), area
+
+
+def check_texels(name, way, faces, units, owner, names):
+    """How large texels get along a flight; what hides what is not asked."""
+    for limit, most, wrong_way in ((SMEARED, MOST_SMEARED, "smeared"),
+                                   (SPARKLES, MOST_SPARKLING, "sparkle")):
+        worst = (0.0, 0, "")
+        for f in range(0, len(way), 32):
+            k, depth, area = seen_faces(way[f], faces)
+            pixels = 320 * units[k] / depth
+            bad = pixels > limit if wrong_way == "smeared" else pixels < limit
+            share = np.bincount(owner[k][bad], area[bad], len(names)) / 3072.0
+            if share.sum() > worst[0]:
+                worst = (share.sum(), f, names[int(share.argmax())])
+        print("%s: texels %s %g pixels on %.1f %% of frame %d at most (%s)" % (
+            name, "wider than" if wrong_way == "smeared" else "below", limit, *worst))
+        if worst[0] > most:
+            wrong("%s: texels %s on %.1f %% of frame %d (%s)" % (name, wrong_way, *worst))
+
+
 def main():
     args, capture = list(sys.argv[1:]), None
     if "--frames" in args:
@@ -313,6 +368,8 @@ def main():
             wrong("%s: reaches beyond its tile" % name)
     # The scene list.
     entries, clouds, owner, names = [], [], [], []
+    painted, units, painter = [], [], []
+    texels = {name: texel_sizes(d3 / name, tex) for name in objects} if flights else {}
     for line in (data / "scene1.po").read_text("ascii").splitlines():
         path = line.split()[0]
         if "#" in path:
@@ -343,6 +400,11 @@ def main():
             pts = pts[pts[:, 1] > LIGHT_BELOW]
             clouds.append(pts)
             owner += [len(names)] * len(pts)
+            if flights and name != "sea.cob":      # the water tiles cover it
+                faces, unit = texels[name]
+                painted.append(world[faces])
+                units.append(unit * 0.1 * nums[0])
+                painter += [len(names)] * len(faces)
             names.append(name[:-4])
     kinds = {name for name, _ in entries[:-1]}
     tile = len(objects["ground-lowpoly-03.cob"][1])
@@ -383,6 +445,8 @@ def main():
             crossing = ("sea", POINTS_FROM - DIVE) if name == "scene two" else (None, None)
             if report_flight(name, way, cloud, owner, names, *crossing) < 100:
                 wrong("%s: flies too near to something" % name)
+            check_texels(name, way[:POINTS_FROM] if name == "scene two" else way, np.concatenate(painted),
+                         np.concatenate(units), np.array(painter), names)
     if capture is not None:
         for text in check_pictures.look(capture, data):
             wrong(text)

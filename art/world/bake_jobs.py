@@ -19,7 +19,8 @@ SEA = (112, 132, 142)
 # name: (picture size, floor, wet, feet darker)
 LOOK = {
     "gate": (512, -5, True, True), "tower": (512, 0, False, True),
-    "causeway": (256, -5, True, False), "parasol-pole": (256, 0, False, False),
+    "causeway": (256, -5, True, False), "causeway-lit": (256, -5, True, False),
+     "parasol-pole": (256, 0, False, False),
     "viaduct": (128, -5, True, False), "pavilion": (128, 0, False, True),
     "armillary": (128, 0, False, True), "basin": (128, 0, False, False),
     "hour-stone": (128, 0, False, True), "lamp": (128, 0, False, False),
@@ -28,6 +29,7 @@ LOOK = {
     "boat": (256, 14, False, False), "lantern-ring": (256, 0, False, False),
 }
 SAMPLES = 40
+GLOW = {"causeway-lit": 60.0}     # strength of lights in a bake; all others 2.5
 
 
 def save_mesh(path, mesh, uvs=False):
@@ -65,7 +67,7 @@ def main():
         size, floor, wet, feet = LOOK[name]
         job = dict(name=name, mesh=str(path), out=str(cache / "bake" / (name + ".npz")), size=size,
                    floor=floor, wet=wet, feet=feet, samples=SAMPLES, angle=50,
-                   gap=1.6 / size, glow=2.5,
+                   gap=1.6 / size, glow=GLOW.get(name, 2.5),
                    floor_color=SEA if floor in (-36, -5, 14, 20, 30) else (206, 176, 150))
         mark = hashlib.sha256((tool + digest + json.dumps({k: v for k, v in job.items() if k not in
                                                           ("mesh", "out")},

@@ -68,14 +68,17 @@ def weld(mesh):
 def sky():
     m = Mesh()
     sky_shell(m, 9000, 48, 24, "constant")
-    sky_shell(m, 9300, 34, 17, "constant")
+    # Behind the first, where a pixel of the last column may stay open; in the colour of haze.
+    sky_shell(m, 9300, 34, 17, "plain:constant:214,198,190")
     return weld(m)
 
 
 def sky_night():
     m = Mesh()
     moon_and_stars(m)
-    sky_shell(m, 9000, 36, 18, "tex:constant:5")
+    # The day does not draw this sky, so what only the points show hangs on it and costs the day nothing.
+    m.join(lights.bell_below(), (0, 0, -2000.0))
+    sky_shell(m, 9000, 32, 16, "tex:constant:5")
     return weld(m)
 
 
@@ -130,6 +133,8 @@ def glass():
         a = math.radians(a)
         return 0.5 + 0.49 * d / 90 * math.cos(a), 0.5 + 0.49 * d / 90 * math.sin(a)
 
+    # The far wall first: what is drawn nearer hides what comes after it.
+    far_wall(m, uv)
     bands = [(0.01, 10), (10, 20), (20, 30), (30, 39), (39, 45), (45, 51), (51, 55), (55, 59),
              (59, 63), (63, 67), (67, 73), (73, 80)]
     segs = 48
@@ -151,6 +156,25 @@ def glass():
         surface(m, pts, (255, 255, 255), "tex:constant:4", flip=True, uv=tex)
     drop_degenerate(m)
     return weld(m)
+
+
+def far_wall(m, uv):
+    """What of the globe lies behind the world, seen from inside and through the near side: a veil
+    that gathers at the foot."""
+    def at(bearing, up, r=GLOBE - 60):
+        b, e = math.radians(bearing), math.radians(up)
+        return (r * math.cos(e) * math.sin(b), r * math.cos(e) * math.cos(b), r * math.sin(e))
+
+    # Level by level and without a step: the picture is laid out by the level that draws it.
+    segs = 36
+    for lo, hi, level, d0, d1 in ((-24, -16, 3, 62, 57), (-16, -8, 3, 57, 51.5), (-8, 4, 2, 50.5, 45),
+                                  (4, 16, 2, 45, 39.5), (16, 34, 1, 38.5, 30)):
+        for k in range(segs):
+            a0, a1 = 360.0 * k / segs, 360.0 * (k + 1) / segs
+            q = [at(a0, lo), at(a1, lo), at(a1, hi), at(a0, hi)]
+            t = [uv(d0, a0), uv(d0, a1), uv(d1, a1), uv(d1, a0)]
+            m.add(q, [(0, 1, 2), (0, 2, 3)], (231, 243, 247), "tex:constant:%d" % level,
+                  [(t[0], t[1], t[2]), (t[0], t[2], t[3])])
 
 
 def ground(cells, mat):
@@ -179,7 +203,7 @@ def stand():
     """Bronze ring, bowl, turned neck and foot, and the table with a painted shadow."""
     m = Mesh()
     up = 560.0                                   # heights below are above the sea
-    segs = 48
+    segs = 40
 
     def turn(profile, band):
         """Bodies of revolution; uv: around (twice mirrored) by height in the band's rows."""
@@ -198,7 +222,7 @@ def stand():
     turn([(4330, -190), (4384, -130), (4384, -20), (4340, 50), (4240, 82), (4110, 66),
           (4070, -60)], BAND_BRONZE)
     turn([(1250, -2900), (2100, -2780), (2900, -2470), (3550, -1960), (4020, -1330),
-          (4270, -690), (4335, -192)], BAND_BOWL)
+          (4270, -690), (4335, -192), (4350, -150)], BAND_BOWL)
     turn([(1010, -3160), (1060, -3090), (1330, -3010), (1370, -2950), (1250, -2900)],
          BAND_BRONZE)
     turn([(2000, -4060), (1500, -3880), (1130, -3640), (985, -3400), (1010, -3160)], BAND_NECK)
@@ -212,9 +236,8 @@ def stand():
                     for r in (8600, 7000, 5600, 4400, 3300, 2400, 1500)])
     uv = [[(0.75 + 0.248 * x / 8600, 0.25 + 0.248 * y / 8600) for x, y, _ in row] for row in pts]
     surface(m, pts, (255, 255, 255), "constant", wrap_i=True, uv=uv)
-    drift = lights.plankton()
-    m.join(drift, (0, 0, up))
-    m.join(lights.fireflies(), (0, 0, up))
+    for make in (lights.plankton, lights.fireflies, lights.sky_lanterns, lights.tentacles):
+        m.join(make(), (0, 0, up))
     return weld(m)
 
 

@@ -50,6 +50,11 @@ class Mesh:
         self.verts = [tuple(map(float, fn(*v))) for v in self.verts]
         return self
 
+    def keep(self, wanted):
+        """Leaves out the faces that wanted, one truth a face, does not want."""
+        for part in ("faces", "mats", "colors", "uvs"):
+            setattr(self, part, [p for p, w in zip(getattr(self, part), wanted) if w])
+
     def reach(self):
         v = np.array(self.verts)
         return float(np.sqrt((v * v).sum(axis=1)).max())
@@ -124,10 +129,8 @@ def drop_degenerate(mesh):
         if (n * n).sum() > 1e-3:
             keep.append(k)
     if len(keep) != len(mesh.faces):
-        mesh.faces = [mesh.faces[k] for k in keep]
-        mesh.mats = [mesh.mats[k] for k in keep]
-        mesh.colors = [mesh.colors[k] for k in keep]
-        mesh.uvs = [mesh.uvs[k] for k in keep]
+        kept = set(keep)
+        mesh.keep([k in kept for k in range(len(mesh.faces))])
 
 
 def box(mesh, center, size, color, mat="matte", turn=0.0, taper=1.0, bottom=False, top=True):

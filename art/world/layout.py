@@ -10,8 +10,7 @@ import island
 
 GATES = ((-545, -2900, 19, 1.0), (-345, -2380, 22, 1.0), (-165, -1830, 14, 1.0))
 
-# The medusa's skirt is one piece, placed so many times; the middle of a piece: distance, height.
-SECTORS, SKIRT = 6, (1270.0, -1350.0)
+LAMPS = (1, 3, 6, 8)           # pieces of the way with a pair of lamps
 
 
 def causeway_points():
@@ -45,8 +44,8 @@ def rows():
             x, y = island.patch_middle(i, j)
             r.append(("isle-%d%d" % (i, j), x, y, 0, 0, 1))
     r.append(("dial", 0, 0, 0, 0, 1))
-    for x, y, b in causeway_points():
-        r.append(("causeway", x, y, 0, b, 1))
+    for k, (x, y, b) in enumerate(causeway_points()):
+        r.append(("causeway-lit" if k in LAMPS else "causeway", x, y, 0, b, 1))
     for x, y, b, s in GATES:
         r.append(("gate", x, y, 6, b, s))
     r.append(("parasol-pole", 0, 0, island.PLAZA_TOP, 0, 1))
@@ -64,7 +63,7 @@ def rows():
         r.append(("hour-stone", 1340 * math.sin(a), 1340 * math.cos(a), island.PLAZA_TOP, b, 1))
     # lamps: in pairs on the way, then around the dial
     way = causeway_points()
-    for k in (1, 3, 6, 8):
+    for k in LAMPS:
         x, y, b = way[min(k, len(way) - 1)]
         for side in (-1, 1):
             a = math.radians(b + 90)
@@ -92,13 +91,8 @@ def rows():
         r.append(("spire", x, y, -30, b, s))
     r += [("boat", 430, -2680, -14, 60, 1.0), ("boat", -1560, -2250, -14, 300, 1.0),
           ("boat", 2350, 420, -14, 20, 1.1)]
-    r += [("garlands", 0, 0, 0, 0, 1), ("paper-boats", 0, 0, 0, 0, 1)]
-    # below the sea: the skirt of the medusa, once around
-    away, deep = SKIRT
-    for k in range(SECTORS):
-        b = 360.0 * k / SECTORS
-        a = math.radians(b)
-        r.append(("skirt", away * math.sin(a), away * math.cos(a), deep, b, 1))
+    r += [("garlands", 0, 0, 0, 0, 1), ("paper-boats", 0, 0, 0, 0, 1), ("signs", 0, 0, 0, 0, 1),
+          ("traces", 0, 0, 0, 0, 1)]
     # the turning pair, a quiet one between, and the line that is never drawn
     r += [("lantern-ring", 0, 0, island.PLAZA_TOP, 0, 1), ("canopy", 0, 0, island.PLAZA_TOP, 0, 1),
           ("boat", -2050, 1750, 0, 130, 0.9), ("dummy", 0, 0, 40, 0, 1)]

@@ -2,6 +2,7 @@
 
 Bakes are read from CACHE_FOLDER/bake (see bake.py); --plain colours the faces flat instead.
 """
+import math
 import pathlib
 import sys
 
@@ -19,7 +20,8 @@ import models
 import paint
 
 MODELS = {
-    "causeway": models.causeway, "gate": models.gate, "parasol-pole": models.parasol_pole,
+    "causeway": models.causeway, "causeway-lit": models.causeway_lit,
+    "gate": models.gate, "parasol-pole": models.parasol_pole,
     "tower": models.tower, "viaduct": models.viaduct, "pavilion": models.pavilion,
     "armillary": models.armillary, "basin": models.basin, "hour-stone": models.hour_stone,
     "lamp": models.lamp, "stand": models.shade_stand, "pine": models.pine,
@@ -28,18 +30,32 @@ MODELS = {
 }
 
 # Objects of lights alone, without a picture.
-LIGHTS = {"skirt": lights.skirt, "garlands": lights.garlands, "paper-boats": lights.paper_boats}
+LIGHTS = {"garlands": lights.garlands, "paper-boats": lights.paper_boats,
+          "signs": lights.signs, "traces": lights.traces}
+# Height of the water in the frame of what stands in it.
+FOAM = {"reef": 20, "spire": 30, "boat": 14}
 # Lights that turn with an object; they are added after its bake.
 # Heights in lights.py are above the sea.
-CARRIED = {"lantern-ring": [(lights.arms, -island.PLAZA_TOP)],
+CARRIED = {"gate": [(lights.foam_of_gate, 0)],
+           "lantern-ring": [(lights.arms, -island.PLAZA_TOP)],
            "pine": [(lights.in_the_pine, 0)],
            "canopy": [(lights.swimmers, -island.PLAZA_TOP),
                       (lambda: lights.on_the_ribs(models.canopy_point), 0)]}
 
+ROCKS = ((132, 106, 99), (176, 148, 128), (88, 86, 88))
+
 # Models that bring their own uv, and who paints them.
 PAINTED = {"canopy": paint.canopy}
 # Bakes that need another balance: the way lies within the wet band of the baker.
-TINT = {"causeway": (1.42, 1.27, 1.18)}
+TINT = {"causeway": (1.42, 1.27, 1.18), "causeway-lit": (1.42, 1.27, 1.18)}
+# Ground that the flights see from afar only: painted and baked as the rest, stored half as large.
+HALVED = {"isle-21"}
+# Lights in these are for the bake alone.
+UNLIT = {"causeway-lit"}
+# Small things that are drawn in the plain colour nearest to that of each face.  Below the sea they
+# then keep it as points, where a textured face gives white ones; and they are drawn faster.
+PLAIN = {"pine": ((123, 93, 82), (78, 120, 94), (104, 142, 100)),
+         "reef": ROCKS, "spire": ROCKS}
 
 
 def swatches(mesh):
@@ -60,11 +76,31 @@ def swatches(mesh):
     return page
 
 
+def in_plain_colors(mesh, palette):
+    """Textured faces take the colour of the palette that is nearest to their own, lit as before."""
+    for k, (mat, color) in enumerate(zip(mesh.mats, mesh.colors)):
+        if cobfile.material(mat)[0]:
+            near = min(palette, key=lambda p: sum((a - b) ** 2 for a, b in zip(p, color)))
+            mesh.mats[k] = "plain:%s:%d,%d,%d" % ((cobfile.material(mat)[1],) + near)
+            mesh.uvs[k] = None
+
+
 def lift(page):
     """Baked pictures, opened up: the renderer's own light still multiplies them."""
     page = 255 * (page / 255) ** 0.78
     grey = page.mean(axis=-1, keepdims=True)
     return np.clip(grey + 1.14 * (page - grey), 0, 255)
+
+
+def lamp_pools(x, y):
+    """What the lamps on land add to the light of the ground at map places, as factors of red, green
+    and blue: by the square of the distance, and less where it falls aslant."""
+    light = np.zeros(np.shape(x))
+    for name, at_x, at_y, at_z, _, size in layout.rows():
+        if name == "lamp" and math.hypot(at_x, at_y) < 1500:
+            high = 138.0 * size
+            light += (high / np.sqrt((x - at_x) ** 2 + (y - at_y) ** 2 + high ** 2)) ** 3
+    return 1 + light[..., None] * np.array((0.62, 0.40, 0.12))
 
 
 def main():
@@ -89,7 +125,7 @@ def main():
     picture("sea", water)
     picture("sea-night", paint.sea_night(water))
     picture("sea-far", paint.sea_far(water.mean(axis=(0, 1))))
-    picture("glass", paint.glass(), 0.0)
+    picture("glass", paint.glass(), 1.0)
     picture("globe-stand", paint.stand(256))
     cobfile.write(d3 / "sky-sphere-04.cob", "sky", fixed.sky(), "sky-day.bmp", "fixed",
                   fixed.SKY_SCALE)
@@ -100,10 +136,10 @@ def main():
     cobfile.write(d3 / "stay-01.cob", "stand", fixed.stand(), "globe-stand.bmp", "fixed",
                   fixed.STAND_SCALE)
     helper = (0.0, 1062.5, 0.0)
-    cobfile.write(d3 / "ground-lowpoly-03.cob", "water", fixed.ground(10, "plastic"), "sea.bmp",
+    cobfile.write(d3 / "ground-lowpoly-03.cob", "water", fixed.ground(8, "plastic"), "sea.bmp",
                   "fixed", fixed.GROUND_SCALE, helper, True)
     cobfile.write(d3 / "ground-lowpoly-03-alpha.cob", "night-water",
-                  fixed.ground(8, "tex:plastic:4"), "sea-night.bmp", "fixed", fixed.GROUND_SCALE,
+                  fixed.ground(6, "tex:plastic:4"), "sea-night.bmp", "fixed", fixed.GROUND_SCALE,
                   helper, True)
     cobfile.write(d3 / "light_debug.cob", "light-mark", fixed.light_mark(), None, "fixed",
                   (100, 100))
@@ -134,10 +170,16 @@ def main():
             y, x = (np.mgrid[0:n, 0:n] + 0.5) / n - 0.5
             x, y = cx + x * island.PATCH, cy - y * island.PATCH
             page = paint.sand_color(x, y, island.height(x, y))
-            picture(name, baked_light(name, page))
+            page = baked_light(name, page) * lamp_pools(x, y)
+            if name in HALVED:
+                page = page.reshape(n // 2, 2, n // 2, 2, 3).mean(axis=(1, 3))
+            picture(name, page)
             cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
     mesh = island.dial()
-    picture("dial", baked_light("dial", paint.dial(1024, island.DIAL_REACH)))
+    page = paint.dial(1024, island.DIAL_REACH)
+    y, x = (np.mgrid[0:1024, 0:1024] + 0.5) / 512 - 1
+    pools = lamp_pools(x * island.DIAL_REACH, -y * island.DIAL_REACH)
+    picture("dial", baked_light("dial", page) * pools)
     cobfile.write(d3 / "dial.cob", "dial", mesh, "dial.bmp", spare=spare(mesh))
     sea = fixed.sea_disc()
     cobfile.write(d3 / "sea.cob", "sea", sea, "sea-far.bmp", spare=spare(sea))
@@ -157,10 +199,18 @@ def main():
             mesh.uvs = [tuple((float(u), float(v)) for u, v in f) for f in stored["uv"]]
             page = lift(stored["page"].astype(float))
             page = np.clip(page * np.array(TINT.get(name, (1, 1, 1))), 0, 255)
+        if name in UNLIT:
+            mesh.keep([cobfile.material(k)[0] for k in mesh.mats])
+        if name in PLAIN:
+            in_plain_colors(mesh, PLAIN[name])
+        if name in FOAM:
+            mesh.join(lights.foam(mesh, FOAM[name]))
         for lit, up in CARRIED.get(name, []):
             mesh.join(lit(), (0, 0, up))
-        picture(name, page)
-        cobfile.write(d3 / (name + ".cob"), name, mesh, name + ".bmp", spare=spare(mesh))
+        if name not in PLAIN:
+            picture(name, page)
+        cobfile.write(d3 / (name + ".cob"), name, mesh,
+                      None if name in PLAIN else name + ".bmp", spare=spare(mesh))
     for name, make in LIGHTS.items():
         mesh = make()
         cobfile.write(d3 / (name + ".cob"), name, mesh, None, spare=spare(mesh))

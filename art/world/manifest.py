@@ -3,13 +3,14 @@ import pathlib
 import sys
 
 OURS = "MIT (Quellant)"
-BAKED = {"gate", "tower", "causeway", "parasol-pole", "viaduct", "pavilion", "armillary", "basin",
+BAKED = {"gate", "tower", "causeway", "causeway-lit", "parasol-pole", "viaduct", "pavilion",
+         "armillary", "basin",
          "hour-stone", "lamp", "stand", "pine", "islet", "reef", "spire", "boat", "lantern-ring"}
 FIXED = {"sky-sphere-04", "sky-sphere-04-alpha0", "sky-sphere-04-alpha-s2", "stay-01",
          "ground-lowpoly-03", "ground-lowpoly-03-alpha", "light_debug", "sea"}
 
 
-LIGHTS = {"skirt", "garlands", "paper-boats"}
+LIGHTS = {"garlands", "paper-boats", "signs", "traces"}
 
 
 def entry(name):

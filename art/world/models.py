@@ -21,6 +21,7 @@ CORAL = (214, 97, 74)
 CREAM = (239, 227, 206)
 TEAL = (57, 130, 132)
 BRASS = (206, 154, 74)
+MORTAR = (190, 172, 152)
 LEAF = (82, 125, 99)
 LEAF2 = (107, 142, 99)
 COPPER = (90, 158, 148)
@@ -167,7 +168,7 @@ def parasol_pole():
 
 
 def gate():
-    """A round gate of striped voussoirs on two piers, with a brass sun on the keystone."""
+    """A round gate of striped voussoirs on two piers; what marks it stands in signs()."""
     m = Mesh()
     rnd = wobble(7)
     half, depth, spring = 270.0, 130.0, 380.0
@@ -176,22 +177,23 @@ def gate():
         x = side * (half + 70)
         box(m, (x, 0, -60), (230, depth + 110, 92), STONE2, taper=0.97)
         box(m, (x, 0, 32), (190, depth + 60, 34), STONE, taper=0.96)
-        box(m, (x, 0, 60), (122, depth - 16, spring - 66), DARK)
+        # mortar fills the joints: it stands back by little
+        box(m, (x, 0, 60), (134, depth - 7, spring - 66), MORTAR)
         z = 66.0
         for k in range(6):
-            h = 46 + 3 * rnd()
+            h = 48.5 + rnd()
             col = CORAL if k % 2 else CREAM
             col = mix(col, STONE, 0.35)
-            box(m, (x + 2 * rnd(), 2 * rnd(), z), (140 + 4 * rnd(), depth + 4 * rnd(), h),
-                shade(col, 1 + 0.05 * rnd()), turn=1.2 * rnd(), top=False)
+            box(m, (x + rnd(), rnd(), z), (141 + 3 * rnd(), depth + 3 * rnd(), h),
+                shade(col, 1 + 0.05 * rnd()), turn=0.6 * rnd(), top=False)
             z += 52
         box(m, (x, 0, z - 2), (176, depth + 34, 28), STONE, bottom=True, taper=1.03)
     spring = z + 22
     # voussoirs
     count = 17
     for k in range(count):
-        a0 = math.pi * (k + 0.03) / count
-        a1 = math.pi * (k + 0.97) / count
+        a0 = math.pi * (k + 0.022) / count
+        a1 = math.pi * (k + 0.978) / count
         r0 = half + 4 + 2 * rnd()
         r1 = half + 132 + 5 * rnd() + (24 if k == count // 2 else 0)
         d = depth / 2 + 3 * rnd() + (12 if k == count // 2 else 0)
@@ -209,26 +211,12 @@ def gate():
     for k in range(13):
         a = math.pi * k / 12
         c, s = math.cos(a), math.sin(a)
-        d = depth / 2 - 10
-        r0, r1 = half + 12, half + 118
+        d = depth / 2 - 5
+        r0, r1 = half + 9, half + 124
         pts.append([(r0 * c, d, spring + r0 * s), (r0 * c, -d, spring + r0 * s),
                     (r1 * c, -d, spring + r1 * s), (r1 * c, d, spring + r1 * s),
                     (r0 * c, d, spring + r0 * s)])
-    surface(m, pts, DARK, "matte", flip=True)
-    # brass sun above the keystone: a disc with rays, seen from both sides
-    cz = spring + half + 250
-    tube(m, [(0, 0, spring + half + 130), (0, 0, cz - 60)], [12, 10], 6, BRASS, "matte")
-    for y, flip in ((-9, False), (9, True)):
-        ring = [(0, y, cz)]
-        for k in range(24):
-            r = 66 if k % 2 else 108
-            a = 2 * math.pi * k / 24
-            ring.append((r * math.cos(a), y * (0.4 if k % 2 == 0 else 1), cz + r * math.sin(a)))
-        f = []
-        for k in range(24):
-            t = (0, 1 + k, 1 + (k + 1) % 24)
-            f.append((t[0], t[2], t[1]) if flip else t)
-        m.add(ring, f, BRASS, "matte")
+    surface(m, pts, MORTAR, "matte", flip=True)
     return m
 
 
@@ -292,11 +280,11 @@ def tower():
               (5, 1440), (0.01, 1450)], 16, COPPER, "plastic")
     # gnomon fin: a brass wedge that cuts the dome towards the north
     for x, flip in ((-7, True), (7, False)):
-        pts = [(x, 60, 1176), (x, 236, 1170), (x * 0.3, 40, 1420)]
+        pts = [(x, 60, 1176), (x, 143, 1172), (x * 0.3, 20, 1400)]
         m.add(pts, [(0, 2, 1)] if flip else [(0, 1, 2)], BRASS, "matte")
-    m.add([(-7, 236, 1170), (7, 236, 1170), (2, 40, 1420), (-2, 40, 1420)],
+    m.add([(-7, 143, 1172), (7, 143, 1172), (2, 20, 1400), (-2, 20, 1400)],
           [(0, 2, 1), (0, 3, 2)], BRASS, "matte")
-    m.add([(-7, 60, 1176), (7, 60, 1176), (7, 236, 1170), (-7, 236, 1170)],
+    m.add([(-7, 60, 1176), (7, 60, 1176), (7, 143, 1172), (-7, 143, 1172)],
           [(0, 2, 1), (0, 3, 2)], BRASS, "matte")
     return m
 
@@ -325,6 +313,16 @@ def causeway():
     for x, y, sx, sy in cells:
         box(m, (x, y, 17), (sx, sy, 8 + 2 * rnd()), shade(mix(STONE, SAND, 0.3),
                                                            1 + 0.07 * rnd()), taper=0.97)
+    return m
+
+
+def causeway_lit():
+    """The same below a pair of lamps; their lights are for the bake alone."""
+    m = causeway()
+    for side in (-119, 119):
+        light = Mesh()
+        lathe(light, [(0.01, -16), (15, 0), (0.01, 16)], 6, CREAM, "glow")
+        m.join(light, (side, 0, 132))
     return m
 
 

@@ -9,7 +9,7 @@ Transform
 0 1 0 0
 0 0 1 0
 0 0 0 1
-World Vertices 311
+World Vertices 343
 -2.3 -0.08 0.96
 -2.3 -0.0657 0.5586
 -2.3 -0.0388 0.2352
@@ -320,8 +320,40 @@ World Vertices 311
 -1.4 -0.03 3.47
 -1.25 -0.03 4.535
 -1.1 -0.03 5.6
+1.8977 0.3775 0.21
+1.6621 0.3306 0.21
+1.216 0.8125 0.21
+1.0125 0.6765 0.21
+0.5211 0.7799 0.21
+0.4036 0.604 0.21
+0.155 0.7794 0.21
+0.1281 0.644 0.21
+-0.1487 0.7475 0.21
+-0.1145 0.5755 0.21
+-0.4957 0.7419 0.21
+-0.4028 0.6029 0.21
+-1.2281 0.8206 0.21
+-1.0064 0.6725 0.21
+-1.8481 0.3676 0.21
+-1.6233 0.3229 0.21
+-1.8774 -0.3734 0.21
+-1.6621 -0.3306 0.21
+-1.2564 -0.8395 0.21
+-1.0064 -0.6725 0.21
+-0.5213 -0.7801 0.21
+-0.4028 -0.6029 0.21
+-0.1557 -0.783 0.21
+-0.128 -0.6433 0.21
+0.1582 -0.7954 0.21
+0.1145 -0.5755 0.21
+0.4917 -0.7359 0.21
+0.4036 -0.604 0.21
+1.1854 -0.7921 0.21
+1.0125 -0.6765 0.21
+1.8675 -0.3715 0.21
+1.6254 -0.3233 0.21
 0 0 8.1307
-Texture Vertices 530
+Texture Vertices 531
 0.6322 0.7445
 0.6063 0.6982
 0.6321 0.702
@@ -852,7 +884,8 @@ Texture Vertices 530
 0.5678 0.1959
 0.5678 0.0997
 0.5678 0.0035
-Faces 384
+0 0
+Faces 416
 Face verts 3 flags 0 mat 0
 <0,0> <7,2> <8,1>
 Face verts 3 flags 0 mat 0
@@ -1621,6 +1654,70 @@ Face verts 3 flags 0 mat 1
 <303,522> <308,528> <304,523>
 Face verts 3 flags 0 mat 1
 <308,528> <309,529> <304,523>
+Face verts 3 flags 0 mat 2
+<310,530> <313,530> <312,530>
+Face verts 3 flags 0 mat 2
+<310,530> <311,530> <313,530>
+Face verts 3 flags 0 mat 2
+<312,530> <313,530> <314,530>
+Face verts 3 flags 0 mat 2
+<314,530> <313,530> <315,530>
+Face verts 3 flags 0 mat 2
+<314,530> <317,530> <316,530>
+Face verts 3 flags 0 mat 2
+<314,530> <315,530> <317,530>
+Face verts 3 flags 0 mat 2
+<316,530> <317,530> <318,530>
+Face verts 3 flags 0 mat 2
+<318,530> <317,530> <319,530>
+Face verts 3 flags 0 mat 2
+<318,530> <321,530> <320,530>
+Face verts 3 flags 0 mat 2
+<318,530> <319,530> <321,530>
+Face verts 3 flags 0 mat 2
+<320,530> <321,530> <322,530>
+Face verts 3 flags 0 mat 2
+<322,530> <321,530> <323,530>
+Face verts 3 flags 0 mat 2
+<322,530> <325,530> <324,530>
+Face verts 3 flags 0 mat 2
+<322,530> <323,530> <325,530>
+Face verts 3 flags 0 mat 2
+<324,530> <325,530> <326,530>
+Face verts 3 flags 0 mat 2
+<326,530> <325,530> <327,530>
+Face verts 3 flags 0 mat 2
+<326,530> <329,530> <328,530>
+Face verts 3 flags 0 mat 2
+<326,530> <327,530> <329,530>
+Face verts 3 flags 0 mat 2
+<328,530> <329,530> <330,530>
+Face verts 3 flags 0 mat 2
+<330,530> <329,530> <331,530>
+Face verts 3 flags 0 mat 2
+<330,530> <333,530> <332,530>
+Face verts 3 flags 0 mat 2
+<330,530> <331,530> <333,530>
+Face verts 3 flags 0 mat 2
+<332,530> <333,530> <334,530>
+Face verts 3 flags 0 mat 2
+<334,530> <333,530> <335,530>
+Face verts 3 flags 0 mat 2
+<334,530> <337,530> <336,530>
+Face verts 3 flags 0 mat 2
+<334,530> <335,530> <337,530>
+Face verts 3 flags 0 mat 2
+<336,530> <337,530> <338,530>
+Face verts 3 flags 0 mat 2
+<338,530> <337,530> <339,530>
+Face verts 3 flags 0 mat 2
+<338,530> <341,530> <340,530>
+Face verts 3 flags 0 mat 2
+<338,530> <339,530> <341,530>
+Face verts 3 flags 0 mat 2
+<340,530> <341,530> <310,530>
+Face verts 3 flags 0 mat 2
+<310,530> <341,530> <311,530>
 mat# 0
 rgb 1,1,1
 alpha 1 ka 0.1 ks 0.1 exp 0
@@ -1641,3 +1738,12 @@ Shader class: transparency
 Shader name: "none"
 Shader class: reflectance
 Shader name: "plastic"
+mat# 2
+rgb 0.8088,0.8402,0.848
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "matte"

@@ -232,1192 +232,770 @@ World Vertices 222
 1.9295 -1.377 3.9505
 1.9295 -1.623 3.9505
 0 0 7.9916
-Texture Vertices 413
-0.375 0.8805
-0.3758 0.7759
-0.3957 0.7762
-0.4021 0.8797
-0.8562 0.0032
-0.8553 0.1069
-0.8349 0.0036
-0.8397 0.107
-0.8205 0.109
-0.8086 0.0056
-0.3417 0.8745
-0.3469 0.7711
-0.3687 0.8747
-0.3667 0.7703
-0.9414 0.4467
-0.9343 0.5463
-0.9145 0.5466
-0.9144 0.4464
-0.334 0.4502
-0.3259 0.5551
-0.3069 0.449
-0.3061 0.5542
-0.2948 0.4495
-0.2894 0.5547
-0.2696 0.5536
-0.2678 0.449
-0.3834 0.6599
-0.3996 0.6606
-0.5775 0.9611
-0.5811 0.8619
-0.597 0.861
-0.597 0.9591
-0.85 0.2212
-0.8342 0.2222
-0.3403 0.6569
-0.3565 0.6562
-0.9348 0.6544
-0.9186 0.6554
-0.3174 0.6698
-0.3012 0.6699
-0.2771 0.6705
-0.2609 0.6699
-0.3886 0.544
-0.4021 0.5434
-0.9477 0.8301
-0.9604 0.7142
-0.9604 0.8316
-0.9643 0.3234
-0.9773 0.3212
-0.9773 0.4166
-0.8456 0.3373
-0.8325 0.3365
-0.3403 0.5422
-0.3538 0.5432
-0.9414 0.7647
-0.9279 0.7652
-0.3234 0.7823
-0.3099 0.7835
-0.2779 0.7846
-0.2644 0.786
-0.3779 0.4505
-0.3895 0.449
-0.8562 0.3385
-0.8424 0.4332
-0.8332 0.4323
-0.8219 0.4308
-0.3572 0.449
-0.3687 0.4511
-0.9386 0.8583
-0.9269 0.8581
-0.334 0.874
-0.3223 0.8754
-0.2948 0.8764
-0.2833 0.8786
-0.9876 0.0032
-0.9843 0.0912
-0.9758 0.0912
-0.9731 0.0032
-0.9813 0.7142
-0.9793 0.8019
-0.9668 0.7142
-0.9708 0.8019
-0.9789 0.2268
-0.9757 0.3149
-0.9672 0.3149
-0.9643 0.2268
-0.9883 0.4472
-0.9883 0.5311
-0.9742 0.4464
-0.9801 0.5306
-0.9875 0.0976
-0.9842 0.1856
-0.9758 0.1856
-0.9731 0.0976
-0.3911 0.0571
-0.3913 0.1666
-0.3315 0.0565
-0.4033 0.2643
-0.3357 0.1795
-0.2419 0.0989
-0.4223 0.7527
-0.4644 0.8093
-0.4303 0.8849
-0.1913 0.0628
-0.1386 0.0032
-0.2548 0.0497
-0.4644 0.9483
-0.4096 0.8168
-0.0379 0.7561
-0.055 0.8027
-0.0371 0.8753
-0.6006 0.1004
-0.5162 0.0432
-0.6626 0.0144
-0.055 0.9403
-0.4539 0.0327
-0.4371 0.1401
-0.5069 0.1653
-0.4096 0.2415
-0.889 0.2268
-0.9044 0.3347
-0.8757 0.3381
-0.9204 0.4374
-0.901 0.4351
-0.8625 0.4374
-0.0663 0.07
-0.1362 0.1377
-0.0032 0.156
-0.2114 0.2115
-0.3041 0.3034
-0.181 0.3242
-0.5998 0.8546
-0.562 0.8491
-0.5951 0.7554
-0.5449 0.8546
-0.5699 0.7527
-0.5712 0.861
-0.5712 0.9669
-0.5449 0.9568
-0.5188 0.2873
-0.6185 0.2058
-0.6344 0.2996
-0.7093 0.1316
-0.7105 0.0032
-0.8023 0.056
-0.7967 0.1757
-0.0542 0.3496
-0.0056 0.266
-0.1036 0.3515
-0.1015 0.2402
-0.1486 0.4427
-0.2316 0.3706
-0.2882 0.4427
-0.7614 0.3563
-0.6586 0.4401
-0.7165 0.3615
-0.5196 0.4267
-0.5826 0.3632
-0.8023 0.2729
-0.7507 0.2538
-0.319 0.8818
-0.3322 0.9726
-0.3012 0.9726
-0.9285 0.1015
-0.9095 0.1046
-0.9142 0.0059
-0.8625 0.1123
-0.8797 0.0032
-0.337 0.3383
-0.4745 0.3241
-0.9183 0.2048
-0.9285 0.2205
-0.0417 0.0477
-0.1356 0.7561
-0.1356 0.8687
-0.1055 0.8382
-0.9553 0.2182
-0.9432 0.1162
-0.9526 0.1169
-0.9668 0.2174
-0.2343 0.7561
-0.2328 0.8512
-0.2214 0.7573
-0.2222 0.8528
-0.5385 0.7548
-0.524 0.8536
-0.5131 0.8534
-0.5253 0.7527
-0.9804 0.5812
-0.9804 0.6754
-0.9676 0.5831
-0.9699 0.6772
-0.9453 0.2202
-0.9349 0.1166
-0.9606 0.0032
-0.9668 0.0043
-0.2343 0.9424
-0.2273 0.9438
-0.5385 0.964
-0.5314 0.9648
-0.992 0.3212
-0.992 0.4313
-0.9864 0.4328
-0.9836 0.3232
-0.2407 0.9831
-0.2422 0.8895
-0.2515 0.9831
-0.2495 0.8901
-0.2545 0.7157
-0.1867 0.7336
-0.242 0.6751
-0.1245 0.7438
-0.1678 0.6926
-0.1936 0.625
-0.9291 0.9479
-0.9144 0.9005
-0.9488 0.8646
-0.2545 0.5795
-0.0275 0.8247
-0.0307 0.8895
-0.0032 0.85
-0.1304 0.875
-0.1304 0.9653
-0.1055 0.9159
-0.9488 0.9204
-0.6253 0.874
-0.6062 0.8526
-0.6322 0.8076
-0.4628 0.6229
-0.4114 0.679
-0.4096 0.5752
-0.6345 0.7527
-0.412 0.7128
-0.483 0.7253
-0.4961 0.6979
-0.5422 0.7306
-0.9529 0.2268
-0.958 0.2991
-0.9388 0.2973
-0.5433 0.7443
-0.9267 0.3607
-0.9518 0.3617
-0.0073 0.7561
-0.1819 0.5473
-0.1411 0.4935
-0.2158 0.494
-0.1336 0.6211
-0.0835 0.6968
-0.0754 0.6172
-0.9337 0.4374
-0.6192 0.7464
-0.0077 0.8958
-0.0273 0.9634
-0.0032 0.9634
-0.958 0.437
-0.5826 0.691
-0.5349 0.6183
-0.6141 0.6134
-0.4823 0.5382
-0.6345 0.9362
-0.5262 0.4792
-0.4587 0.5015
-0.0036 0.5219
-0.0787 0.5104
-0.041 0.5756
-0.0983 0.549
-0.0061 0.6125
-0.0254 0.6574
-0.2132 0.8765
-0.2132 0.9593
-0.1899 0.9142
-0.6636 0.5196
-0.6608 0.6101
-0.6459 0.5638
-0.6636 0.6929
-0.6318 0.6514
-0.5902 0.5053
-0.5766 0.5327
-0.1728 0.7561
-0.1835 0.8289
-0.164 0.8304
-0.5244 0.4464
-0.1428 0.449
-0.1835 0.9121
-0.0032 0.6953
-0.0474 0.7497
-0.0307 0.7617
-0.3467 0.881
-0.3661 0.9563
-0.3403 0.9563
-0.1464 0.9422
-0.1419 0.856
-0.1512 0.8584
-0.1577 0.9443
-0.1766 0.9184
-0.1766 0.9945
-0.164 0.9212
-0.1662 0.9968
-0.6578 0.7537
-0.6517 0.8448
-0.6408 0.8448
-0.6445 0.7527
-0.0767 0.7561
-0.0722 0.8481
-0.0635 0.7561
-0.0613 0.8484
-0.0862 0.9427
-0.083 0.8585
-0.0936 0.8599
-0.0991 0.9437
-0.1514 0.7561
-0.1577 0.758
-0.9952 0.8646
-0.9952 0.9531
-0.9883 0.9548
-0.9849 0.867
-0.6578 0.9533
-0.6506 0.9537
-0.0767 0.9579
-0.0694 0.9583
-0.0922 0.7561
-0.0991 0.7573
-0.4815 0.9333
-0.4932 0.8777
-0.5068 0.9403
-0.7896 0.4464
-0.7518 0.5101
-0.7357 0.4778
-0.7096 0.5711
-0.6818 0.5265
-0.3993 0.9561
-0.375 0.9309
-0.3993 0.8868
-0.2948 0.9417
-0.2613 0.9573
-0.2948 0.885
-0.6722 0.6459
-0.6699 0.5701
-0.6941 0.6085
-0.2589 0.9073
-0.7062 0.7179
-0.7764 0.7036
-0.7377 0.7272
-0.9968 0.2967
-0.9852 0.2709
-0.9968 0.2268
-0.7777 0.7545
-0.8235 0.7053
-0.6842 0.77
-0.7039 0.7802
-0.6701 0.8238
-0.4756 0.8776
-0.4707 0.8219
-0.4811 0.8223
-0.5068 0.8177
-0.7255 0.6734
-0.7434 0.6419
-0.7831 0.667
-0.7847 0.5733
-0.8255 0.5073
-0.8395 0.5751
-0.497 0.7527
-0.4753 0.7596
-0.9785 0.9287
-0.9551 0.8665
-0.9785 0.8646
-0.712 0.8616
-0.7797 0.8202
-0.7815 0.8792
-0.845 0.7805
-0.8521 0.7059
-0.8835 0.7574
-0.8952 0.8169
-0.9081 0.6606
-0.8416 0.6784
-0.8742 0.6134
-0.8242 0.6474
-0.8951 0.577
-0.8974 0.531
-0.215 0.7561
-0.215 0.8347
-0.1899 0.7893
-0.1945 0.8702
-0.252 0.7561
-0.252 0.8403
-0.2407 0.7939
-0.7037 0.942
-0.7404 0.924
-0.7832 0.929
-0.8295 0.9306
-0.2415 0.8832
-0.8669 0.942
-0.8989 0.8835
-0.8582 0.8618
-0.9534 0.4464
-0.9679 0.5115
-0.9477 0.515
-0.9613 0.648
-0.9477 0.6471
-0.9613 0.5812
-0.7831 0.6973
-0.9679 0.5749
-0.9081 0.4974
-0.8584 0.455
-0.6699 0.8876
-0.9599 0.7079
-0.9744 0.9351
-0.9744 0.9847
-0.9551 0.9815
-0.9725 0.8082
-0.9864 0.8529
-0.9668 0.8529
+Texture Vertices 1
 0 0
 Faces 366
 Face verts 3 flags 0 mat 0
-<0,0> <8,2> <7,1>
+<0,0> <8,0> <7,0>
 Face verts 3 flags 0 mat 0
-<0,0> <1,3> <8,2>
+<0,0> <1,0> <8,0>
 Face verts 3 flags 0 mat 0
-<1,4> <2,6> <8,5>
+<1,0> <2,0> <8,0>
 Face verts 3 flags 0 mat 0
-<8,5> <2,6> <9,7>
+<8,0> <2,0> <9,0>
 Face verts 3 flags 0 mat 0
-<2,6> <10,8> <9,7>
+<2,0> <10,0> <9,0>
 Face verts 3 flags 0 mat 0
-<2,6> <3,9> <10,8>
+<2,0> <3,0> <10,0>
 Face verts 3 flags 0 mat 0
-<3,10> <4,12> <10,11>
+<3,0> <4,0> <10,0>
 Face verts 3 flags 0 mat 0
-<10,11> <4,12> <11,13>
+<10,0> <4,0> <11,0>
 Face verts 3 flags 0 mat 0
-<4,14> <12,16> <11,15>
+<4,0> <12,0> <11,0>
 Face verts 3 flags 0 mat 0
-<4,14> <5,17> <12,16>
+<4,0> <5,0> <12,0>
 Face verts 3 flags 0 mat 0
-<5,18> <6,20> <12,19>
+<5,0> <6,0> <12,0>
 Face verts 3 flags 0 mat 0
-<12,19> <6,20> <13,21>
+<12,0> <6,0> <13,0>
 Face verts 3 flags 0 mat 0
-<6,22> <7,24> <13,23>
+<6,0> <7,0> <13,0>
 Face verts 3 flags 0 mat 0
-<6,22> <0,25> <7,24>
+<6,0> <0,0> <7,0>
 Face verts 3 flags 0 mat 0
-<7,1> <8,2> <14,26>
+<7,0> <8,0> <14,0>
 Face verts 3 flags 0 mat 0
-<14,26> <8,2> <15,27>
+<14,0> <8,0> <15,0>
 Face verts 3 flags 0 mat 0
-<8,28> <16,30> <15,29>
+<8,0> <16,0> <15,0>
 Face verts 3 flags 0 mat 0
-<8,28> <9,31> <16,30>
+<8,0> <9,0> <16,0>
 Face verts 3 flags 0 mat 0
-<9,7> <10,8> <16,32>
+<9,0> <10,0> <16,0>
 Face verts 3 flags 0 mat 0
-<16,32> <10,8> <17,33>
+<16,0> <10,0> <17,0>
 Face verts 3 flags 0 mat 0
-<10,11> <18,35> <17,34>
+<10,0> <18,0> <17,0>
 Face verts 3 flags 0 mat 0
-<10,11> <11,13> <18,35>
+<10,0> <11,0> <18,0>
 Face verts 3 flags 0 mat 0
-<11,15> <12,16> <18,36>
+<11,0> <12,0> <18,0>
 Face verts 3 flags 0 mat 0
-<18,36> <12,16> <19,37>
+<18,0> <12,0> <19,0>
 Face verts 3 flags 0 mat 0
-<12,19> <20,39> <19,38>
+<12,0> <20,0> <19,0>
 Face verts 3 flags 0 mat 0
-<12,19> <13,21> <20,39>
+<12,0> <13,0> <20,0>
 Face verts 3 flags 0 mat 0
-<13,23> <7,24> <20,40>
+<13,0> <7,0> <20,0>
 Face verts 3 flags 0 mat 0
-<20,40> <7,24> <14,41>
+<20,0> <7,0> <14,0>
 Face verts 3 flags 0 mat 0
-<14,26> <22,43> <21,42>
+<14,0> <22,0> <21,0>
 Face verts 3 flags 0 mat 0
-<14,26> <15,27> <22,43>
+<14,0> <15,0> <22,0>
 Face verts 3 flags 0 mat 0
-<15,44> <16,46> <22,45>
+<15,0> <16,0> <22,0>
 Face verts 3 flags 0 mat 0
-<22,47> <16,49> <23,48>
+<22,0> <16,0> <23,0>
 Face verts 3 flags 0 mat 0
-<16,32> <24,51> <23,50>
+<16,0> <24,0> <23,0>
 Face verts 3 flags 0 mat 0
-<16,32> <17,33> <24,51>
+<16,0> <17,0> <24,0>
 Face verts 3 flags 0 mat 0
-<17,34> <18,35> <24,52>
+<17,0> <18,0> <24,0>
 Face verts 3 flags 0 mat 0
-<24,52> <18,35> <25,53>
+<24,0> <18,0> <25,0>
 Face verts 3 flags 0 mat 0
-<18,36> <26,55> <25,54>
+<18,0> <26,0> <25,0>
 Face verts 3 flags 0 mat 0
-<18,36> <19,37> <26,55>
+<18,0> <19,0> <26,0>
 Face verts 3 flags 0 mat 0
-<19,38> <20,39> <26,56>
+<19,0> <20,0> <26,0>
 Face verts 3 flags 0 mat 0
-<26,56> <20,39> <27,57>
+<26,0> <20,0> <27,0>
 Face verts 3 flags 0 mat 0
-<20,40> <21,59> <27,58>
+<20,0> <21,0> <27,0>
 Face verts 3 flags 0 mat 0
-<20,40> <14,41> <21,59>
+<20,0> <14,0> <21,0>
 Face verts 3 flags 0 mat 0
-<21,42> <22,43> <28,60>
+<21,0> <22,0> <28,0>
 Face verts 3 flags 0 mat 0
-<28,60> <22,43> <29,61>
+<28,0> <22,0> <29,0>
 Face verts 3 flags 0 mat 0
-<22,62> <30,64> <29,63>
+<22,0> <30,0> <29,0>
 Face verts 3 flags 0 mat 0
-<22,62> <23,50> <30,64>
+<22,0> <23,0> <30,0>
 Face verts 3 flags 0 mat 0
-<23,50> <24,51> <30,64>
+<23,0> <24,0> <30,0>
 Face verts 3 flags 0 mat 0
-<30,64> <24,51> <31,65>
+<30,0> <24,0> <31,0>
 Face verts 3 flags 0 mat 0
-<24,52> <32,67> <31,66>
+<24,0> <32,0> <31,0>
 Face verts 3 flags 0 mat 0
-<24,52> <25,53> <32,67>
+<24,0> <25,0> <32,0>
 Face verts 3 flags 0 mat 0
-<25,54> <26,55> <32,68>
+<25,0> <26,0> <32,0>
 Face verts 3 flags 0 mat 0
-<32,68> <26,55> <33,69>
+<32,0> <26,0> <33,0>
 Face verts 3 flags 0 mat 0
-<26,56> <34,71> <33,70>
+<26,0> <34,0> <33,0>
 Face verts 3 flags 0 mat 0
-<26,56> <27,57> <34,71>
+<26,0> <27,0> <34,0>
 Face verts 3 flags 0 mat 0
-<27,58> <21,59> <34,72>
+<27,0> <21,0> <34,0>
 Face verts 3 flags 0 mat 0
-<34,72> <21,59> <28,73>
+<34,0> <21,0> <28,0>
 Face verts 3 flags 0 mat 0
-<35,74> <41,76> <40,75>
+<35,0> <41,0> <40,0>
 Face verts 3 flags 0 mat 0
-<35,74> <36,77> <41,76>
+<35,0> <36,0> <41,0>
 Face verts 3 flags 0 mat 0
-<36,78> <37,80> <41,79>
+<36,0> <37,0> <41,0>
 Face verts 3 flags 0 mat 0
-<41,79> <37,80> <42,81>
+<41,0> <37,0> <42,0>
 Face verts 3 flags 0 mat 0
-<37,82> <43,84> <42,83>
+<37,0> <43,0> <42,0>
 Face verts 3 flags 0 mat 0
-<37,82> <38,85> <43,84>
+<37,0> <38,0> <43,0>
 Face verts 3 flags 0 mat 0
-<38,86> <39,88> <43,87>
+<38,0> <39,0> <43,0>
 Face verts 3 flags 0 mat 0
-<43,87> <39,88> <44,89>
+<43,0> <39,0> <44,0>
 Face verts 3 flags 0 mat 0
-<39,90> <40,92> <44,91>
+<39,0> <40,0> <44,0>
 Face verts 3 flags 0 mat 0
-<39,90> <35,93> <40,92>
-Face verts 3 flags 0 mat 0
-<45,94> <59,96> <57,95>
-Face verts 3 flags 0 mat 0
-<56,97> <57,95> <58,98>
-Face verts 3 flags 0 mat 0
-<50,99> <58,98> <59,96>
-Face verts 3 flags 0 mat 0
-<57,95> <59,96> <58,98>
-Face verts 3 flags 0 mat 0
-<45,100> <61,102> <59,101>
-Face verts 3 flags 0 mat 0
-<50,99> <59,96> <60,103>
-Face verts 3 flags 0 mat 0
-<46,104> <60,103> <61,105>
-Face verts 3 flags 0 mat 0
-<59,101> <61,102> <60,106>
-Face verts 3 flags 0 mat 0
-<45,100> <63,107> <61,102>
-Face verts 3 flags 0 mat 0
-<46,108> <61,110> <62,109>
-Face verts 3 flags 0 mat 0
-<52,111> <62,113> <63,112>
-Face verts 3 flags 0 mat 0
-<61,110> <63,114> <62,109>
-Face verts 3 flags 0 mat 0
-<45,115> <65,116> <63,112>
-Face verts 3 flags 0 mat 0
-<52,111> <63,112> <64,117>
-Face verts 3 flags 0 mat 0
-<55,118> <64,117> <65,116>
-Face verts 3 flags 0 mat 0
-<63,112> <65,116> <64,117>
-Face verts 3 flags 0 mat 0
-<45,119> <57,121> <65,120>
-Face verts 3 flags 0 mat 0
-<55,122> <65,120> <66,123>
-Face verts 3 flags 0 mat 0
-<56,124> <66,123> <57,121>
-Face verts 3 flags 0 mat 0
-<65,120> <57,121> <66,123>
-Face verts 3 flags 0 mat 0
-<46,104> <68,125> <60,103>
-Face verts 3 flags 0 mat 0
-<50,99> <60,103> <67,126>
-Face verts 3 flags 0 mat 0
-<54,127> <67,126> <68,125>
-Face verts 3 flags 0 mat 0
-<60,103> <68,125> <67,126>
-Face verts 3 flags 0 mat 0
-<50,99> <70,128> <58,98>
-Face verts 3 flags 0 mat 0
-<56,97> <58,98> <69,129>
-Face verts 3 flags 0 mat 0
-<49,130> <69,129> <70,128>
-Face verts 3 flags 0 mat 0
-<58,98> <70,128> <69,129>
-Face verts 3 flags 0 mat 0
-<56,131> <72,133> <66,132>
-Face verts 3 flags 0 mat 0
-<55,134> <66,132> <71,135>
-Face verts 3 flags 0 mat 0
-<47,136> <71,138> <72,137>
-Face verts 3 flags 0 mat 0
-<66,132> <72,133> <71,135>
-Face verts 3 flags 0 mat 0
-<55,118> <74,139> <64,117>
-Face verts 3 flags 0 mat 0
-<52,111> <64,117> <73,140>
-Face verts 3 flags 0 mat 0
-<51,141> <73,140> <74,139>
-Face verts 3 flags 0 mat 0
-<64,117> <74,139> <73,140>
-Face verts 3 flags 0 mat 0
-<52,111> <76,142> <62,113>
-Face verts 3 flags 0 mat 0
-<46,143> <62,113> <75,144>
-Face verts 3 flags 0 mat 0
-<53,145> <75,144> <76,142>
-Face verts 3 flags 0 mat 0
-<62,113> <76,142> <75,144>
-Face verts 3 flags 0 mat 0
-<48,146> <79,148> <77,147>
-Face verts 3 flags 0 mat 0
-<54,127> <77,147> <78,149>
-Face verts 3 flags 0 mat 0
-<49,130> <78,149> <79,148>
-Face verts 3 flags 0 mat 0
-<77,147> <79,148> <78,149>
-Face verts 3 flags 0 mat 0
-<48,146> <81,150> <79,148>
-Face verts 3 flags 0 mat 0
-<49,130> <79,148> <80,151>
-Face verts 3 flags 0 mat 0
-<47,152> <80,151> <81,150>
-Face verts 3 flags 0 mat 0
-<79,148> <81,150> <80,151>
-Face verts 3 flags 0 mat 0
-<48,153> <83,155> <81,154>
-Face verts 3 flags 0 mat 0
-<47,156> <81,154> <82,157>
-Face verts 3 flags 0 mat 0
-<51,141> <82,157> <83,155>
-Face verts 3 flags 0 mat 0
-<81,154> <83,155> <82,157>
-Face verts 3 flags 0 mat 0
-<48,153> <85,158> <83,155>
-Face verts 3 flags 0 mat 0
-<51,141> <83,155> <84,159>
-Face verts 3 flags 0 mat 0
-<53,145> <84,159> <85,158>
-Face verts 3 flags 0 mat 0
-<83,155> <85,158> <84,159>
-Face verts 3 flags 0 mat 0
-<48,160> <77,162> <85,161>
-Face verts 3 flags 0 mat 0
-<53,163> <85,165> <86,164>
-Face verts 3 flags 0 mat 0
-<54,166> <86,164> <77,167>
-Face verts 3 flags 0 mat 0
-<85,165> <77,167> <86,164>
-Face verts 3 flags 0 mat 0
-<49,130> <70,128> <78,149>
-Face verts 3 flags 0 mat 0
-<54,127> <78,149> <67,126>
-Face verts 3 flags 0 mat 0
-<50,99> <67,126> <70,128>
-Face verts 3 flags 0 mat 0
-<78,149> <70,128> <67,126>
-Face verts 3 flags 0 mat 0
-<47,152> <72,168> <80,151>
-Face verts 3 flags 0 mat 0
-<49,130> <80,151> <69,129>
-Face verts 3 flags 0 mat 0
-<56,97> <69,129> <72,168>
-Face verts 3 flags 0 mat 0
-<80,151> <72,168> <69,129>
-Face verts 3 flags 0 mat 0
-<51,141> <74,139> <82,157>
-Face verts 3 flags 0 mat 0
-<47,156> <82,157> <71,169>
-Face verts 3 flags 0 mat 0
-<55,118> <71,169> <74,139>
-Face verts 3 flags 0 mat 0
-<82,157> <74,139> <71,169>
-Face verts 3 flags 0 mat 0
-<53,145> <76,142> <84,159>
-Face verts 3 flags 0 mat 0
-<51,141> <84,159> <73,140>
-Face verts 3 flags 0 mat 0
-<52,111> <73,140> <76,142>
-Face verts 3 flags 0 mat 0
-<84,159> <76,142> <73,140>
-Face verts 3 flags 0 mat 0
-<54,166> <68,170> <86,164>
-Face verts 3 flags 0 mat 0
-<53,163> <86,164> <75,171>
-Face verts 3 flags 0 mat 0
-<46,104> <75,172> <68,125>
-Face verts 3 flags 0 mat 0
-<86,173> <68,175> <75,174>
-Face verts 3 flags 0 mat 0
-<87,176> <93,178> <92,177>
-Face verts 3 flags 0 mat 0
-<87,176> <88,179> <93,178>
-Face verts 3 flags 0 mat 0
-<88,180> <89,182> <93,181>
-Face verts 3 flags 0 mat 0
-<93,181> <89,182> <94,183>
-Face verts 3 flags 0 mat 0
-<89,184> <95,186> <94,185>
-Face verts 3 flags 0 mat 0
-<89,184> <90,187> <95,186>
-Face verts 3 flags 0 mat 0
-<90,188> <91,190> <95,189>
-Face verts 3 flags 0 mat 0
-<95,189> <91,190> <96,191>
-Face verts 3 flags 0 mat 0
-<91,192> <92,177> <96,193>
-Face verts 3 flags 0 mat 0
-<91,192> <87,176> <92,177>
-Face verts 3 flags 0 mat 0
-<92,177> <93,178> <97,194>
-Face verts 3 flags 0 mat 0
-<97,194> <93,178> <98,195>
-Face verts 3 flags 0 mat 0
-<93,181> <99,197> <98,196>
-Face verts 3 flags 0 mat 0
-<93,181> <94,183> <99,197>
-Face verts 3 flags 0 mat 0
-<94,185> <95,186> <99,198>
-Face verts 3 flags 0 mat 0
-<99,198> <95,186> <100,199>
-Face verts 3 flags 0 mat 0
-<95,200> <101,202> <100,201>
-Face verts 3 flags 0 mat 0
-<95,200> <96,203> <101,202>
-Face verts 3 flags 0 mat 0
-<96,204> <92,206> <101,205>
-Face verts 3 flags 0 mat 0
-<101,205> <92,206> <97,207>
-Face verts 3 flags 0 mat 0
-<102,208> <116,210> <114,209>
-Face verts 3 flags 0 mat 0
-<113,211> <114,209> <115,212>
-Face verts 3 flags 0 mat 0
-<107,213> <115,212> <116,210>
-Face verts 3 flags 0 mat 0
-<114,209> <116,210> <115,212>
-Face verts 3 flags 0 mat 0
-<102,214> <118,216> <116,215>
-Face verts 3 flags 0 mat 0
-<107,213> <116,210> <117,217>
-Face verts 3 flags 0 mat 0
-<103,218> <117,220> <118,219>
-Face verts 3 flags 0 mat 0
-<116,221> <118,223> <117,222>
-Face verts 3 flags 0 mat 0
-<102,214> <120,224> <118,216>
-Face verts 3 flags 0 mat 0
-<103,225> <118,227> <119,226>
-Face verts 3 flags 0 mat 0
-<109,228> <119,230> <120,229>
-Face verts 3 flags 0 mat 0
-<118,227> <120,231> <119,226>
-Face verts 3 flags 0 mat 0
-<102,232> <122,233> <120,229>
-Face verts 3 flags 0 mat 0
-<109,228> <120,229> <121,234>
-Face verts 3 flags 0 mat 0
-<112,235> <121,234> <122,233>
-Face verts 3 flags 0 mat 0
-<120,229> <122,233> <121,234>
-Face verts 3 flags 0 mat 0
-<102,236> <114,238> <122,237>
-Face verts 3 flags 0 mat 0
-<112,235> <122,233> <123,239>
-Face verts 3 flags 0 mat 0
-<113,240> <123,241> <114,238>
-Face verts 3 flags 0 mat 0
-<122,237> <114,238> <123,241>
-Face verts 3 flags 0 mat 0
-<103,218> <125,242> <117,220>
-Face verts 3 flags 0 mat 0
-<107,213> <117,217> <124,243>
-Face verts 3 flags 0 mat 0
-<111,244> <124,243> <125,245>
-Face verts 3 flags 0 mat 0
-<117,217> <125,245> <124,243>
-Face verts 3 flags 0 mat 0
-<107,213> <127,246> <115,212>
-Face verts 3 flags 0 mat 0
-<113,211> <115,212> <126,247>
-Face verts 3 flags 0 mat 0
-<106,248> <126,247> <127,246>
-Face verts 3 flags 0 mat 0
-<115,212> <127,246> <126,247>
-Face verts 3 flags 0 mat 0
-<113,240> <129,249> <123,241>
-Face verts 3 flags 0 mat 0
-<112,235> <123,239> <128,250>
-Face verts 3 flags 0 mat 0
-<104,251> <128,253> <129,252>
-Face verts 3 flags 0 mat 0
-<123,241> <129,249> <128,254>
-Face verts 3 flags 0 mat 0
-<112,235> <131,255> <121,234>
-Face verts 3 flags 0 mat 0
-<109,228> <121,234> <130,256>
-Face verts 3 flags 0 mat 0
-<108,257> <130,256> <131,255>
-Face verts 3 flags 0 mat 0
-<121,234> <131,255> <130,256>
-Face verts 3 flags 0 mat 0
-<109,228> <133,258> <119,230>
-Face verts 3 flags 0 mat 0
-<103,225> <119,226> <132,259>
-Face verts 3 flags 0 mat 0
-<110,260> <132,261> <133,258>
-Face verts 3 flags 0 mat 0
-<119,230> <133,258> <132,261>
-Face verts 3 flags 0 mat 0
-<105,262> <136,264> <134,263>
-Face verts 3 flags 0 mat 0
-<111,244> <134,263> <135,265>
-Face verts 3 flags 0 mat 0
-<106,248> <135,265> <136,264>
-Face verts 3 flags 0 mat 0
-<134,263> <136,264> <135,265>
-Face verts 3 flags 0 mat 0
-<105,262> <138,266> <136,264>
-Face verts 3 flags 0 mat 0
-<106,248> <136,264> <137,267>
-Face verts 3 flags 0 mat 0
-<104,268> <137,270> <138,269>
-Face verts 3 flags 0 mat 0
-<136,264> <138,266> <137,267>
-Face verts 3 flags 0 mat 0
-<105,271> <140,273> <138,272>
-Face verts 3 flags 0 mat 0
-<104,274> <138,272> <139,275>
-Face verts 3 flags 0 mat 0
-<108,257> <139,275> <140,273>
-Face verts 3 flags 0 mat 0
-<138,272> <140,273> <139,275>
-Face verts 3 flags 0 mat 0
-<105,271> <142,276> <140,273>
-Face verts 3 flags 0 mat 0
-<108,257> <140,273> <141,277>
-Face verts 3 flags 0 mat 0
-<110,260> <141,277> <142,276>
-Face verts 3 flags 0 mat 0
-<140,273> <142,276> <141,277>
-Face verts 3 flags 0 mat 0
-<105,278> <134,280> <142,279>
-Face verts 3 flags 0 mat 0
-<110,260> <142,276> <143,281>
-Face verts 3 flags 0 mat 0
-<111,244> <143,282> <134,263>
-Face verts 3 flags 0 mat 0
-<142,279> <134,280> <143,283>
-Face verts 3 flags 0 mat 0
-<106,248> <127,246> <135,265>
-Face verts 3 flags 0 mat 0
-<111,244> <135,265> <124,243>
-Face verts 3 flags 0 mat 0
-<107,213> <124,243> <127,246>
-Face verts 3 flags 0 mat 0
-<135,265> <127,246> <124,243>
-Face verts 3 flags 0 mat 0
-<104,284> <129,285> <137,267>
-Face verts 3 flags 0 mat 0
-<106,248> <137,267> <126,247>
-Face verts 3 flags 0 mat 0
-<113,211> <126,247> <129,285>
-Face verts 3 flags 0 mat 0
-<137,267> <129,285> <126,247>
-Face verts 3 flags 0 mat 0
-<108,257> <131,255> <139,275>
-Face verts 3 flags 0 mat 0
-<104,274> <139,275> <128,250>
-Face verts 3 flags 0 mat 0
-<112,235> <128,250> <131,255>
-Face verts 3 flags 0 mat 0
-<139,275> <131,255> <128,250>
-Face verts 3 flags 0 mat 0
-<110,260> <133,258> <141,277>
-Face verts 3 flags 0 mat 0
-<108,257> <141,277> <130,256>
-Face verts 3 flags 0 mat 0
-<109,228> <130,256> <133,258>
-Face verts 3 flags 0 mat 0
-<141,277> <133,258> <130,256>
-Face verts 3 flags 0 mat 0
-<111,244> <125,245> <143,282>
-Face verts 3 flags 0 mat 0
-<110,260> <143,281> <132,261>
-Face verts 3 flags 0 mat 0
-<103,218> <132,286> <125,242>
-Face verts 3 flags 0 mat 0
-<143,287> <125,289> <132,288>
-Face verts 3 flags 0 mat 0
-<144,290> <150,292> <149,291>
-Face verts 3 flags 0 mat 0
-<144,290> <145,293> <150,292>
-Face verts 3 flags 0 mat 0
-<145,294> <146,296> <150,295>
-Face verts 3 flags 0 mat 0
-<150,295> <146,296> <151,297>
-Face verts 3 flags 0 mat 0
-<146,298> <152,300> <151,299>
-Face verts 3 flags 0 mat 0
-<146,298> <147,301> <152,300>
-Face verts 3 flags 0 mat 0
-<147,302> <148,304> <152,303>
-Face verts 3 flags 0 mat 0
-<152,303> <148,304> <153,305>
-Face verts 3 flags 0 mat 0
-<148,306> <149,308> <153,307>
-Face verts 3 flags 0 mat 0
-<148,306> <144,309> <149,308>
-Face verts 3 flags 0 mat 0
-<149,291> <150,292> <154,310>
-Face verts 3 flags 0 mat 0
-<154,310> <150,292> <155,311>
-Face verts 3 flags 0 mat 0
-<150,312> <156,314> <155,313>
-Face verts 3 flags 0 mat 0
-<150,312> <151,315> <156,314>
-Face verts 3 flags 0 mat 0
-<151,299> <152,300> <156,316>
-Face verts 3 flags 0 mat 0
-<156,316> <152,300> <157,317>
-Face verts 3 flags 0 mat 0
-<152,303> <158,319> <157,318>
-Face verts 3 flags 0 mat 0
-<152,303> <153,305> <158,319>
-Face verts 3 flags 0 mat 0
-<153,307> <149,308> <158,320>
-Face verts 3 flags 0 mat 0
-<158,320> <149,308> <154,321>
-Face verts 3 flags 0 mat 0
-<159,322> <173,324> <171,323>
-Face verts 3 flags 0 mat 0
-<170,325> <171,327> <172,326>
-Face verts 3 flags 0 mat 0
-<164,328> <172,326> <173,329>
-Face verts 3 flags 0 mat 0
-<171,327> <173,329> <172,326>
-Face verts 3 flags 0 mat 0
-<159,330> <175,332> <173,331>
-Face verts 3 flags 0 mat 0
-<164,333> <173,335> <174,334>
-Face verts 3 flags 0 mat 0
-<160,336> <174,338> <175,337>
-Face verts 3 flags 0 mat 0
-<173,335> <175,339> <174,334>
-Face verts 3 flags 0 mat 0
-<159,340> <177,342> <175,341>
-Face verts 3 flags 0 mat 0
-<160,343> <175,345> <176,344>
-Face verts 3 flags 0 mat 0
-<166,346> <176,347> <177,342>
-Face verts 3 flags 0 mat 0
-<175,341> <177,342> <176,347>
-Face verts 3 flags 0 mat 0
-<159,340> <179,348> <177,342>
-Face verts 3 flags 0 mat 0
-<166,346> <177,342> <178,349>
-Face verts 3 flags 0 mat 0
-<169,350> <178,349> <179,348>
-Face verts 3 flags 0 mat 0
-<177,342> <179,348> <178,349>
-Face verts 3 flags 0 mat 0
-<159,322> <171,323> <179,351>
-Face verts 3 flags 0 mat 0
-<169,352> <179,351> <180,353>
-Face verts 3 flags 0 mat 0
-<170,354> <180,353> <171,323>
-Face verts 3 flags 0 mat 0
-<179,351> <171,323> <180,353>
-Face verts 3 flags 0 mat 0
-<160,336> <182,355> <174,338>
-Face verts 3 flags 0 mat 0
-<164,328> <174,338> <181,356>
-Face verts 3 flags 0 mat 0
-<168,357> <181,356> <182,355>
-Face verts 3 flags 0 mat 0
-<174,338> <182,355> <181,356>
-Face verts 3 flags 0 mat 0
-<164,328> <184,358> <172,326>
-Face verts 3 flags 0 mat 0
-<170,325> <172,326> <183,359>
-Face verts 3 flags 0 mat 0
-<163,360> <183,359> <184,358>
-Face verts 3 flags 0 mat 0
-<172,326> <184,358> <183,359>
-Face verts 3 flags 0 mat 0
-<170,354> <186,361> <180,353>
-Face verts 3 flags 0 mat 0
-<169,352> <180,353> <185,362>
-Face verts 3 flags 0 mat 0
-<161,363> <185,365> <186,364>
-Face verts 3 flags 0 mat 0
-<180,353> <186,361> <185,362>
-Face verts 3 flags 0 mat 0
-<169,350> <188,366> <178,349>
-Face verts 3 flags 0 mat 0
-<166,346> <178,349> <187,367>
-Face verts 3 flags 0 mat 0
-<165,368> <187,367> <188,366>
-Face verts 3 flags 0 mat 0
-<178,349> <188,366> <187,367>
-Face verts 3 flags 0 mat 0
-<166,346> <190,369> <176,347>
-Face verts 3 flags 0 mat 0
-<160,370> <176,347> <189,371>
-Face verts 3 flags 0 mat 0
-<167,372> <189,371> <190,369>
-Face verts 3 flags 0 mat 0
-<176,347> <190,369> <189,371>
-Face verts 3 flags 0 mat 0
-<162,373> <193,375> <191,374>
-Face verts 3 flags 0 mat 0
-<168,357> <191,374> <192,376>
-Face verts 3 flags 0 mat 0
-<163,360> <192,376> <193,375>
-Face verts 3 flags 0 mat 0
-<191,374> <193,375> <192,376>
-Face verts 3 flags 0 mat 0
-<162,373> <195,377> <193,375>
-Face verts 3 flags 0 mat 0
-<163,360> <193,375> <194,378>
-Face verts 3 flags 0 mat 0
-<161,379> <194,381> <195,380>
-Face verts 3 flags 0 mat 0
-<193,382> <195,380> <194,381>
-Face verts 3 flags 0 mat 0
-<162,383> <197,385> <195,384>
-Face verts 3 flags 0 mat 0
-<161,386> <195,388> <196,387>
-Face verts 3 flags 0 mat 0
-<165,368> <196,387> <197,389>
-Face verts 3 flags 0 mat 0
-<195,384> <197,385> <196,390>
-Face verts 3 flags 0 mat 0
-<162,391> <199,392> <197,389>
-Face verts 3 flags 0 mat 0
-<165,368> <197,389> <198,393>
-Face verts 3 flags 0 mat 0
-<167,372> <198,393> <199,392>
-Face verts 3 flags 0 mat 0
-<197,389> <199,392> <198,393>
-Face verts 3 flags 0 mat 0
-<162,394> <191,396> <199,395>
-Face verts 3 flags 0 mat 0
-<167,397> <199,399> <200,398>
-Face verts 3 flags 0 mat 0
-<168,357> <200,400> <191,374>
-Face verts 3 flags 0 mat 0
-<199,395> <191,396> <200,401>
-Face verts 3 flags 0 mat 0
-<163,360> <184,358> <192,376>
-Face verts 3 flags 0 mat 0
-<168,357> <192,376> <181,356>
-Face verts 3 flags 0 mat 0
-<164,328> <181,356> <184,358>
-Face verts 3 flags 0 mat 0
-<192,376> <184,358> <181,356>
-Face verts 3 flags 0 mat 0
-<161,402> <186,403> <194,378>
-Face verts 3 flags 0 mat 0
-<163,360> <194,378> <183,359>
-Face verts 3 flags 0 mat 0
-<170,325> <183,359> <186,403>
-Face verts 3 flags 0 mat 0
-<194,378> <186,403> <183,359>
-Face verts 3 flags 0 mat 0
-<165,368> <188,366> <196,387>
-Face verts 3 flags 0 mat 0
-<161,386> <196,387> <185,404>
-Face verts 3 flags 0 mat 0
-<169,350> <185,404> <188,366>
-Face verts 3 flags 0 mat 0
-<196,387> <188,366> <185,404>
-Face verts 3 flags 0 mat 0
-<167,372> <190,369> <198,393>
-Face verts 3 flags 0 mat 0
-<165,368> <198,393> <187,367>
-Face verts 3 flags 0 mat 0
-<166,346> <187,367> <190,369>
-Face verts 3 flags 0 mat 0
-<198,393> <190,369> <187,367>
-Face verts 3 flags 0 mat 0
-<168,357> <182,355> <200,400>
-Face verts 3 flags 0 mat 0
-<167,397> <200,398> <189,405>
-Face verts 3 flags 0 mat 0
-<160,406> <189,408> <182,407>
-Face verts 3 flags 0 mat 0
-<200,409> <182,411> <189,410>
+<39,0> <35,0> <40,0>
 Face verts 3 flags 0 mat 1
-<201,412> <203,412> <202,412>
-Face verts 3 flags 0 mat 1
-<201,412> <204,412> <203,412>
-Face verts 3 flags 0 mat 1
-<201,412> <202,412> <204,412>
-Face verts 3 flags 0 mat 1
-<202,412> <203,412> <204,412>
+<45,0> <59,0> <57,0>
 Face verts 3 flags 0 mat 2
-<205,412> <207,412> <206,412>
+<56,0> <57,0> <58,0>
 Face verts 3 flags 0 mat 2
-<205,412> <208,412> <207,412>
+<50,0> <58,0> <59,0>
 Face verts 3 flags 0 mat 2
-<205,412> <206,412> <208,412>
+<57,0> <59,0> <58,0>
+Face verts 3 flags 0 mat 1
+<45,0> <61,0> <59,0>
 Face verts 3 flags 0 mat 2
-<206,412> <207,412> <208,412>
+<50,0> <59,0> <60,0>
 Face verts 3 flags 0 mat 1
-<209,412> <211,412> <210,412>
+<46,0> <60,0> <61,0>
 Face verts 3 flags 0 mat 1
-<209,412> <212,412> <211,412>
+<59,0> <61,0> <60,0>
 Face verts 3 flags 0 mat 1
-<209,412> <210,412> <212,412>
+<45,0> <63,0> <61,0>
 Face verts 3 flags 0 mat 1
-<210,412> <211,412> <212,412>
+<46,0> <61,0> <62,0>
+Face verts 3 flags 0 mat 1
+<52,0> <62,0> <63,0>
+Face verts 3 flags 0 mat 1
+<61,0> <63,0> <62,0>
+Face verts 3 flags 0 mat 1
+<45,0> <65,0> <63,0>
+Face verts 3 flags 0 mat 1
+<52,0> <63,0> <64,0>
+Face verts 3 flags 0 mat 1
+<55,0> <64,0> <65,0>
+Face verts 3 flags 0 mat 1
+<63,0> <65,0> <64,0>
+Face verts 3 flags 0 mat 1
+<45,0> <57,0> <65,0>
+Face verts 3 flags 0 mat 1
+<55,0> <65,0> <66,0>
+Face verts 3 flags 0 mat 1
+<56,0> <66,0> <57,0>
+Face verts 3 flags 0 mat 1
+<65,0> <57,0> <66,0>
+Face verts 3 flags 0 mat 1
+<46,0> <68,0> <60,0>
+Face verts 3 flags 0 mat 2
+<50,0> <60,0> <67,0>
+Face verts 3 flags 0 mat 2
+<54,0> <67,0> <68,0>
+Face verts 3 flags 0 mat 2
+<60,0> <68,0> <67,0>
+Face verts 3 flags 0 mat 2
+<50,0> <70,0> <58,0>
+Face verts 3 flags 0 mat 2
+<56,0> <58,0> <69,0>
+Face verts 3 flags 0 mat 2
+<49,0> <69,0> <70,0>
+Face verts 3 flags 0 mat 2
+<58,0> <70,0> <69,0>
+Face verts 3 flags 0 mat 1
+<56,0> <72,0> <66,0>
+Face verts 3 flags 0 mat 1
+<55,0> <66,0> <71,0>
+Face verts 3 flags 0 mat 1
+<47,0> <71,0> <72,0>
+Face verts 3 flags 0 mat 1
+<66,0> <72,0> <71,0>
+Face verts 3 flags 0 mat 1
+<55,0> <74,0> <64,0>
+Face verts 3 flags 0 mat 1
+<52,0> <64,0> <73,0>
+Face verts 3 flags 0 mat 1
+<51,0> <73,0> <74,0>
+Face verts 3 flags 0 mat 1
+<64,0> <74,0> <73,0>
+Face verts 3 flags 0 mat 1
+<52,0> <76,0> <62,0>
+Face verts 3 flags 0 mat 1
+<46,0> <62,0> <75,0>
+Face verts 3 flags 0 mat 1
+<53,0> <75,0> <76,0>
+Face verts 3 flags 0 mat 1
+<62,0> <76,0> <75,0>
+Face verts 3 flags 0 mat 1
+<48,0> <79,0> <77,0>
+Face verts 3 flags 0 mat 2
+<54,0> <77,0> <78,0>
+Face verts 3 flags 0 mat 2
+<49,0> <78,0> <79,0>
+Face verts 3 flags 0 mat 2
+<77,0> <79,0> <78,0>
+Face verts 3 flags 0 mat 1
+<48,0> <81,0> <79,0>
+Face verts 3 flags 0 mat 2
+<49,0> <79,0> <80,0>
+Face verts 3 flags 0 mat 1
+<47,0> <80,0> <81,0>
+Face verts 3 flags 0 mat 1
+<79,0> <81,0> <80,0>
+Face verts 3 flags 0 mat 1
+<48,0> <83,0> <81,0>
+Face verts 3 flags 0 mat 1
+<47,0> <81,0> <82,0>
+Face verts 3 flags 0 mat 1
+<51,0> <82,0> <83,0>
+Face verts 3 flags 0 mat 1
+<81,0> <83,0> <82,0>
+Face verts 3 flags 0 mat 1
+<48,0> <85,0> <83,0>
+Face verts 3 flags 0 mat 1
+<51,0> <83,0> <84,0>
+Face verts 3 flags 0 mat 1
+<53,0> <84,0> <85,0>
+Face verts 3 flags 0 mat 1
+<83,0> <85,0> <84,0>
+Face verts 3 flags 0 mat 1
+<48,0> <77,0> <85,0>
+Face verts 3 flags 0 mat 1
+<53,0> <85,0> <86,0>
+Face verts 3 flags 0 mat 1
+<54,0> <86,0> <77,0>
+Face verts 3 flags 0 mat 1
+<85,0> <77,0> <86,0>
+Face verts 3 flags 0 mat 2
+<49,0> <70,0> <78,0>
+Face verts 3 flags 0 mat 2
+<54,0> <78,0> <67,0>
+Face verts 3 flags 0 mat 2
+<50,0> <67,0> <70,0>
+Face verts 3 flags 0 mat 2
+<78,0> <70,0> <67,0>
+Face verts 3 flags 0 mat 1
+<47,0> <72,0> <80,0>
+Face verts 3 flags 0 mat 2
+<49,0> <80,0> <69,0>
+Face verts 3 flags 0 mat 2
+<56,0> <69,0> <72,0>
+Face verts 3 flags 0 mat 2
+<80,0> <72,0> <69,0>
+Face verts 3 flags 0 mat 1
+<51,0> <74,0> <82,0>
+Face verts 3 flags 0 mat 1
+<47,0> <82,0> <71,0>
+Face verts 3 flags 0 mat 1
+<55,0> <71,0> <74,0>
+Face verts 3 flags 0 mat 1
+<82,0> <74,0> <71,0>
+Face verts 3 flags 0 mat 1
+<53,0> <76,0> <84,0>
+Face verts 3 flags 0 mat 1
+<51,0> <84,0> <73,0>
+Face verts 3 flags 0 mat 1
+<52,0> <73,0> <76,0>
+Face verts 3 flags 0 mat 1
+<84,0> <76,0> <73,0>
+Face verts 3 flags 0 mat 1
+<54,0> <68,0> <86,0>
+Face verts 3 flags 0 mat 1
+<53,0> <86,0> <75,0>
+Face verts 3 flags 0 mat 1
+<46,0> <75,0> <68,0>
+Face verts 3 flags 0 mat 1
+<86,0> <68,0> <75,0>
+Face verts 3 flags 0 mat 0
+<87,0> <93,0> <92,0>
+Face verts 3 flags 0 mat 0
+<87,0> <88,0> <93,0>
+Face verts 3 flags 0 mat 0
+<88,0> <89,0> <93,0>
+Face verts 3 flags 0 mat 0
+<93,0> <89,0> <94,0>
+Face verts 3 flags 0 mat 0
+<89,0> <95,0> <94,0>
+Face verts 3 flags 0 mat 0
+<89,0> <90,0> <95,0>
+Face verts 3 flags 0 mat 0
+<90,0> <91,0> <95,0>
+Face verts 3 flags 0 mat 0
+<95,0> <91,0> <96,0>
+Face verts 3 flags 0 mat 0
+<91,0> <92,0> <96,0>
+Face verts 3 flags 0 mat 0
+<91,0> <87,0> <92,0>
+Face verts 3 flags 0 mat 0
+<92,0> <93,0> <97,0>
+Face verts 3 flags 0 mat 0
+<97,0> <93,0> <98,0>
+Face verts 3 flags 0 mat 0
+<93,0> <99,0> <98,0>
+Face verts 3 flags 0 mat 0
+<93,0> <94,0> <99,0>
+Face verts 3 flags 0 mat 0
+<94,0> <95,0> <99,0>
+Face verts 3 flags 0 mat 0
+<99,0> <95,0> <100,0>
+Face verts 3 flags 0 mat 0
+<95,0> <101,0> <100,0>
+Face verts 3 flags 0 mat 0
+<95,0> <96,0> <101,0>
+Face verts 3 flags 0 mat 0
+<96,0> <92,0> <101,0>
+Face verts 3 flags 0 mat 0
+<101,0> <92,0> <97,0>
+Face verts 3 flags 0 mat 1
+<102,0> <116,0> <114,0>
+Face verts 3 flags 0 mat 2
+<113,0> <114,0> <115,0>
+Face verts 3 flags 0 mat 2
+<107,0> <115,0> <116,0>
+Face verts 3 flags 0 mat 2
+<114,0> <116,0> <115,0>
+Face verts 3 flags 0 mat 1
+<102,0> <118,0> <116,0>
+Face verts 3 flags 0 mat 2
+<107,0> <116,0> <117,0>
+Face verts 3 flags 0 mat 1
+<103,0> <117,0> <118,0>
+Face verts 3 flags 0 mat 2
+<116,0> <118,0> <117,0>
+Face verts 3 flags 0 mat 1
+<102,0> <120,0> <118,0>
+Face verts 3 flags 0 mat 1
+<103,0> <118,0> <119,0>
+Face verts 3 flags 0 mat 1
+<109,0> <119,0> <120,0>
+Face verts 3 flags 0 mat 1
+<118,0> <120,0> <119,0>
+Face verts 3 flags 0 mat 1
+<102,0> <122,0> <120,0>
+Face verts 3 flags 0 mat 1
+<109,0> <120,0> <121,0>
+Face verts 3 flags 0 mat 1
+<112,0> <121,0> <122,0>
+Face verts 3 flags 0 mat 1
+<120,0> <122,0> <121,0>
+Face verts 3 flags 0 mat 1
+<102,0> <114,0> <122,0>
+Face verts 3 flags 0 mat 1
+<112,0> <122,0> <123,0>
+Face verts 3 flags 0 mat 1
+<113,0> <123,0> <114,0>
+Face verts 3 flags 0 mat 1
+<122,0> <114,0> <123,0>
+Face verts 3 flags 0 mat 1
+<103,0> <125,0> <117,0>
+Face verts 3 flags 0 mat 2
+<107,0> <117,0> <124,0>
+Face verts 3 flags 0 mat 2
+<111,0> <124,0> <125,0>
+Face verts 3 flags 0 mat 2
+<117,0> <125,0> <124,0>
+Face verts 3 flags 0 mat 2
+<107,0> <127,0> <115,0>
+Face verts 3 flags 0 mat 2
+<113,0> <115,0> <126,0>
+Face verts 3 flags 0 mat 2
+<106,0> <126,0> <127,0>
+Face verts 3 flags 0 mat 2
+<115,0> <127,0> <126,0>
+Face verts 3 flags 0 mat 1
+<113,0> <129,0> <123,0>
+Face verts 3 flags 0 mat 1
+<112,0> <123,0> <128,0>
+Face verts 3 flags 0 mat 1
+<104,0> <128,0> <129,0>
+Face verts 3 flags 0 mat 1
+<123,0> <129,0> <128,0>
+Face verts 3 flags 0 mat 1
+<112,0> <131,0> <121,0>
+Face verts 3 flags 0 mat 1
+<109,0> <121,0> <130,0>
+Face verts 3 flags 0 mat 1
+<108,0> <130,0> <131,0>
+Face verts 3 flags 0 mat 1
+<121,0> <131,0> <130,0>
+Face verts 3 flags 0 mat 1
+<109,0> <133,0> <119,0>
+Face verts 3 flags 0 mat 1
+<103,0> <119,0> <132,0>
+Face verts 3 flags 0 mat 1
+<110,0> <132,0> <133,0>
+Face verts 3 flags 0 mat 1
+<119,0> <133,0> <132,0>
+Face verts 3 flags 0 mat 1
+<105,0> <136,0> <134,0>
+Face verts 3 flags 0 mat 1
+<111,0> <134,0> <135,0>
+Face verts 3 flags 0 mat 2
+<106,0> <135,0> <136,0>
+Face verts 3 flags 0 mat 2
+<134,0> <136,0> <135,0>
+Face verts 3 flags 0 mat 1
+<105,0> <138,0> <136,0>
+Face verts 3 flags 0 mat 2
+<106,0> <136,0> <137,0>
+Face verts 3 flags 0 mat 1
+<104,0> <137,0> <138,0>
+Face verts 3 flags 0 mat 1
+<136,0> <138,0> <137,0>
+Face verts 3 flags 0 mat 1
+<105,0> <140,0> <138,0>
+Face verts 3 flags 0 mat 1
+<104,0> <138,0> <139,0>
+Face verts 3 flags 0 mat 1
+<108,0> <139,0> <140,0>
+Face verts 3 flags 0 mat 1
+<138,0> <140,0> <139,0>
+Face verts 3 flags 0 mat 1
+<105,0> <142,0> <140,0>
+Face verts 3 flags 0 mat 1
+<108,0> <140,0> <141,0>
+Face verts 3 flags 0 mat 1
+<110,0> <141,0> <142,0>
+Face verts 3 flags 0 mat 1
+<140,0> <142,0> <141,0>
+Face verts 3 flags 0 mat 1
+<105,0> <134,0> <142,0>
+Face verts 3 flags 0 mat 1
+<110,0> <142,0> <143,0>
+Face verts 3 flags 0 mat 1
+<111,0> <143,0> <134,0>
+Face verts 3 flags 0 mat 1
+<142,0> <134,0> <143,0>
+Face verts 3 flags 0 mat 2
+<106,0> <127,0> <135,0>
+Face verts 3 flags 0 mat 2
+<111,0> <135,0> <124,0>
+Face verts 3 flags 0 mat 2
+<107,0> <124,0> <127,0>
+Face verts 3 flags 0 mat 2
+<135,0> <127,0> <124,0>
+Face verts 3 flags 0 mat 1
+<104,0> <129,0> <137,0>
+Face verts 3 flags 0 mat 2
+<106,0> <137,0> <126,0>
+Face verts 3 flags 0 mat 2
+<113,0> <126,0> <129,0>
+Face verts 3 flags 0 mat 2
+<137,0> <129,0> <126,0>
+Face verts 3 flags 0 mat 1
+<108,0> <131,0> <139,0>
+Face verts 3 flags 0 mat 1
+<104,0> <139,0> <128,0>
+Face verts 3 flags 0 mat 1
+<112,0> <128,0> <131,0>
+Face verts 3 flags 0 mat 1
+<139,0> <131,0> <128,0>
+Face verts 3 flags 0 mat 1
+<110,0> <133,0> <141,0>
+Face verts 3 flags 0 mat 1
+<108,0> <141,0> <130,0>
+Face verts 3 flags 0 mat 1
+<109,0> <130,0> <133,0>
+Face verts 3 flags 0 mat 1
+<141,0> <133,0> <130,0>
+Face verts 3 flags 0 mat 1
+<111,0> <125,0> <143,0>
+Face verts 3 flags 0 mat 1
+<110,0> <143,0> <132,0>
+Face verts 3 flags 0 mat 1
+<103,0> <132,0> <125,0>
+Face verts 3 flags 0 mat 1
+<143,0> <125,0> <132,0>
+Face verts 3 flags 0 mat 0
+<144,0> <150,0> <149,0>
+Face verts 3 flags 0 mat 0
+<144,0> <145,0> <150,0>
+Face verts 3 flags 0 mat 0
+<145,0> <146,0> <150,0>
+Face verts 3 flags 0 mat 0
+<150,0> <146,0> <151,0>
+Face verts 3 flags 0 mat 0
+<146,0> <152,0> <151,0>
+Face verts 3 flags 0 mat 0
+<146,0> <147,0> <152,0>
+Face verts 3 flags 0 mat 0
+<147,0> <148,0> <152,0>
+Face verts 3 flags 0 mat 0
+<152,0> <148,0> <153,0>
+Face verts 3 flags 0 mat 0
+<148,0> <149,0> <153,0>
+Face verts 3 flags 0 mat 0
+<148,0> <144,0> <149,0>
+Face verts 3 flags 0 mat 0
+<149,0> <150,0> <154,0>
+Face verts 3 flags 0 mat 0
+<154,0> <150,0> <155,0>
+Face verts 3 flags 0 mat 0
+<150,0> <156,0> <155,0>
+Face verts 3 flags 0 mat 0
+<150,0> <151,0> <156,0>
+Face verts 3 flags 0 mat 0
+<151,0> <152,0> <156,0>
+Face verts 3 flags 0 mat 0
+<156,0> <152,0> <157,0>
+Face verts 3 flags 0 mat 0
+<152,0> <158,0> <157,0>
+Face verts 3 flags 0 mat 0
+<152,0> <153,0> <158,0>
+Face verts 3 flags 0 mat 0
+<153,0> <149,0> <158,0>
+Face verts 3 flags 0 mat 0
+<158,0> <149,0> <154,0>
+Face verts 3 flags 0 mat 1
+<159,0> <173,0> <171,0>
+Face verts 3 flags 0 mat 2
+<170,0> <171,0> <172,0>
+Face verts 3 flags 0 mat 2
+<164,0> <172,0> <173,0>
+Face verts 3 flags 0 mat 2
+<171,0> <173,0> <172,0>
+Face verts 3 flags 0 mat 1
+<159,0> <175,0> <173,0>
+Face verts 3 flags 0 mat 2
+<164,0> <173,0> <174,0>
+Face verts 3 flags 0 mat 1
+<160,0> <174,0> <175,0>
+Face verts 3 flags 0 mat 1
+<173,0> <175,0> <174,0>
+Face verts 3 flags 0 mat 1
+<159,0> <177,0> <175,0>
+Face verts 3 flags 0 mat 1
+<160,0> <175,0> <176,0>
+Face verts 3 flags 0 mat 1
+<166,0> <176,0> <177,0>
+Face verts 3 flags 0 mat 1
+<175,0> <177,0> <176,0>
+Face verts 3 flags 0 mat 1
+<159,0> <179,0> <177,0>
+Face verts 3 flags 0 mat 1
+<166,0> <177,0> <178,0>
+Face verts 3 flags 0 mat 1
+<169,0> <178,0> <179,0>
+Face verts 3 flags 0 mat 1
+<177,0> <179,0> <178,0>
+Face verts 3 flags 0 mat 1
+<159,0> <171,0> <179,0>
+Face verts 3 flags 0 mat 1
+<169,0> <179,0> <180,0>
+Face verts 3 flags 0 mat 1
+<170,0> <180,0> <171,0>
+Face verts 3 flags 0 mat 1
+<179,0> <171,0> <180,0>
+Face verts 3 flags 0 mat 1
+<160,0> <182,0> <174,0>
+Face verts 3 flags 0 mat 2
+<164,0> <174,0> <181,0>
+Face verts 3 flags 0 mat 2
+<168,0> <181,0> <182,0>
+Face verts 3 flags 0 mat 1
+<174,0> <182,0> <181,0>
+Face verts 3 flags 0 mat 2
+<164,0> <184,0> <172,0>
+Face verts 3 flags 0 mat 2
+<170,0> <172,0> <183,0>
+Face verts 3 flags 0 mat 2
+<163,0> <183,0> <184,0>
+Face verts 3 flags 0 mat 2
+<172,0> <184,0> <183,0>
+Face verts 3 flags 0 mat 1
+<170,0> <186,0> <180,0>
+Face verts 3 flags 0 mat 1
+<169,0> <180,0> <185,0>
+Face verts 3 flags 0 mat 1
+<161,0> <185,0> <186,0>
+Face verts 3 flags 0 mat 1
+<180,0> <186,0> <185,0>
+Face verts 3 flags 0 mat 1
+<169,0> <188,0> <178,0>
+Face verts 3 flags 0 mat 1
+<166,0> <178,0> <187,0>
+Face verts 3 flags 0 mat 1
+<165,0> <187,0> <188,0>
+Face verts 3 flags 0 mat 1
+<178,0> <188,0> <187,0>
+Face verts 3 flags 0 mat 1
+<166,0> <190,0> <176,0>
+Face verts 3 flags 0 mat 1
+<160,0> <176,0> <189,0>
+Face verts 3 flags 0 mat 1
+<167,0> <189,0> <190,0>
+Face verts 3 flags 0 mat 1
+<176,0> <190,0> <189,0>
+Face verts 3 flags 0 mat 1
+<162,0> <193,0> <191,0>
+Face verts 3 flags 0 mat 2
+<168,0> <191,0> <192,0>
+Face verts 3 flags 0 mat 2
+<163,0> <192,0> <193,0>
+Face verts 3 flags 0 mat 2
+<191,0> <193,0> <192,0>
+Face verts 3 flags 0 mat 1
+<162,0> <195,0> <193,0>
+Face verts 3 flags 0 mat 2
+<163,0> <193,0> <194,0>
+Face verts 3 flags 0 mat 1
+<161,0> <194,0> <195,0>
+Face verts 3 flags 0 mat 1
+<193,0> <195,0> <194,0>
+Face verts 3 flags 0 mat 1
+<162,0> <197,0> <195,0>
+Face verts 3 flags 0 mat 1
+<161,0> <195,0> <196,0>
+Face verts 3 flags 0 mat 1
+<165,0> <196,0> <197,0>
+Face verts 3 flags 0 mat 1
+<195,0> <197,0> <196,0>
+Face verts 3 flags 0 mat 1
+<162,0> <199,0> <197,0>
+Face verts 3 flags 0 mat 1
+<165,0> <197,0> <198,0>
+Face verts 3 flags 0 mat 1
+<167,0> <198,0> <199,0>
+Face verts 3 flags 0 mat 1
+<197,0> <199,0> <198,0>
+Face verts 3 flags 0 mat 1
+<162,0> <191,0> <199,0>
+Face verts 3 flags 0 mat 1
+<167,0> <199,0> <200,0>
+Face verts 3 flags 0 mat 1
+<168,0> <200,0> <191,0>
+Face verts 3 flags 0 mat 1
+<199,0> <191,0> <200,0>
+Face verts 3 flags 0 mat 2
+<163,0> <184,0> <192,0>
+Face verts 3 flags 0 mat 2
+<168,0> <192,0> <181,0>
+Face verts 3 flags 0 mat 2
+<164,0> <181,0> <184,0>
+Face verts 3 flags 0 mat 2
+<192,0> <184,0> <181,0>
+Face verts 3 flags 0 mat 1
+<161,0> <186,0> <194,0>
+Face verts 3 flags 0 mat 2
+<163,0> <194,0> <183,0>
+Face verts 3 flags 0 mat 2
+<170,0> <183,0> <186,0>
+Face verts 3 flags 0 mat 2
+<194,0> <186,0> <183,0>
+Face verts 3 flags 0 mat 1
+<165,0> <188,0> <196,0>
+Face verts 3 flags 0 mat 1
+<161,0> <196,0> <185,0>
+Face verts 3 flags 0 mat 1
+<169,0> <185,0> <188,0>
+Face verts 3 flags 0 mat 1
+<196,0> <188,0> <185,0>
+Face verts 3 flags 0 mat 1
+<167,0> <190,0> <198,0>
+Face verts 3 flags 0 mat 1
+<165,0> <198,0> <187,0>
+Face verts 3 flags 0 mat 1
+<166,0> <187,0> <190,0>
+Face verts 3 flags 0 mat 1
+<198,0> <190,0> <187,0>
+Face verts 3 flags 0 mat 1
+<168,0> <182,0> <200,0>
+Face verts 3 flags 0 mat 1
+<167,0> <200,0> <189,0>
+Face verts 3 flags 0 mat 1
+<160,0> <189,0> <182,0>
+Face verts 3 flags 0 mat 1
+<200,0> <182,0> <189,0>
 Face verts 3 flags 0 mat 3
-<213,412> <215,412> <214,412>
+<201,0> <203,0> <202,0>
 Face verts 3 flags 0 mat 3
-<213,412> <216,412> <215,412>
+<201,0> <204,0> <203,0>
 Face verts 3 flags 0 mat 3
-<213,412> <214,412> <216,412>
+<201,0> <202,0> <204,0>
 Face verts 3 flags 0 mat 3
-<214,412> <215,412> <216,412>
-Face verts 3 flags 0 mat 4
-<217,412> <219,412> <218,412>
-Face verts 3 flags 0 mat 4
-<217,412> <220,412> <219,412>
-Face verts 3 flags 0 mat 4
-<217,412> <218,412> <220,412>
-Face verts 3 flags 0 mat 4
-<218,412> <219,412> <220,412>
+<202,0> <203,0> <204,0>
+Face verts 3 flags 0 mat 3
+<205,0> <207,0> <206,0>
+Face verts 3 flags 0 mat 3
+<205,0> <208,0> <207,0>
+Face verts 3 flags 0 mat 3
+<205,0> <206,0> <208,0>
+Face verts 3 flags 0 mat 3
+<206,0> <207,0> <208,0>
+Face verts 3 flags 0 mat 3
+<209,0> <211,0> <210,0>
+Face verts 3 flags 0 mat 3
+<209,0> <212,0> <211,0>
+Face verts 3 flags 0 mat 3
+<209,0> <210,0> <212,0>
+Face verts 3 flags 0 mat 3
+<210,0> <211,0> <212,0>
+Face verts 3 flags 0 mat 3
+<213,0> <215,0> <214,0>
+Face verts 3 flags 0 mat 3
+<213,0> <216,0> <215,0>
+Face verts 3 flags 0 mat 3
+<213,0> <214,0> <216,0>
+Face verts 3 flags 0 mat 3
+<214,0> <215,0> <216,0>
+Face verts 3 flags 0 mat 3
+<217,0> <219,0> <218,0>
+Face verts 3 flags 0 mat 3
+<217,0> <220,0> <219,0>
+Face verts 3 flags 0 mat 3
+<217,0> <218,0> <220,0>
+Face verts 3 flags 0 mat 3
+<218,0> <219,0> <220,0>
 mat# 0
-rgb 1,1,1
+rgb 0.4833,0.3657,0.3225
 alpha 1 ka 0.1 ks 0.1 exp 0
 Shader class: color
-Shader name: "texture map"
-file name: string ".\pine.bmp"
+Shader name: "plain color"
 Shader class: transparency
 Shader name: "none"
 Shader class: reflectance
 Shader name: "plastic"
 mat# 1
-rgb 1,0.6676,0.1578
+rgb 0.3069,0.4716,0.3696
 alpha 1 ka 0.1 ks 0.1 exp 0
 Shader class: color
 Shader name: "plain color"
 Shader class: transparency
 Shader name: "none"
 Shader class: reflectance
-Shader name: "constant"
+Shader name: "plastic"
 mat# 2
-rgb 1,0.4324,0.0794
+rgb 0.4088,0.5578,0.3931
 alpha 1 ka 0.1 ks 0.1 exp 0
 Shader class: color
 Shader name: "plain color"
 Shader class: transparency
 Shader name: "none"
 Shader class: reflectance
-Shader name: "constant"
+Shader name: "plastic"
 mat# 3
-rgb 1,0.1971,0.5892
-alpha 1 ka 0.1 ks 0.1 exp 0
-Shader class: color
-Shader name: "plain color"
-Shader class: transparency
-Shader name: "none"
-Shader class: reflectance
-Shader name: "constant"
-mat# 4
-rgb 0.1578,0.9029,0.7853
+rgb 1,0.6676,0.1578
 alpha 1 ka 0.1 ks 0.1 exp 0
 Shader class: color
 Shader name: "plain color"

@@ -9,7 +9,7 @@ Transform
 0 1 0 0
 0 0 1 0
 0 0 0 1
-World Vertices 225
+World Vertices 257
 -1.4532 1.71 0
 -2.1058 1.5498 0.2603
 -1.1062 1.5996 0.3625
@@ -234,1256 +234,923 @@ World Vertices 225
 3.2175 0.9156 -0.496
 3.285 1.3418 -0.1
 3.0757 1.2297 -0.7401
+3.5951 0.7151 0.27
+3.2407 0.6446 0.27
+3.1765 2.1225 0.27
+2.8357 1.8948 0.27
+1.5529 2.324 0.27
+1.3631 2.0401 0.27
+0.3976 1.9988 0.27
+0.3537 1.7781 0.27
+-0.3906 1.9636 0.27
+-0.3394 1.7064 0.27
+-1.2162 1.8201 0.27
+-1.0728 1.6056 0.27
+-3.1034 2.0736 0.27
+-2.7504 1.8378 0.27
+-3.9822 0.7921 0.27
+-3.608 0.7177 0.27
+-3.7801 -0.7519 0.27
+-3.4316 -0.6826 0.27
+-2.9454 -1.968 0.27
+-2.5772 -1.722 0.27
+-1.8429 -2.7581 0.27
+-1.632 -2.4424 0.27
+-0.5286 -2.6574 0.27
+-0.4747 -2.3865 0.27
+0.415 -2.0864 0.27
+0.3533 -1.7761 0.27
+1.2362 -1.85 0.27
+1.096 -1.6402 0.27
+2.4616 -1.6448 0.27
+2.1993 -1.4696 0.27
+3.3511 -0.6666 0.27
+3.0051 -0.5978 0.27
 0 0 5.907
-Texture Vertices 447
-0.4032 0.2414
-0.3795 0.2936
-0.3688 0.213
-0.3495 0.3574
-0.3453 0.2694
-0.8514 0.768
-0.8118 0.7644
-0.8306 0.6871
-0.7855 0.6898
-0.2325 0.5846
-0.2325 0.6758
-0.1808 0.6299
-0.2448 0.2828
-0.2972 0.3236
-0.2575 0.3515
-0.3056 0.4011
-0.8832 0.6763
-0.8258 0.6564
-0.8832 0.6132
-0.1911 0.2465
-0.2344 0.2932
-0.1868 0.3244
-0.8895 0.6965
-0.8895 0.8
-0.1623 0.4152
-0.2381 0.4011
-0.2965 0.2367
-0.4024 0.1803
-0.3402 0.1855
-0.3722 0.1522
-0.405 0.1212
-0.2156 0.2103
-0.3332 0.0703
-0.3377 0.126
-0.3091 0.1022
-0.857 0.8484
-0.8828 0.8858
-0.606 0.8421
-0.5907 0.9095
-0.5682 0.8614
-0.3665 0.0941
-0.4084 0.0513
-0.3577 0.0399
-0.8247 0.8105
-0.5142 0.9372
-0.5461 0.9068
-0.5461 0.9765
-0.449 0.2319
-0.4529 0.1564
-0.6379 0.8686
-0.4554 0.0671
-0.6205 0.9485
-0.4432 0.3262
-0.4554 0.4082
-0.4065 0.4018
-0.8639 0.1422
-0.896 0.0784
-0.9065 0.1397
-0.184 0.5459
-0.3485 0.4711
-0.8139 0.1436
-0.8114 0.0765
-0.7309 0.8941
-0.7309 0.9681
-0.6618 0.9425
-0.9143 0.0063
-0.864 0.0033
-0.3795 0.976
-0.3339 0.976
-0.3782 0.9271
-0.3252 0.0033
-0.2868 0.9243
-0.2886 0.8763
-0.3265 0.8783
-0.3273 0.8225
-0.1748 0.1878
-0.1607 0.1321
-0.213 0.1441
-0.2927 0.0456
-0.1188 0.0354
-0.1661 0.0282
-0.1426 0.0775
-0.0449 0.9306
-0.0033 0.9447
-0.0119 0.9021
-0.1946 0.0703
-0.3273 0.9285
-0.2381 0.0999
-0.143 0.2423
-0.128 0.3176
-0.1015 0.2405
-0.0759 0.5393
-0.0431 0.4684
-0.1193 0.4599
-0.5164 0.7844
-0.462 0.7427
-0.505 0.6759
-0.0873 0.4073
-0.0036 0.231
-0.0507 0.2366
-0.0198 0.2953
-0.0626 0.3117
-0.5193 0.8384
-0.4709 0.8293
-0.4851 0.9001
-0.7676 0.6751
-0.7067 0.6805
-0.7562 0.6156
-0.8502 0.2028
-0.7604 0.5638
-0.7041 0.6199
-0.926 0.9855
-0.8961 0.9583
-0.926 0.9117
-0.7643 0.4307
-0.757 0.4993
-0.7142 0.4782
-0.7085 0.5416
-0.6618 0.5229
-0.9143 0.1899
-0.6726 0.575
-0.9067 0.2502
-0.6379 0.7962
-0.9617 0.0475
-0.9266 0.1011
-0.9209 0.0376
-0.7637 0.26
-0.767 0.1828
-0.8048 0.2293
-0.7689 0.101
-0.8047 0.1396
-0.0882 0.0705
-0.0736 0.022
-0.0576 0.1141
-0.0377 0.0553
-0.0206 0.0033
-0.7088 0.0362
-0.7422 0.0718
-0.6993 0.105
-0.7298 0.1409
-0.0257 0.1658
-0.0033 0.1221
-0.7254 0.2146
-0.9617 0.0033
-0.8048 0.0684
-0.9595 0.5248
-0.9606 0.5872
-0.9295 0.569
-0.9943 0.1077
-0.9943 0.1707
-0.9641 0.1645
-0.7449 0.0033
-0.3222 0.5986
-0.3702 0.5224
-0.38 0.5617
-0.7695 0.0358
-0.8051 0.3582
-0.8192 0.4264
-0.9167 0.4738
-0.9606 0.4455
-0.2448 0.6539
-0.2751 0.5532
-0.411 0.8513
-0.4502 0.8225
-0.4502 0.9273
-0.3474 0.4777
-0.391 0.6932
-0.3867 0.6333
-0.4403 0.6865
-0.3915 0.569
-0.438 0.6089
-0.7342 0.3849
-0.3898 0.4777
-0.4403 0.5053
-0.7784 0.3105
-0.4154 0.7569
-0.7702 0.976
-0.7375 0.9327
-0.7702 0.8941
-0.6489 0.7
-0.6078 0.6876
-0.651 0.646
-0.5682 0.6729
-0.6022 0.6297
-0.1569 0.8484
-0.1227 0.8927
-0.1228 0.8407
-0.651 0.7445
-0.6071 0.7456
-0.616 0.7896
-0.2245 0.8621
-0.2056 0.9054
-0.1926 0.8556
-0.1775 0.9552
-0.1632 0.8989
-0.1312 0.9485
-0.0811 0.1809
-0.1123 0.1132
-0.1321 0.1843
-0.3052 0.6963
-0.8107 0.4896
-0.2831 0.7359
-0.462 0.9531
-0.5076 0.9068
-0.5076 0.961
-0.5576 0.8072
-0.3787 0.6255
-0.5616 0.8672
-0.8192 0.6114
-0.3246 0.7827
-0.38 0.7076
-0.3754 0.8158
-0.5566 0.7314
-0.5616 0.6297
-0.2245 0.8147
-0.8183 0.9029
-0.8241 0.9669
-0.7977 0.9339
-0.0343 0.8822
-0.7855 0.9677
-0.1118 0.8951
-0.0702 0.8652
-0.1099 0.8508
-0.8543 0.8924
-0.8543 0.9434
-0.0701 0.8147
-0.411 0.9619
-0.4501 0.9339
-0.4501 0.9848
-0.2492 0.9138
-0.1161 0.9447
-0.0815 0.9147
-0.2448 0.8704
-0.9558 0.174
-0.9574 0.2154
-0.9285 0.2088
-0.5374 0.1977
-0.5569 0.1641
-0.5657 0.2093
-0.5858 0.1433
-0.5925 0.1928
-0.4706 0.1559
-0.4878 0.1155
-0.4972 0.1729
-0.5168 0.091
-0.5154 0.136
-0.2183 0.7543
-0.2305 0.803
-0.1808 0.7474
-0.9963 0.0395
-0.9683 0.049
-0.9716 0.0165
-0.5438 0.0679
-0.5549 0.1228
-0.1967 0.802
-0.9209 0.1576
-0.6235 0.1788
-0.6736 0.2186
-0.6306 0.2311
-0.5763 0.0754
-0.606 0.0913
-0.5831 0.1243
-0.6465 0.1
-0.6103 0.1263
-0.9963 0.0033
-0.7443 0.828
-0.7053 0.8321
-0.7253 0.7602
-0.6618 0.8355
-0.6866 0.7786
-0.6927 0.1227
-0.6602 0.1568
-0.9672 0.4628
-0.9967 0.4455
-0.9967 0.4982
-0.9574 0.1355
-0.6587 0.2715
-0.9282 0.1078
-0.734 0.8831
-0.6957 0.8874
-0.5964 0.2326
-0.6182 0.2708
-0.5805 0.2654
-0.5641 0.3038
-0.5461 0.2514
-0.9493 0.3598
-0.9167 0.3467
-0.9355 0.3105
-0.9681 0.4389
-0.9362 0.4345
-0.9566 0.3933
-0.5113 0.2194
-0.9281 0.3914
-0.5243 0.2822
-0.7789 0.7766
-0.6927 0.0429
-0.134 0.6761
-0.1742 0.6416
-0.1742 0.7319
-0.7575 0.6871
-0.5896 0.0387
-0.6063 0.0033
-0.633 0.031
-0.0663 0.7235
-0.0992 0.6932
-0.086 0.7673
-0.1256 0.7505
-0.9174 0.6128
-0.9513 0.5938
-0.9642 0.6323
-0.9167 0.6519
-0.9642 0.6801
-0.184 0.6879
-0.5128 0.0316
-0.9604 0.2482
-0.9906 0.2605
-0.9652 0.2879
-0.5445 0.0085
-0.462 0.1084
-0.9538 0.2576
-0.9209 0.2469
-0.9538 0.222
-0.3246 0.9351
-0.3246 0.9695
-0.2928 0.947
-0.291 0.9878
-0.3947 0.8918
-0.4044 0.9204
-0.3662 0.9175
-0.5676 0.6009
-0.5501 0.5642
-0.5824 0.568
-0.9938 0.5624
-0.9672 0.5439
-0.9938 0.5252
-0.9684 0.5048
-0.4952 0.5437
-0.5152 0.5291
-0.5269 0.5936
-0.9308 0.2943
-0.4665 0.4822
-0.4666 0.4249
-0.4942 0.455
-0.462 0.3784
-0.4878 0.4079
-0.5186 0.4188
-0.9681 0.3252
-0.559 0.3637
-0.5381 0.4023
-0.5325 0.341
-0.51 0.3712
-0.5106 0.3114
-0.4802 0.3453
-0.7789 0.8682
-0.8499 0.5595
-0.8258 0.5136
-0.8711 0.5038
-0.9404 0.7531
-0.9832 0.7333
-0.9652 0.7993
-0.8983 0.4537
-0.8495 0.4514
-0.0428 0.7762
-0.0344 0.6953
-0.871 0.3546
-0.8319 0.3959
-0.8304 0.3527
-0.0033 0.6761
-0.0064 0.7487
-0.5961 0.5436
-0.6212 0.5126
-0.6254 0.5703
-0.6506 0.4884
-0.6552 0.5375
-0.91 0.3673
-0.8845 0.403
-0.951 0.6871
-0.8848 0.5688
-0.91 0.5139
-0.6205 0.3636
-0.6552 0.3658
-0.6454 0.4283
-0.3681 0.8621
-0.4044 0.8534
-0.5795 0.4627
-0.613 0.476
-0.5888 0.5088
-0.378 0.8225
-0.5897 0.3619
-0.5684 0.4106
-0.6045 0.4189
-0.8539 0.6066
-0.6414 0.3121
-0.5676 0.3123
-0.6024 0.3105
-0.9844 0.8507
-0.9844 0.9051
-0.9544 0.8696
-0.9234 0.8966
-0.9284 0.8357
-0.0707 0.5966
-0.0437 0.5643
-0.0722 0.5459
-0.0693 0.6452
-0.0396 0.6289
-0.8961 0.8714
-0.0044 0.5917
-0.9089 0.3105
-0.6141 0.6231
-0.1028 0.793
-0.0651 0.8081
-0.8489 0.297
-0.8114 0.2782
-0.8489 0.2568
-0.2305 0.7176
-0.9906 0.222
-0.565 0.0038
-0.2244 0.6824
-0.2448 0.9449
-0.2844 0.9351
-0.2844 0.9844
-0.891 0.2568
-0.891 0.2973
-0.8555 0.2684
-0.3867 0.7674
-0.4307 0.7635
-0.3989 0.8062
-0.4307 0.8152
-0.5464 0.4479
-0.5308 0.5383
-0.5553 0.512
-0.5651 0.559
-0.3437 0.8232
-0.3339 0.8776
-0.495 0.5197
-0.5224 0.472
-0.0981 0.6275
-0.9326 0.9279
-0.9624 0.9117
-0.9624 0.9794
-0.0996 0.5635
-0.136 0.595
-0.8882 0.952
-0.861 0.9359
-0.8882 0.8924
-0.1645 0.5613
-0.1282 0.5483
-Faces 397
-Face verts 3 flags 0 mat 0
-<0,0> <2,2> <1,1>
-Face verts 3 flags 0 mat 0
-<3,3> <1,1> <4,4>
-Face verts 3 flags 0 mat 0
-<5,5> <4,7> <2,6>
-Face verts 3 flags 0 mat 0
-<1,8> <2,6> <4,7>
-Face verts 3 flags 0 mat 0
-<6,9> <8,11> <7,10>
-Face verts 3 flags 0 mat 0
-<9,12> <7,14> <10,13>
-Face verts 3 flags 0 mat 0
-<3,3> <10,13> <8,15>
-Face verts 3 flags 0 mat 0
-<7,16> <8,18> <10,17>
-Face verts 3 flags 0 mat 0
-<11,19> <13,21> <12,20>
-Face verts 3 flags 0 mat 0
-<5,5> <12,23> <14,22>
-Face verts 3 flags 0 mat 0
-<9,24> <14,25> <13,21>
-Face verts 3 flags 0 mat 0
-<12,20> <13,21> <14,25>
-Face verts 3 flags 0 mat 0
-<3,3> <4,4> <10,13>
-Face verts 3 flags 0 mat 0
-<9,12> <10,13> <14,26>
-Face verts 3 flags 0 mat 0
-<5,5> <14,22> <4,7>
-Face verts 3 flags 0 mat 0
-<10,13> <4,4> <14,26>
-Face verts 3 flags 0 mat 0
-<0,0> <15,27> <2,2>
-Face verts 3 flags 0 mat 0
-<5,28> <2,2> <16,29>
-Face verts 3 flags 0 mat 0
-<17,30> <16,29> <15,27>
-Face verts 3 flags 0 mat 0
-<2,2> <15,27> <16,29>
-Face verts 3 flags 0 mat 0
-<11,19> <12,20> <18,31>
-Face verts 3 flags 0 mat 0
-<19,32> <18,34> <20,33>
-Face verts 3 flags 0 mat 0
-<5,5> <20,35> <12,23>
-Face verts 3 flags 0 mat 0
-<18,36> <12,23> <20,35>
-Face verts 3 flags 0 mat 0
-<21,37> <23,39> <22,38>
-Face verts 3 flags 0 mat 0
-<17,30> <22,41> <24,40>
-Face verts 3 flags 0 mat 0
-<19,32> <24,40> <23,42>
-Face verts 3 flags 0 mat 0
-<22,41> <23,42> <24,40>
-Face verts 3 flags 0 mat 0
-<5,5> <16,43> <20,35>
-Face verts 3 flags 0 mat 0
-<19,32> <20,33> <24,40>
-Face verts 3 flags 0 mat 0
-<17,44> <24,46> <16,45>
-Face verts 3 flags 0 mat 0
-<20,33> <16,29> <24,40>
-Face verts 3 flags 0 mat 0
-<0,0> <25,47> <15,27>
-Face verts 3 flags 0 mat 0
-<17,30> <15,27> <26,48>
-Face verts 3 flags 0 mat 0
-<15,27> <25,47> <26,48>
-Face verts 3 flags 0 mat 0
-<21,37> <22,38> <27,49>
-Face verts 3 flags 0 mat 0
-<17,30> <28,50> <22,41>
-Face verts 3 flags 0 mat 0
-<27,49> <22,38> <28,51>
-Face verts 3 flags 0 mat 0
-<17,30> <26,48> <28,50>
-Face verts 3 flags 0 mat 0
-<0,0> <29,52> <25,47>
-Face verts 3 flags 0 mat 0
-<0,0> <1,1> <29,52>
-Face verts 3 flags 0 mat 0
-<30,53> <29,52> <31,54>
-Face verts 3 flags 0 mat 0
-<3,3> <31,54> <1,1>
-Face verts 3 flags 0 mat 0
-<29,52> <1,1> <31,54>
-Face verts 3 flags 0 mat 0
-<32,55> <34,57> <33,56>
-Face verts 3 flags 0 mat 0
-<6,9> <35,58> <8,11>
-Face verts 3 flags 0 mat 0
-<3,3> <8,15> <36,59>
-Face verts 3 flags 0 mat 0
-<32,55> <36,61> <35,60>
-Face verts 3 flags 0 mat 0
-<8,62> <35,64> <36,63>
-Face verts 3 flags 0 mat 0
-<30,65> <31,66> <33,56>
-Face verts 3 flags 0 mat 0
-<32,55> <33,56> <36,61>
-Face verts 3 flags 0 mat 0
-<3,3> <36,59> <31,54>
-Face verts 3 flags 0 mat 0
-<33,56> <31,66> <36,61>
-Face verts 3 flags 0 mat 0
-<21,67> <37,69> <23,68>
-Face verts 3 flags 0 mat 0
-<19,32> <23,42> <38,70>
-Face verts 3 flags 0 mat 0
-<39,71> <38,73> <37,72>
-Face verts 3 flags 0 mat 0
-<23,74> <37,72> <38,73>
-Face verts 3 flags 0 mat 0
-<11,19> <18,31> <40,75>
-Face verts 3 flags 0 mat 0
-<41,76> <40,75> <42,77>
-Face verts 3 flags 0 mat 0
-<19,32> <42,78> <18,34>
-Face verts 3 flags 0 mat 0
-<40,75> <18,31> <42,77>
-Face verts 3 flags 0 mat 0
-<43,79> <45,81> <44,80>
-Face verts 3 flags 0 mat 0
-<39,82> <44,84> <46,83>
-Face verts 3 flags 0 mat 0
-<41,76> <46,85> <45,81>
-Face verts 3 flags 0 mat 0
-<44,80> <45,81> <46,85>
-Face verts 3 flags 0 mat 0
-<19,32> <38,70> <42,78>
-Face verts 3 flags 0 mat 0
-<41,76> <42,77> <46,85>
-Face verts 3 flags 0 mat 0
-<39,71> <46,86> <38,73>
-Face verts 3 flags 0 mat 0
-<42,77> <38,87> <46,85>
-Face verts 3 flags 0 mat 0
-<11,19> <47,88> <13,21>
-Face verts 3 flags 0 mat 0
-<9,24> <13,21> <48,89>
-Face verts 3 flags 0 mat 0
-<49,90> <48,89> <47,88>
-Face verts 3 flags 0 mat 0
-<13,21> <47,88> <48,89>
-Face verts 3 flags 0 mat 0
-<6,91> <7,93> <50,92>
-Face verts 3 flags 0 mat 0
-<51,94> <50,96> <52,95>
-Face verts 3 flags 0 mat 0
-<9,24> <52,97> <7,93>
-Face verts 3 flags 0 mat 0
-<50,92> <7,93> <52,97>
-Face verts 3 flags 0 mat 0
-<53,98> <55,100> <54,99>
-Face verts 3 flags 0 mat 0
-<49,90> <54,99> <56,101>
-Face verts 3 flags 0 mat 0
-<51,94> <56,103> <55,102>
-Face verts 3 flags 0 mat 0
-<54,104> <55,102> <56,103>
-Face verts 3 flags 0 mat 0
-<9,24> <48,89> <52,97>
-Face verts 3 flags 0 mat 0
-<51,94> <52,95> <56,103>
-Face verts 3 flags 0 mat 0
-<49,90> <56,101> <48,89>
-Face verts 3 flags 0 mat 0
-<52,97> <48,89> <56,101>
-Face verts 3 flags 0 mat 0
-<6,105> <57,107> <35,106>
-Face verts 3 flags 0 mat 0
-<32,55> <35,60> <58,108>
-Face verts 3 flags 0 mat 0
-<59,109> <58,110> <57,107>
-Face verts 3 flags 0 mat 0
-<35,106> <57,107> <58,110>
-Face verts 3 flags 0 mat 0
-<32,111> <60,113> <34,112>
-Face verts 3 flags 0 mat 0
-<61,114> <63,116> <62,115>
-Face verts 3 flags 0 mat 0
-<59,109> <62,115> <64,117>
-Face verts 3 flags 0 mat 0
-<65,118> <64,117> <63,116>
-Face verts 3 flags 0 mat 0
-<62,115> <63,116> <64,117>
-Face verts 3 flags 0 mat 0
-<32,55> <58,108> <60,119>
-Face verts 3 flags 0 mat 0
-<65,118> <60,120> <64,117>
-Face verts 3 flags 0 mat 0
-<59,109> <64,117> <58,110>
-Face verts 3 flags 0 mat 0
-<60,119> <58,108> <64,121>
-Face verts 3 flags 0 mat 0
-<21,37> <27,49> <66,122>
-Face verts 3 flags 0 mat 0
-<67,123> <69,125> <68,124>
-Face verts 3 flags 0 mat 0
-<70,126> <68,128> <71,127>
-Face verts 3 flags 0 mat 0
-<72,129> <71,127> <69,130>
-Face verts 3 flags 0 mat 0
-<68,128> <69,130> <71,127>
-Face verts 3 flags 0 mat 0
-<43,79> <74,132> <73,131>
-Face verts 3 flags 0 mat 0
-<75,133> <73,131> <76,134>
-Face verts 3 flags 0 mat 0
-<70,135> <76,134> <74,132>
-Face verts 3 flags 0 mat 0
-<73,131> <74,132> <76,134>
-Face verts 3 flags 0 mat 0
-<53,136> <78,138> <77,137>
-Face verts 3 flags 0 mat 0
-<72,129> <77,137> <79,139>
-Face verts 3 flags 0 mat 0
-<75,133> <79,141> <78,140>
-Face verts 3 flags 0 mat 0
-<77,137> <78,138> <79,139>
-Face verts 3 flags 0 mat 0
-<70,126> <71,127> <76,142>
-Face verts 3 flags 0 mat 0
-<75,133> <76,134> <79,141>
-Face verts 3 flags 0 mat 0
-<72,129> <79,139> <71,127>
-Face verts 3 flags 0 mat 0
-<76,142> <71,127> <79,139>
-Face verts 3 flags 0 mat 0
-<67,123> <80,143> <69,125>
-Face verts 3 flags 0 mat 0
-<72,129> <69,130> <81,144>
-Face verts 3 flags 0 mat 0
-<82,145> <81,147> <80,146>
-Face verts 3 flags 0 mat 0
-<69,148> <80,150> <81,149>
-Face verts 3 flags 0 mat 0
-<53,136> <77,137> <83,151>
-Face verts 3 flags 0 mat 0
-<84,152> <83,154> <85,153>
-Face verts 3 flags 0 mat 0
-<72,129> <85,155> <77,137>
-Face verts 3 flags 0 mat 0
-<83,151> <77,137> <85,155>
-Face verts 3 flags 0 mat 0
-<61,114> <87,157> <86,156>
-Face verts 3 flags 0 mat 0
-<82,145> <86,159> <88,158>
-Face verts 3 flags 0 mat 0
-<84,152> <88,161> <87,160>
-Face verts 3 flags 0 mat 0
-<86,162> <87,164> <88,163>
-Face verts 3 flags 0 mat 0
-<72,129> <81,144> <85,155>
-Face verts 3 flags 0 mat 0
-<84,152> <85,153> <88,161>
-Face verts 3 flags 0 mat 0
-<82,145> <88,158> <81,147>
-Face verts 3 flags 0 mat 0
-<85,153> <81,165> <88,161>
-Face verts 3 flags 0 mat 0
-<67,166> <89,168> <80,167>
-Face verts 3 flags 0 mat 0
-<82,169> <80,167> <90,170>
-Face verts 3 flags 0 mat 0
-<80,167> <89,168> <90,170>
-Face verts 3 flags 0 mat 0
-<61,114> <86,156> <91,171>
-Face verts 3 flags 0 mat 0
-<82,169> <92,173> <86,172>
-Face verts 3 flags 0 mat 0
-<91,171> <86,156> <92,174>
-Face verts 3 flags 0 mat 0
-<82,169> <90,170> <92,173>
-Face verts 3 flags 0 mat 0
-<67,166> <93,175> <89,168>
-Face verts 3 flags 0 mat 0
-<67,176> <68,178> <93,177>
-Face verts 3 flags 0 mat 0
-<94,179> <93,181> <95,180>
-Face verts 3 flags 0 mat 0
-<70,182> <95,180> <68,183>
-Face verts 3 flags 0 mat 0
-<93,181> <68,183> <95,180>
-Face verts 3 flags 0 mat 0
-<96,184> <98,186> <97,185>
-Face verts 3 flags 0 mat 0
-<94,179> <97,188> <99,187>
-Face verts 3 flags 0 mat 0
-<98,189> <99,187> <97,188>
-Face verts 3 flags 0 mat 0
-<43,190> <100,192> <74,191>
-Face verts 3 flags 0 mat 0
-<70,193> <74,191> <101,194>
-Face verts 3 flags 0 mat 0
-<96,184> <101,194> <100,192>
-Face verts 3 flags 0 mat 0
-<74,191> <100,192> <101,194>
-Face verts 3 flags 0 mat 0
-<94,179> <95,180> <97,188>
-Face verts 3 flags 0 mat 0
-<96,184> <97,185> <101,194>
-Face verts 3 flags 0 mat 0
-<70,193> <101,194> <95,195>
-Face verts 3 flags 0 mat 0
-<97,185> <95,195> <101,194>
-Face verts 3 flags 0 mat 0
-<53,98> <54,99> <78,140>
-Face verts 3 flags 0 mat 0
-<75,133> <78,140> <102,196>
-Face verts 3 flags 0 mat 0
-<49,90> <102,196> <54,99>
-Face verts 3 flags 0 mat 0
-<78,140> <54,99> <102,196>
-Face verts 3 flags 0 mat 0
-<43,79> <73,131> <45,81>
-Face verts 3 flags 0 mat 0
-<41,76> <45,81> <103,197>
-Face verts 3 flags 0 mat 0
-<75,133> <103,197> <73,131>
-Face verts 3 flags 0 mat 0
-<45,81> <73,131> <103,197>
-Face verts 3 flags 0 mat 0
-<11,19> <40,75> <47,88>
-Face verts 3 flags 0 mat 0
-<49,90> <47,88> <104,198>
-Face verts 3 flags 0 mat 0
-<41,76> <104,198> <40,75>
-Face verts 3 flags 0 mat 0
-<47,88> <40,75> <104,198>
-Face verts 3 flags 0 mat 0
-<75,133> <102,196> <103,197>
-Face verts 3 flags 0 mat 0
-<41,76> <103,197> <104,198>
-Face verts 3 flags 0 mat 0
-<49,90> <104,198> <102,196>
-Face verts 3 flags 0 mat 0
-<103,197> <102,196> <104,198>
-Face verts 3 flags 0 mat 0
-<61,114> <62,115> <87,157>
-Face verts 3 flags 0 mat 0
-<84,152> <87,160> <105,199>
-Face verts 3 flags 0 mat 0
-<59,109> <105,200> <62,115>
-Face verts 3 flags 0 mat 0
-<87,160> <62,201> <105,199>
-Face verts 3 flags 0 mat 0
-<53,202> <83,204> <55,203>
-Face verts 3 flags 0 mat 0
-<51,94> <55,102> <106,205>
-Face verts 3 flags 0 mat 0
-<84,152> <106,206> <83,154>
-Face verts 3 flags 0 mat 0
-<55,102> <83,207> <106,205>
-Face verts 3 flags 0 mat 0
-<6,105> <50,208> <57,107>
-Face verts 3 flags 0 mat 0
-<59,209> <57,211> <107,210>
-Face verts 3 flags 0 mat 0
-<51,94> <107,212> <50,96>
-Face verts 3 flags 0 mat 0
-<57,213> <50,96> <107,212>
-Face verts 3 flags 0 mat 0
-<84,152> <105,199> <106,206>
-Face verts 3 flags 0 mat 0
-<51,94> <106,205> <107,212>
-Face verts 3 flags 0 mat 0
-<59,209> <107,210> <105,199>
-Face verts 3 flags 0 mat 0
-<106,206> <105,199> <107,210>
-Face verts 3 flags 0 mat 0
-<61,114> <91,171> <63,116>
-Face verts 3 flags 0 mat 0
-<43,190> <44,214> <100,192>
-Face verts 3 flags 0 mat 0
-<96,215> <100,217> <108,216>
-Face verts 3 flags 0 mat 0
-<39,82> <108,218> <44,84>
-Face verts 3 flags 0 mat 0
-<100,217> <44,219> <108,216>
-Face verts 3 flags 0 mat 0
-<109,220> <111,222> <110,221>
-Face verts 3 flags 0 mat 0
-<96,215> <110,224> <98,223>
-Face verts 3 flags 0 mat 0
-<111,222> <98,225> <110,221>
-Face verts 3 flags 0 mat 0
-<21,226> <66,228> <37,227>
-Face verts 3 flags 0 mat 0
-<39,71> <37,72> <112,229>
-Face verts 3 flags 0 mat 0
-<109,220> <112,231> <66,230>
-Face verts 3 flags 0 mat 0
-<37,72> <66,232> <112,229>
-Face verts 3 flags 0 mat 0
-<96,215> <108,216> <110,224>
-Face verts 3 flags 0 mat 0
-<109,220> <110,221> <112,231>
-Face verts 3 flags 0 mat 0
-<39,82> <112,231> <108,218>
-Face verts 3 flags 0 mat 0
-<110,221> <108,218> <112,231>
-Face verts 3 flags 0 mat 0
-<113,233> <115,235> <114,234>
-Face verts 3 flags 0 mat 0
-<116,236> <114,238> <117,237>
-Face verts 3 flags 0 mat 0
-<118,239> <117,237> <115,240>
-Face verts 3 flags 0 mat 0
-<114,238> <115,240> <117,237>
-Face verts 3 flags 0 mat 0
-<119,241> <121,243> <120,242>
-Face verts 3 flags 0 mat 0
-<122,244> <120,242> <123,245>
-Face verts 3 flags 0 mat 0
-<116,236> <123,245> <121,243>
-Face verts 3 flags 0 mat 0
-<120,242> <121,243> <123,245>
-Face verts 3 flags 0 mat 0
-<124,246> <126,248> <125,247>
-Face verts 3 flags 0 mat 0
-<118,249> <125,251> <127,250>
-Face verts 3 flags 0 mat 0
-<122,244> <127,253> <126,252>
-Face verts 3 flags 0 mat 0
-<125,247> <126,248> <127,254>
-Face verts 3 flags 0 mat 0
-<116,236> <117,237> <123,245>
-Face verts 3 flags 0 mat 0
-<122,244> <123,245> <127,253>
-Face verts 3 flags 0 mat 0
-<118,239> <127,253> <117,237>
-Face verts 3 flags 0 mat 0
-<123,245> <117,237> <127,253>
-Face verts 3 flags 0 mat 0
-<113,233> <128,255> <115,235>
-Face verts 3 flags 0 mat 0
-<118,239> <115,240> <129,256>
-Face verts 3 flags 0 mat 0
-<130,257> <129,256> <128,258>
-Face verts 3 flags 0 mat 0
-<115,240> <128,258> <129,256>
-Face verts 3 flags 0 mat 0
-<124,259> <125,261> <131,260>
-Face verts 3 flags 0 mat 0
-<132,262> <131,260> <133,263>
-Face verts 3 flags 0 mat 0
-<118,249> <133,264> <125,251>
-Face verts 3 flags 0 mat 0
-<131,260> <125,261> <133,263>
-Face verts 3 flags 0 mat 0
-<134,265> <136,267> <135,266>
-Face verts 3 flags 0 mat 0
-<130,268> <135,266> <137,269>
-Face verts 3 flags 0 mat 0
-<132,262> <137,271> <136,270>
-Face verts 3 flags 0 mat 0
-<135,266> <136,267> <137,269>
-Face verts 3 flags 0 mat 0
-<118,272> <129,274> <133,273>
-Face verts 3 flags 0 mat 0
-<132,262> <133,263> <137,271>
-Face verts 3 flags 0 mat 0
-<130,257> <137,271> <129,256>
-Face verts 3 flags 0 mat 0
-<133,263> <129,256> <137,271>
-Face verts 3 flags 0 mat 0
-<113,233> <138,275> <128,255>
-Face verts 3 flags 0 mat 0
-<130,257> <128,258> <139,276>
-Face verts 3 flags 0 mat 0
-<128,255> <138,275> <139,277>
-Face verts 3 flags 0 mat 0
-<134,265> <135,266> <140,278>
-Face verts 3 flags 0 mat 0
-<130,268> <141,279> <135,266>
-Face verts 3 flags 0 mat 0
-<113,280> <142,282> <138,281>
-Face verts 3 flags 0 mat 0
-<113,280> <114,238> <142,282>
-Face verts 3 flags 0 mat 0
-<143,283> <142,282> <144,284>
-Face verts 3 flags 0 mat 0
-<116,236> <144,284> <114,238>
-Face verts 3 flags 0 mat 0
-<142,282> <114,238> <144,284>
-Face verts 3 flags 0 mat 0
-<145,285> <147,287> <146,286>
-Face verts 3 flags 0 mat 0
-<119,288> <148,290> <121,289>
-Face verts 3 flags 0 mat 0
-<116,236> <121,243> <149,291>
-Face verts 3 flags 0 mat 0
-<145,285> <149,292> <148,290>
-Face verts 3 flags 0 mat 0
-<121,289> <148,290> <149,292>
-Face verts 3 flags 0 mat 0
-<143,283> <144,284> <146,293>
-Face verts 3 flags 0 mat 0
-<145,285> <146,286> <149,292>
-Face verts 3 flags 0 mat 0
-<116,236> <149,291> <144,284>
-Face verts 3 flags 0 mat 0
-<146,293> <144,284> <149,291>
-Face verts 3 flags 0 mat 0
-<134,265> <150,294> <136,267>
-Face verts 3 flags 0 mat 0
-<132,262> <136,270> <151,295>
-Face verts 3 flags 0 mat 0
-<152,296> <151,298> <150,297>
-Face verts 3 flags 0 mat 0
-<136,267> <150,294> <151,299>
-Face verts 3 flags 0 mat 0
-<124,259> <131,260> <153,300>
-Face verts 3 flags 0 mat 0
-<154,301> <153,300> <155,302>
-Face verts 3 flags 0 mat 0
-<132,262> <155,302> <131,260>
-Face verts 3 flags 0 mat 0
-<153,300> <131,260> <155,302>
-Face verts 3 flags 0 mat 0
-<156,303> <158,305> <157,304>
-Face verts 3 flags 0 mat 0
-<152,296> <157,304> <159,306>
-Face verts 3 flags 0 mat 0
-<154,307> <159,309> <158,308>
-Face verts 3 flags 0 mat 0
-<157,304> <158,305> <159,306>
-Face verts 3 flags 0 mat 0
-<132,262> <151,295> <155,302>
-Face verts 3 flags 0 mat 0
-<154,307> <155,310> <159,309>
-Face verts 3 flags 0 mat 0
-<152,296> <159,306> <151,298>
-Face verts 3 flags 0 mat 0
-<155,310> <151,311> <159,309>
-Face verts 3 flags 0 mat 0
-<124,246> <160,312> <126,248>
-Face verts 3 flags 0 mat 0
-<122,244> <126,252> <161,313>
-Face verts 3 flags 0 mat 0
-<162,314> <161,316> <160,315>
-Face verts 3 flags 0 mat 0
-<126,252> <160,317> <161,313>
-Face verts 3 flags 0 mat 0
-<119,241> <120,242> <163,318>
-Face verts 3 flags 0 mat 0
-<164,319> <163,321> <165,320>
-Face verts 3 flags 0 mat 0
-<122,322> <165,324> <120,323>
-Face verts 3 flags 0 mat 0
-<163,325> <120,323> <165,324>
-Face verts 3 flags 0 mat 0
-<166,326> <168,328> <167,327>
-Face verts 3 flags 0 mat 0
-<162,329> <167,331> <169,330>
-Face verts 3 flags 0 mat 0
-<164,332> <169,334> <168,333>
-Face verts 3 flags 0 mat 0
-<167,335> <168,333> <169,334>
-Face verts 3 flags 0 mat 0
-<122,336> <161,338> <165,337>
-Face verts 3 flags 0 mat 0
-<164,319> <165,320> <169,339>
-Face verts 3 flags 0 mat 0
-<162,329> <169,330> <161,338>
-Face verts 3 flags 0 mat 0
-<165,337> <161,338> <169,330>
-Face verts 3 flags 0 mat 0
-<119,340> <170,342> <148,341>
-Face verts 3 flags 0 mat 0
-<145,343> <148,341> <171,344>
-Face verts 3 flags 0 mat 0
-<172,345> <171,344> <170,342>
-Face verts 3 flags 0 mat 0
-<148,341> <170,342> <171,344>
-Face verts 3 flags 0 mat 0
-<145,285> <173,346> <147,287>
-Face verts 3 flags 0 mat 0
-<174,347> <176,349> <175,348>
-Face verts 3 flags 0 mat 0
-<172,345> <175,348> <177,350>
-Face verts 3 flags 0 mat 0
-<178,351> <177,350> <176,349>
-Face verts 3 flags 0 mat 0
-<175,348> <176,349> <177,350>
-Face verts 3 flags 0 mat 0
-<145,343> <171,344> <173,352>
-Face verts 3 flags 0 mat 0
-<178,351> <173,352> <177,350>
-Face verts 3 flags 0 mat 0
-<172,345> <177,350> <171,344>
-Face verts 3 flags 0 mat 0
-<173,352> <171,344> <177,350>
-Face verts 3 flags 0 mat 0
-<134,265> <140,278> <179,353>
-Face verts 3 flags 0 mat 0
-<180,354> <182,356> <181,355>
-Face verts 3 flags 0 mat 0
-<183,357> <181,359> <184,358>
-Face verts 3 flags 0 mat 0
-<185,360> <184,361> <182,356>
-Face verts 3 flags 0 mat 0
-<181,355> <182,356> <184,361>
-Face verts 3 flags 0 mat 0
-<156,303> <187,363> <186,362>
-Face verts 3 flags 0 mat 0
-<188,364> <186,366> <189,365>
-Face verts 3 flags 0 mat 0
-<183,367> <189,368> <187,363>
-Face verts 3 flags 0 mat 0
-<186,362> <187,363> <189,368>
-Face verts 3 flags 0 mat 0
-<166,369> <191,371> <190,370>
-Face verts 3 flags 0 mat 0
-<185,372> <190,370> <192,373>
-Face verts 3 flags 0 mat 0
-<188,364> <192,375> <191,374>
-Face verts 3 flags 0 mat 0
-<190,370> <191,371> <192,373>
-Face verts 3 flags 0 mat 0
-<183,357> <184,358> <189,376>
-Face verts 3 flags 0 mat 0
-<188,364> <189,365> <192,375>
-Face verts 3 flags 0 mat 0
-<185,360> <192,375> <184,361>
-Face verts 3 flags 0 mat 0
-<189,365> <184,361> <192,375>
-Face verts 3 flags 0 mat 0
-<180,354> <193,377> <182,356>
-Face verts 3 flags 0 mat 0
-<185,360> <182,356> <194,378>
-Face verts 3 flags 0 mat 0
-<195,379> <194,381> <193,380>
-Face verts 3 flags 0 mat 0
-<182,356> <193,377> <194,378>
-Face verts 3 flags 0 mat 0
-<166,326> <190,383> <196,382>
-Face verts 3 flags 0 mat 0
-<197,384> <196,386> <198,385>
-Face verts 3 flags 0 mat 0
-<185,372> <198,385> <190,370>
-Face verts 3 flags 0 mat 0
-<196,382> <190,383> <198,387>
-Face verts 3 flags 0 mat 0
-<174,347> <200,389> <199,388>
-Face verts 3 flags 0 mat 0
-<195,379> <199,388> <201,390>
-Face verts 3 flags 0 mat 0
-<197,384> <201,390> <200,389>
-Face verts 3 flags 0 mat 0
-<199,388> <200,389> <201,390>
-Face verts 3 flags 0 mat 0
-<185,372> <194,381> <198,385>
-Face verts 3 flags 0 mat 0
-<197,384> <198,385> <201,390>
-Face verts 3 flags 0 mat 0
-<195,379> <201,390> <194,381>
-Face verts 3 flags 0 mat 0
-<198,385> <194,381> <201,390>
-Face verts 3 flags 0 mat 0
-<180,354> <202,391> <193,377>
-Face verts 3 flags 0 mat 0
-<195,379> <193,380> <203,392>
-Face verts 3 flags 0 mat 0
-<174,347> <199,388> <204,393>
-Face verts 3 flags 0 mat 0
-<195,379> <205,394> <199,388>
-Face verts 3 flags 0 mat 0
-<204,393> <199,388> <205,394>
-Face verts 3 flags 0 mat 0
-<195,379> <203,392> <205,394>
-Face verts 3 flags 0 mat 0
-<180,395> <206,397> <202,396>
-Face verts 3 flags 0 mat 0
-<180,395> <181,359> <206,397>
-Face verts 3 flags 0 mat 0
-<207,398> <206,397> <208,399>
-Face verts 3 flags 0 mat 0
-<183,357> <208,399> <181,359>
-Face verts 3 flags 0 mat 0
-<206,397> <181,359> <208,399>
-Face verts 3 flags 0 mat 0
-<209,400> <211,402> <210,401>
-Face verts 3 flags 0 mat 0
-<156,303> <212,403> <187,363>
-Face verts 3 flags 0 mat 0
-<183,367> <187,363> <213,404>
-Face verts 3 flags 0 mat 0
-<209,400> <213,404> <212,403>
-Face verts 3 flags 0 mat 0
-<187,363> <212,403> <213,404>
-Face verts 3 flags 0 mat 0
-<207,398> <208,399> <210,405>
-Face verts 3 flags 0 mat 0
-<209,400> <210,401> <213,404>
-Face verts 3 flags 0 mat 0
-<183,367> <213,404> <208,406>
-Face verts 3 flags 0 mat 0
-<210,401> <208,406> <213,404>
-Face verts 3 flags 0 mat 0
-<166,369> <167,331> <191,371>
-Face verts 3 flags 0 mat 0
-<188,364> <191,374> <214,407>
-Face verts 3 flags 0 mat 0
-<162,329> <214,408> <167,331>
-Face verts 3 flags 0 mat 0
-<191,371> <167,331> <214,408>
-Face verts 3 flags 0 mat 0
-<156,303> <186,362> <158,305>
-Face verts 3 flags 0 mat 0
-<154,409> <158,305> <215,410>
-Face verts 3 flags 0 mat 0
-<188,411> <215,413> <186,412>
-Face verts 3 flags 0 mat 0
-<158,305> <186,362> <215,410>
-Face verts 3 flags 0 mat 0
-<124,246> <153,414> <160,312>
-Face verts 3 flags 0 mat 0
-<162,314> <160,315> <216,415>
-Face verts 3 flags 0 mat 0
-<154,301> <216,416> <153,300>
-Face verts 3 flags 0 mat 0
-<160,312> <153,414> <216,417>
-Face verts 3 flags 0 mat 0
-<188,418> <214,420> <215,419>
-Face verts 3 flags 0 mat 0
-<154,421> <215,423> <216,422>
-Face verts 3 flags 0 mat 0
-<162,424> <216,426> <214,425>
-Face verts 3 flags 0 mat 0
-<215,427> <214,425> <216,426>
-Face verts 3 flags 0 mat 0
-<174,347> <175,348> <200,389>
-Face verts 3 flags 0 mat 0
-<197,384> <200,389> <217,428>
-Face verts 3 flags 0 mat 0
-<172,345> <217,428> <175,348>
-Face verts 3 flags 0 mat 0
-<200,389> <175,348> <217,428>
-Face verts 3 flags 0 mat 0
-<166,326> <196,382> <168,328>
-Face verts 3 flags 0 mat 0
-<164,429> <168,431> <218,430>
-Face verts 3 flags 0 mat 0
-<197,432> <218,433> <196,382>
-Face verts 3 flags 0 mat 0
-<168,328> <196,382> <218,433>
-Face verts 3 flags 0 mat 0
-<119,340> <163,434> <170,342>
-Face verts 3 flags 0 mat 0
-<172,345> <170,342> <219,435>
-Face verts 3 flags 0 mat 0
-<164,429> <219,435> <163,434>
-Face verts 3 flags 0 mat 0
-<170,342> <163,434> <219,435>
-Face verts 3 flags 0 mat 0
-<197,384> <217,428> <218,430>
-Face verts 3 flags 0 mat 0
-<164,429> <218,430> <219,435>
-Face verts 3 flags 0 mat 0
-<172,345> <219,435> <217,428>
-Face verts 3 flags 0 mat 0
-<218,430> <217,428> <219,435>
-Face verts 3 flags 0 mat 0
-<174,347> <204,393> <176,349>
-Face verts 3 flags 0 mat 0
-<156,303> <157,304> <212,403>
-Face verts 3 flags 0 mat 0
-<209,400> <212,403> <220,436>
-Face verts 3 flags 0 mat 0
-<152,296> <220,436> <157,304>
-Face verts 3 flags 0 mat 0
-<212,437> <157,439> <220,438>
-Face verts 3 flags 0 mat 0
-<209,400> <221,440> <211,402>
-Face verts 3 flags 0 mat 0
-<134,265> <179,353> <150,294>
-Face verts 3 flags 0 mat 0
-<152,296> <150,297> <222,441>
-Face verts 3 flags 0 mat 0
-<223,442> <222,444> <179,443>
-Face verts 3 flags 0 mat 0
-<150,297> <179,445> <222,441>
-Face verts 3 flags 0 mat 0
-<209,400> <220,436> <221,440>
-Face verts 3 flags 0 mat 0
-<223,446> <221,440> <222,441>
-Face verts 3 flags 0 mat 0
-<152,296> <222,441> <220,436>
-Face verts 3 flags 0 mat 0
-<221,440> <220,436> <222,441>
+Texture Vertices 1
+0 0
+Faces 429
+Face verts 3 flags 0 mat 0
+<0,0> <2,0> <1,0>
+Face verts 3 flags 0 mat 1
+<3,0> <1,0> <4,0>
+Face verts 3 flags 0 mat 1
+<5,0> <4,0> <2,0>
+Face verts 3 flags 0 mat 1
+<1,0> <2,0> <4,0>
+Face verts 3 flags 0 mat 1
+<6,0> <8,0> <7,0>
+Face verts 3 flags 0 mat 1
+<9,0> <7,0> <10,0>
+Face verts 3 flags 0 mat 1
+<3,0> <10,0> <8,0>
+Face verts 3 flags 0 mat 1
+<7,0> <8,0> <10,0>
+Face verts 3 flags 0 mat 1
+<11,0> <13,0> <12,0>
+Face verts 3 flags 0 mat 1
+<5,0> <12,0> <14,0>
+Face verts 3 flags 0 mat 1
+<9,0> <14,0> <13,0>
+Face verts 3 flags 0 mat 1
+<12,0> <13,0> <14,0>
+Face verts 3 flags 0 mat 1
+<3,0> <4,0> <10,0>
+Face verts 3 flags 0 mat 1
+<9,0> <10,0> <14,0>
+Face verts 3 flags 0 mat 1
+<5,0> <14,0> <4,0>
+Face verts 3 flags 0 mat 1
+<10,0> <4,0> <14,0>
+Face verts 3 flags 0 mat 0
+<0,0> <15,0> <2,0>
+Face verts 3 flags 0 mat 1
+<5,0> <2,0> <16,0>
+Face verts 3 flags 0 mat 0
+<17,0> <16,0> <15,0>
+Face verts 3 flags 0 mat 0
+<2,0> <15,0> <16,0>
+Face verts 3 flags 0 mat 1
+<11,0> <12,0> <18,0>
+Face verts 3 flags 0 mat 1
+<19,0> <18,0> <20,0>
+Face verts 3 flags 0 mat 1
+<5,0> <20,0> <12,0>
+Face verts 3 flags 0 mat 1
+<18,0> <12,0> <20,0>
+Face verts 3 flags 0 mat 0
+<21,0> <23,0> <22,0>
+Face verts 3 flags 0 mat 0
+<17,0> <22,0> <24,0>
+Face verts 3 flags 0 mat 1
+<19,0> <24,0> <23,0>
+Face verts 3 flags 0 mat 0
+<22,0> <23,0> <24,0>
+Face verts 3 flags 0 mat 1
+<5,0> <16,0> <20,0>
+Face verts 3 flags 0 mat 1
+<19,0> <20,0> <24,0>
+Face verts 3 flags 0 mat 0
+<17,0> <24,0> <16,0>
+Face verts 3 flags 0 mat 1
+<20,0> <16,0> <24,0>
+Face verts 3 flags 0 mat 0
+<0,0> <25,0> <15,0>
+Face verts 3 flags 0 mat 0
+<17,0> <15,0> <26,0>
+Face verts 3 flags 0 mat 0
+<15,0> <25,0> <26,0>
+Face verts 3 flags 0 mat 0
+<21,0> <22,0> <27,0>
+Face verts 3 flags 0 mat 0
+<17,0> <28,0> <22,0>
+Face verts 3 flags 0 mat 0
+<27,0> <22,0> <28,0>
+Face verts 3 flags 0 mat 0
+<17,0> <26,0> <28,0>
+Face verts 3 flags 0 mat 0
+<0,0> <29,0> <25,0>
+Face verts 3 flags 0 mat 0
+<0,0> <1,0> <29,0>
+Face verts 3 flags 0 mat 0
+<30,0> <29,0> <31,0>
+Face verts 3 flags 0 mat 1
+<3,0> <31,0> <1,0>
+Face verts 3 flags 0 mat 0
+<29,0> <1,0> <31,0>
+Face verts 3 flags 0 mat 0
+<32,0> <34,0> <33,0>
+Face verts 3 flags 0 mat 1
+<6,0> <35,0> <8,0>
+Face verts 3 flags 0 mat 1
+<3,0> <8,0> <36,0>
+Face verts 3 flags 0 mat 1
+<32,0> <36,0> <35,0>
+Face verts 3 flags 0 mat 1
+<8,0> <35,0> <36,0>
+Face verts 3 flags 0 mat 0
+<30,0> <31,0> <33,0>
+Face verts 3 flags 0 mat 0
+<32,0> <33,0> <36,0>
+Face verts 3 flags 0 mat 1
+<3,0> <36,0> <31,0>
+Face verts 3 flags 0 mat 0
+<33,0> <31,0> <36,0>
+Face verts 3 flags 0 mat 0
+<21,0> <37,0> <23,0>
+Face verts 3 flags 0 mat 1
+<19,0> <23,0> <38,0>
+Face verts 3 flags 0 mat 1
+<39,0> <38,0> <37,0>
+Face verts 3 flags 0 mat 1
+<23,0> <37,0> <38,0>
+Face verts 3 flags 0 mat 1
+<11,0> <18,0> <40,0>
+Face verts 3 flags 0 mat 1
+<41,0> <40,0> <42,0>
+Face verts 3 flags 0 mat 1
+<19,0> <42,0> <18,0>
+Face verts 3 flags 0 mat 1
+<40,0> <18,0> <42,0>
+Face verts 3 flags 0 mat 1
+<43,0> <45,0> <44,0>
+Face verts 3 flags 0 mat 1
+<39,0> <44,0> <46,0>
+Face verts 3 flags 0 mat 1
+<41,0> <46,0> <45,0>
+Face verts 3 flags 0 mat 1
+<44,0> <45,0> <46,0>
+Face verts 3 flags 0 mat 1
+<19,0> <38,0> <42,0>
+Face verts 3 flags 0 mat 1
+<41,0> <42,0> <46,0>
+Face verts 3 flags 0 mat 1
+<39,0> <46,0> <38,0>
+Face verts 3 flags 0 mat 1
+<42,0> <38,0> <46,0>
+Face verts 3 flags 0 mat 1
+<11,0> <47,0> <13,0>
+Face verts 3 flags 0 mat 1
+<9,0> <13,0> <48,0>
+Face verts 3 flags 0 mat 1
+<49,0> <48,0> <47,0>
+Face verts 3 flags 0 mat 1
+<13,0> <47,0> <48,0>
+Face verts 3 flags 0 mat 1
+<6,0> <7,0> <50,0>
+Face verts 3 flags 0 mat 1
+<51,0> <50,0> <52,0>
+Face verts 3 flags 0 mat 1
+<9,0> <52,0> <7,0>
+Face verts 3 flags 0 mat 1
+<50,0> <7,0> <52,0>
+Face verts 3 flags 0 mat 1
+<53,0> <55,0> <54,0>
+Face verts 3 flags 0 mat 1
+<49,0> <54,0> <56,0>
+Face verts 3 flags 0 mat 1
+<51,0> <56,0> <55,0>
+Face verts 3 flags 0 mat 1
+<54,0> <55,0> <56,0>
+Face verts 3 flags 0 mat 1
+<9,0> <48,0> <52,0>
+Face verts 3 flags 0 mat 1
+<51,0> <52,0> <56,0>
+Face verts 3 flags 0 mat 1
+<49,0> <56,0> <48,0>
+Face verts 3 flags 0 mat 1
+<52,0> <48,0> <56,0>
+Face verts 3 flags 0 mat 1
+<6,0> <57,0> <35,0>
+Face verts 3 flags 0 mat 1
+<32,0> <35,0> <58,0>
+Face verts 3 flags 0 mat 1
+<59,0> <58,0> <57,0>
+Face verts 3 flags 0 mat 1
+<35,0> <57,0> <58,0>
+Face verts 3 flags 0 mat 0
+<32,0> <60,0> <34,0>
+Face verts 3 flags 0 mat 0
+<61,0> <63,0> <62,0>
+Face verts 3 flags 0 mat 1
+<59,0> <62,0> <64,0>
+Face verts 3 flags 0 mat 0
+<65,0> <64,0> <63,0>
+Face verts 3 flags 0 mat 0
+<62,0> <63,0> <64,0>
+Face verts 3 flags 0 mat 0
+<32,0> <58,0> <60,0>
+Face verts 3 flags 0 mat 0
+<65,0> <60,0> <64,0>
+Face verts 3 flags 0 mat 1
+<59,0> <64,0> <58,0>
+Face verts 3 flags 0 mat 0
+<60,0> <58,0> <64,0>
+Face verts 3 flags 0 mat 0
+<21,0> <27,0> <66,0>
+Face verts 3 flags 0 mat 0
+<67,0> <69,0> <68,0>
+Face verts 3 flags 0 mat 1
+<70,0> <68,0> <71,0>
+Face verts 3 flags 0 mat 1
+<72,0> <71,0> <69,0>
+Face verts 3 flags 0 mat 1
+<68,0> <69,0> <71,0>
+Face verts 3 flags 0 mat 1
+<43,0> <74,0> <73,0>
+Face verts 3 flags 0 mat 1
+<75,0> <73,0> <76,0>
+Face verts 3 flags 0 mat 1
+<70,0> <76,0> <74,0>
+Face verts 3 flags 0 mat 1
+<73,0> <74,0> <76,0>
+Face verts 3 flags 0 mat 1
+<53,0> <78,0> <77,0>
+Face verts 3 flags 0 mat 1
+<72,0> <77,0> <79,0>
+Face verts 3 flags 0 mat 1
+<75,0> <79,0> <78,0>
+Face verts 3 flags 0 mat 1
+<77,0> <78,0> <79,0>
+Face verts 3 flags 0 mat 1
+<70,0> <71,0> <76,0>
+Face verts 3 flags 0 mat 1
+<75,0> <76,0> <79,0>
+Face verts 3 flags 0 mat 1
+<72,0> <79,0> <71,0>
+Face verts 3 flags 0 mat 1
+<76,0> <71,0> <79,0>
+Face verts 3 flags 0 mat 0
+<67,0> <80,0> <69,0>
+Face verts 3 flags 0 mat 1
+<72,0> <69,0> <81,0>
+Face verts 3 flags 0 mat 0
+<82,0> <81,0> <80,0>
+Face verts 3 flags 0 mat 1
+<69,0> <80,0> <81,0>
+Face verts 3 flags 0 mat 1
+<53,0> <77,0> <83,0>
+Face verts 3 flags 0 mat 1
+<84,0> <83,0> <85,0>
+Face verts 3 flags 0 mat 1
+<72,0> <85,0> <77,0>
+Face verts 3 flags 0 mat 1
+<83,0> <77,0> <85,0>
+Face verts 3 flags 0 mat 1
+<61,0> <87,0> <86,0>
+Face verts 3 flags 0 mat 0
+<82,0> <86,0> <88,0>
+Face verts 3 flags 0 mat 1
+<84,0> <88,0> <87,0>
+Face verts 3 flags 0 mat 1
+<86,0> <87,0> <88,0>
+Face verts 3 flags 0 mat 1
+<72,0> <81,0> <85,0>
+Face verts 3 flags 0 mat 1
+<84,0> <85,0> <88,0>
+Face verts 3 flags 0 mat 1
+<82,0> <88,0> <81,0>
+Face verts 3 flags 0 mat 1
+<85,0> <81,0> <88,0>
+Face verts 3 flags 0 mat 0
+<67,0> <89,0> <80,0>
+Face verts 3 flags 0 mat 0
+<82,0> <80,0> <90,0>
+Face verts 3 flags 0 mat 0
+<80,0> <89,0> <90,0>
+Face verts 3 flags 0 mat 0
+<61,0> <86,0> <91,0>
+Face verts 3 flags 0 mat 0
+<82,0> <92,0> <86,0>
+Face verts 3 flags 0 mat 0
+<91,0> <86,0> <92,0>
+Face verts 3 flags 0 mat 0
+<82,0> <90,0> <92,0>
+Face verts 3 flags 0 mat 0
+<67,0> <93,0> <89,0>
+Face verts 3 flags 0 mat 0
+<67,0> <68,0> <93,0>
+Face verts 3 flags 0 mat 0
+<94,0> <93,0> <95,0>
+Face verts 3 flags 0 mat 1
+<70,0> <95,0> <68,0>
+Face verts 3 flags 0 mat 0
+<93,0> <68,0> <95,0>
+Face verts 3 flags 0 mat 0
+<96,0> <98,0> <97,0>
+Face verts 3 flags 0 mat 0
+<94,0> <97,0> <99,0>
+Face verts 3 flags 0 mat 0
+<98,0> <99,0> <97,0>
+Face verts 3 flags 0 mat 1
+<43,0> <100,0> <74,0>
+Face verts 3 flags 0 mat 1
+<70,0> <74,0> <101,0>
+Face verts 3 flags 0 mat 1
+<96,0> <101,0> <100,0>
+Face verts 3 flags 0 mat 1
+<74,0> <100,0> <101,0>
+Face verts 3 flags 0 mat 0
+<94,0> <95,0> <97,0>
+Face verts 3 flags 0 mat 0
+<96,0> <97,0> <101,0>
+Face verts 3 flags 0 mat 1
+<70,0> <101,0> <95,0>
+Face verts 3 flags 0 mat 0
+<97,0> <95,0> <101,0>
+Face verts 3 flags 0 mat 1
+<53,0> <54,0> <78,0>
+Face verts 3 flags 0 mat 1
+<75,0> <78,0> <102,0>
+Face verts 3 flags 0 mat 1
+<49,0> <102,0> <54,0>
+Face verts 3 flags 0 mat 1
+<78,0> <54,0> <102,0>
+Face verts 3 flags 0 mat 1
+<43,0> <73,0> <45,0>
+Face verts 3 flags 0 mat 1
+<41,0> <45,0> <103,0>
+Face verts 3 flags 0 mat 1
+<75,0> <103,0> <73,0>
+Face verts 3 flags 0 mat 1
+<45,0> <73,0> <103,0>
+Face verts 3 flags 0 mat 1
+<11,0> <40,0> <47,0>
+Face verts 3 flags 0 mat 1
+<49,0> <47,0> <104,0>
+Face verts 3 flags 0 mat 1
+<41,0> <104,0> <40,0>
+Face verts 3 flags 0 mat 1
+<47,0> <40,0> <104,0>
+Face verts 3 flags 0 mat 1
+<75,0> <102,0> <103,0>
+Face verts 3 flags 0 mat 1
+<41,0> <103,0> <104,0>
+Face verts 3 flags 0 mat 1
+<49,0> <104,0> <102,0>
+Face verts 3 flags 0 mat 1
+<103,0> <102,0> <104,0>
+Face verts 3 flags 0 mat 1
+<61,0> <62,0> <87,0>
+Face verts 3 flags 0 mat 1
+<84,0> <87,0> <105,0>
+Face verts 3 flags 0 mat 1
+<59,0> <105,0> <62,0>
+Face verts 3 flags 0 mat 1
+<87,0> <62,0> <105,0>
+Face verts 3 flags 0 mat 1
+<53,0> <83,0> <55,0>
+Face verts 3 flags 0 mat 1
+<51,0> <55,0> <106,0>
+Face verts 3 flags 0 mat 1
+<84,0> <106,0> <83,0>
+Face verts 3 flags 0 mat 1
+<55,0> <83,0> <106,0>
+Face verts 3 flags 0 mat 1
+<6,0> <50,0> <57,0>
+Face verts 3 flags 0 mat 1
+<59,0> <57,0> <107,0>
+Face verts 3 flags 0 mat 1
+<51,0> <107,0> <50,0>
+Face verts 3 flags 0 mat 1
+<57,0> <50,0> <107,0>
+Face verts 3 flags 0 mat 1
+<84,0> <105,0> <106,0>
+Face verts 3 flags 0 mat 1
+<51,0> <106,0> <107,0>
+Face verts 3 flags 0 mat 1
+<59,0> <107,0> <105,0>
+Face verts 3 flags 0 mat 1
+<106,0> <105,0> <107,0>
+Face verts 3 flags 0 mat 0
+<61,0> <91,0> <63,0>
+Face verts 3 flags 0 mat 1
+<43,0> <44,0> <100,0>
+Face verts 3 flags 0 mat 1
+<96,0> <100,0> <108,0>
+Face verts 3 flags 0 mat 1
+<39,0> <108,0> <44,0>
+Face verts 3 flags 0 mat 1
+<100,0> <44,0> <108,0>
+Face verts 3 flags 0 mat 0
+<109,0> <111,0> <110,0>
+Face verts 3 flags 0 mat 0
+<96,0> <110,0> <98,0>
+Face verts 3 flags 0 mat 0
+<111,0> <98,0> <110,0>
+Face verts 3 flags 0 mat 0
+<21,0> <66,0> <37,0>
+Face verts 3 flags 0 mat 0
+<39,0> <37,0> <112,0>
+Face verts 3 flags 0 mat 0
+<109,0> <112,0> <66,0>
+Face verts 3 flags 0 mat 0
+<37,0> <66,0> <112,0>
+Face verts 3 flags 0 mat 0
+<96,0> <108,0> <110,0>
+Face verts 3 flags 0 mat 0
+<109,0> <110,0> <112,0>
+Face verts 3 flags 0 mat 1
+<39,0> <112,0> <108,0>
+Face verts 3 flags 0 mat 0
+<110,0> <108,0> <112,0>
+Face verts 3 flags 0 mat 1
+<113,0> <115,0> <114,0>
+Face verts 3 flags 0 mat 1
+<116,0> <114,0> <117,0>
+Face verts 3 flags 0 mat 1
+<118,0> <117,0> <115,0>
+Face verts 3 flags 0 mat 1
+<114,0> <115,0> <117,0>
+Face verts 3 flags 0 mat 1
+<119,0> <121,0> <120,0>
+Face verts 3 flags 0 mat 1
+<122,0> <120,0> <123,0>
+Face verts 3 flags 0 mat 1
+<116,0> <123,0> <121,0>
+Face verts 3 flags 0 mat 1
+<120,0> <121,0> <123,0>
+Face verts 3 flags 0 mat 1
+<124,0> <126,0> <125,0>
+Face verts 3 flags 0 mat 1
+<118,0> <125,0> <127,0>
+Face verts 3 flags 0 mat 1
+<122,0> <127,0> <126,0>
+Face verts 3 flags 0 mat 1
+<125,0> <126,0> <127,0>
+Face verts 3 flags 0 mat 1
+<116,0> <117,0> <123,0>
+Face verts 3 flags 0 mat 1
+<122,0> <123,0> <127,0>
+Face verts 3 flags 0 mat 1
+<118,0> <127,0> <117,0>
+Face verts 3 flags 0 mat 1
+<123,0> <117,0> <127,0>
+Face verts 3 flags 0 mat 0
+<113,0> <128,0> <115,0>
+Face verts 3 flags 0 mat 1
+<118,0> <115,0> <129,0>
+Face verts 3 flags 0 mat 0
+<130,0> <129,0> <128,0>
+Face verts 3 flags 0 mat 1
+<115,0> <128,0> <129,0>
+Face verts 3 flags 0 mat 1
+<124,0> <125,0> <131,0>
+Face verts 3 flags 0 mat 1
+<132,0> <131,0> <133,0>
+Face verts 3 flags 0 mat 1
+<118,0> <133,0> <125,0>
+Face verts 3 flags 0 mat 1
+<131,0> <125,0> <133,0>
+Face verts 3 flags 0 mat 1
+<134,0> <136,0> <135,0>
+Face verts 3 flags 0 mat 0
+<130,0> <135,0> <137,0>
+Face verts 3 flags 0 mat 1
+<132,0> <137,0> <136,0>
+Face verts 3 flags 0 mat 1
+<135,0> <136,0> <137,0>
+Face verts 3 flags 0 mat 1
+<118,0> <129,0> <133,0>
+Face verts 3 flags 0 mat 1
+<132,0> <133,0> <137,0>
+Face verts 3 flags 0 mat 1
+<130,0> <137,0> <129,0>
+Face verts 3 flags 0 mat 1
+<133,0> <129,0> <137,0>
+Face verts 3 flags 0 mat 0
+<113,0> <138,0> <128,0>
+Face verts 3 flags 0 mat 0
+<130,0> <128,0> <139,0>
+Face verts 3 flags 0 mat 0
+<128,0> <138,0> <139,0>
+Face verts 3 flags 0 mat 0
+<134,0> <135,0> <140,0>
+Face verts 3 flags 0 mat 0
+<130,0> <141,0> <135,0>
+Face verts 3 flags 0 mat 0
+<113,0> <142,0> <138,0>
+Face verts 3 flags 0 mat 0
+<113,0> <114,0> <142,0>
+Face verts 3 flags 0 mat 0
+<143,0> <142,0> <144,0>
+Face verts 3 flags 0 mat 1
+<116,0> <144,0> <114,0>
+Face verts 3 flags 0 mat 0
+<142,0> <114,0> <144,0>
+Face verts 3 flags 0 mat 0
+<145,0> <147,0> <146,0>
+Face verts 3 flags 0 mat 1
+<119,0> <148,0> <121,0>
+Face verts 3 flags 0 mat 1
+<116,0> <121,0> <149,0>
+Face verts 3 flags 0 mat 1
+<145,0> <149,0> <148,0>
+Face verts 3 flags 0 mat 1
+<121,0> <148,0> <149,0>
+Face verts 3 flags 0 mat 0
+<143,0> <144,0> <146,0>
+Face verts 3 flags 0 mat 0
+<145,0> <146,0> <149,0>
+Face verts 3 flags 0 mat 1
+<116,0> <149,0> <144,0>
+Face verts 3 flags 0 mat 0
+<146,0> <144,0> <149,0>
+Face verts 3 flags 0 mat 1
+<134,0> <150,0> <136,0>
+Face verts 3 flags 0 mat 1
+<132,0> <136,0> <151,0>
+Face verts 3 flags 0 mat 1
+<152,0> <151,0> <150,0>
+Face verts 3 flags 0 mat 1
+<136,0> <150,0> <151,0>
+Face verts 3 flags 0 mat 1
+<124,0> <131,0> <153,0>
+Face verts 3 flags 0 mat 1
+<154,0> <153,0> <155,0>
+Face verts 3 flags 0 mat 1
+<132,0> <155,0> <131,0>
+Face verts 3 flags 0 mat 1
+<153,0> <131,0> <155,0>
+Face verts 3 flags 0 mat 1
+<156,0> <158,0> <157,0>
+Face verts 3 flags 0 mat 1
+<152,0> <157,0> <159,0>
+Face verts 3 flags 0 mat 1
+<154,0> <159,0> <158,0>
+Face verts 3 flags 0 mat 1
+<157,0> <158,0> <159,0>
+Face verts 3 flags 0 mat 1
+<132,0> <151,0> <155,0>
+Face verts 3 flags 0 mat 1
+<154,0> <155,0> <159,0>
+Face verts 3 flags 0 mat 1
+<152,0> <159,0> <151,0>
+Face verts 3 flags 0 mat 1
+<155,0> <151,0> <159,0>
+Face verts 3 flags 0 mat 1
+<124,0> <160,0> <126,0>
+Face verts 3 flags 0 mat 1
+<122,0> <126,0> <161,0>
+Face verts 3 flags 0 mat 1
+<162,0> <161,0> <160,0>
+Face verts 3 flags 0 mat 1
+<126,0> <160,0> <161,0>
+Face verts 3 flags 0 mat 1
+<119,0> <120,0> <163,0>
+Face verts 3 flags 0 mat 1
+<164,0> <163,0> <165,0>
+Face verts 3 flags 0 mat 1
+<122,0> <165,0> <120,0>
+Face verts 3 flags 0 mat 1
+<163,0> <120,0> <165,0>
+Face verts 3 flags 0 mat 1
+<166,0> <168,0> <167,0>
+Face verts 3 flags 0 mat 1
+<162,0> <167,0> <169,0>
+Face verts 3 flags 0 mat 1
+<164,0> <169,0> <168,0>
+Face verts 3 flags 0 mat 1
+<167,0> <168,0> <169,0>
+Face verts 3 flags 0 mat 1
+<122,0> <161,0> <165,0>
+Face verts 3 flags 0 mat 1
+<164,0> <165,0> <169,0>
+Face verts 3 flags 0 mat 1
+<162,0> <169,0> <161,0>
+Face verts 3 flags 0 mat 1
+<165,0> <161,0> <169,0>
+Face verts 3 flags 0 mat 1
+<119,0> <170,0> <148,0>
+Face verts 3 flags 0 mat 1
+<145,0> <148,0> <171,0>
+Face verts 3 flags 0 mat 1
+<172,0> <171,0> <170,0>
+Face verts 3 flags 0 mat 1
+<148,0> <170,0> <171,0>
+Face verts 3 flags 0 mat 0
+<145,0> <173,0> <147,0>
+Face verts 3 flags 0 mat 0
+<174,0> <176,0> <175,0>
+Face verts 3 flags 0 mat 1
+<172,0> <175,0> <177,0>
+Face verts 3 flags 0 mat 0
+<178,0> <177,0> <176,0>
+Face verts 3 flags 0 mat 0
+<175,0> <176,0> <177,0>
+Face verts 3 flags 0 mat 0
+<145,0> <171,0> <173,0>
+Face verts 3 flags 0 mat 0
+<178,0> <173,0> <177,0>
+Face verts 3 flags 0 mat 1
+<172,0> <177,0> <171,0>
+Face verts 3 flags 0 mat 0
+<173,0> <171,0> <177,0>
+Face verts 3 flags 0 mat 0
+<134,0> <140,0> <179,0>
+Face verts 3 flags 0 mat 1
+<180,0> <182,0> <181,0>
+Face verts 3 flags 0 mat 1
+<183,0> <181,0> <184,0>
+Face verts 3 flags 0 mat 1
+<185,0> <184,0> <182,0>
+Face verts 3 flags 0 mat 1
+<181,0> <182,0> <184,0>
+Face verts 3 flags 0 mat 1
+<156,0> <187,0> <186,0>
+Face verts 3 flags 0 mat 1
+<188,0> <186,0> <189,0>
+Face verts 3 flags 0 mat 1
+<183,0> <189,0> <187,0>
+Face verts 3 flags 0 mat 1
+<186,0> <187,0> <189,0>
+Face verts 3 flags 0 mat 1
+<166,0> <191,0> <190,0>
+Face verts 3 flags 0 mat 1
+<185,0> <190,0> <192,0>
+Face verts 3 flags 0 mat 1
+<188,0> <192,0> <191,0>
+Face verts 3 flags 0 mat 1
+<190,0> <191,0> <192,0>
+Face verts 3 flags 0 mat 1
+<183,0> <184,0> <189,0>
+Face verts 3 flags 0 mat 1
+<188,0> <189,0> <192,0>
+Face verts 3 flags 0 mat 1
+<185,0> <192,0> <184,0>
+Face verts 3 flags 0 mat 1
+<189,0> <184,0> <192,0>
+Face verts 3 flags 0 mat 1
+<180,0> <193,0> <182,0>
+Face verts 3 flags 0 mat 1
+<185,0> <182,0> <194,0>
+Face verts 3 flags 0 mat 0
+<195,0> <194,0> <193,0>
+Face verts 3 flags 0 mat 1
+<182,0> <193,0> <194,0>
+Face verts 3 flags 0 mat 1
+<166,0> <190,0> <196,0>
+Face verts 3 flags 0 mat 1
+<197,0> <196,0> <198,0>
+Face verts 3 flags 0 mat 1
+<185,0> <198,0> <190,0>
+Face verts 3 flags 0 mat 1
+<196,0> <190,0> <198,0>
+Face verts 3 flags 0 mat 0
+<174,0> <200,0> <199,0>
+Face verts 3 flags 0 mat 0
+<195,0> <199,0> <201,0>
+Face verts 3 flags 0 mat 1
+<197,0> <201,0> <200,0>
+Face verts 3 flags 0 mat 1
+<199,0> <200,0> <201,0>
+Face verts 3 flags 0 mat 1
+<185,0> <194,0> <198,0>
+Face verts 3 flags 0 mat 1
+<197,0> <198,0> <201,0>
+Face verts 3 flags 0 mat 1
+<195,0> <201,0> <194,0>
+Face verts 3 flags 0 mat 1
+<198,0> <194,0> <201,0>
+Face verts 3 flags 0 mat 0
+<180,0> <202,0> <193,0>
+Face verts 3 flags 0 mat 0
+<195,0> <193,0> <203,0>
+Face verts 3 flags 0 mat 0
+<174,0> <199,0> <204,0>
+Face verts 3 flags 0 mat 0
+<195,0> <205,0> <199,0>
+Face verts 3 flags 0 mat 0
+<204,0> <199,0> <205,0>
+Face verts 3 flags 0 mat 0
+<195,0> <203,0> <205,0>
+Face verts 3 flags 0 mat 0
+<180,0> <206,0> <202,0>
+Face verts 3 flags 0 mat 0
+<180,0> <181,0> <206,0>
+Face verts 3 flags 0 mat 0
+<207,0> <206,0> <208,0>
+Face verts 3 flags 0 mat 1
+<183,0> <208,0> <181,0>
+Face verts 3 flags 0 mat 0
+<206,0> <181,0> <208,0>
+Face verts 3 flags 0 mat 0
+<209,0> <211,0> <210,0>
+Face verts 3 flags 0 mat 1
+<156,0> <212,0> <187,0>
+Face verts 3 flags 0 mat 1
+<183,0> <187,0> <213,0>
+Face verts 3 flags 0 mat 1
+<209,0> <213,0> <212,0>
+Face verts 3 flags 0 mat 1
+<187,0> <212,0> <213,0>
+Face verts 3 flags 0 mat 0
+<207,0> <208,0> <210,0>
+Face verts 3 flags 0 mat 0
+<209,0> <210,0> <213,0>
+Face verts 3 flags 0 mat 1
+<183,0> <213,0> <208,0>
+Face verts 3 flags 0 mat 0
+<210,0> <208,0> <213,0>
+Face verts 3 flags 0 mat 1
+<166,0> <167,0> <191,0>
+Face verts 3 flags 0 mat 1
+<188,0> <191,0> <214,0>
+Face verts 3 flags 0 mat 1
+<162,0> <214,0> <167,0>
+Face verts 3 flags 0 mat 1
+<191,0> <167,0> <214,0>
+Face verts 3 flags 0 mat 1
+<156,0> <186,0> <158,0>
+Face verts 3 flags 0 mat 1
+<154,0> <158,0> <215,0>
+Face verts 3 flags 0 mat 1
+<188,0> <215,0> <186,0>
+Face verts 3 flags 0 mat 1
+<158,0> <186,0> <215,0>
+Face verts 3 flags 0 mat 1
+<124,0> <153,0> <160,0>
+Face verts 3 flags 0 mat 1
+<162,0> <160,0> <216,0>
+Face verts 3 flags 0 mat 1
+<154,0> <216,0> <153,0>
+Face verts 3 flags 0 mat 1
+<160,0> <153,0> <216,0>
+Face verts 3 flags 0 mat 1
+<188,0> <214,0> <215,0>
+Face verts 3 flags 0 mat 1
+<154,0> <215,0> <216,0>
+Face verts 3 flags 0 mat 1
+<162,0> <216,0> <214,0>
+Face verts 3 flags 0 mat 1
+<215,0> <214,0> <216,0>
+Face verts 3 flags 0 mat 1
+<174,0> <175,0> <200,0>
+Face verts 3 flags 0 mat 1
+<197,0> <200,0> <217,0>
+Face verts 3 flags 0 mat 1
+<172,0> <217,0> <175,0>
+Face verts 3 flags 0 mat 1
+<200,0> <175,0> <217,0>
+Face verts 3 flags 0 mat 1
+<166,0> <196,0> <168,0>
+Face verts 3 flags 0 mat 1
+<164,0> <168,0> <218,0>
+Face verts 3 flags 0 mat 1
+<197,0> <218,0> <196,0>
+Face verts 3 flags 0 mat 1
+<168,0> <196,0> <218,0>
+Face verts 3 flags 0 mat 1
+<119,0> <163,0> <170,0>
+Face verts 3 flags 0 mat 1
+<172,0> <170,0> <219,0>
+Face verts 3 flags 0 mat 1
+<164,0> <219,0> <163,0>
+Face verts 3 flags 0 mat 1
+<170,0> <163,0> <219,0>
+Face verts 3 flags 0 mat 1
+<197,0> <217,0> <218,0>
+Face verts 3 flags 0 mat 1
+<164,0> <218,0> <219,0>
+Face verts 3 flags 0 mat 1
+<172,0> <219,0> <217,0>
+Face verts 3 flags 0 mat 1
+<218,0> <217,0> <219,0>
+Face verts 3 flags 0 mat 0
+<174,0> <204,0> <176,0>
+Face verts 3 flags 0 mat 1
+<156,0> <157,0> <212,0>
+Face verts 3 flags 0 mat 1
+<209,0> <212,0> <220,0>
+Face verts 3 flags 0 mat 1
+<152,0> <220,0> <157,0>
+Face verts 3 flags 0 mat 1
+<212,0> <157,0> <220,0>
+Face verts 3 flags 0 mat 0
+<209,0> <221,0> <211,0>
+Face verts 3 flags 0 mat 0
+<134,0> <179,0> <150,0>
+Face verts 3 flags 0 mat 1
+<152,0> <150,0> <222,0>
+Face verts 3 flags 0 mat 0
+<223,0> <222,0> <179,0>
+Face verts 3 flags 0 mat 0
+<150,0> <179,0> <222,0>
+Face verts 3 flags 0 mat 0
+<209,0> <220,0> <221,0>
+Face verts 3 flags 0 mat 0
+<223,0> <221,0> <222,0>
+Face verts 3 flags 0 mat 1
+<152,0> <222,0> <220,0>
+Face verts 3 flags 0 mat 0
+<221,0> <220,0> <222,0>
+Face verts 3 flags 0 mat 2
+<224,0> <227,0> <226,0>
+Face verts 3 flags 0 mat 2
+<224,0> <225,0> <227,0>
+Face verts 3 flags 0 mat 2
+<226,0> <227,0> <228,0>
+Face verts 3 flags 0 mat 2
+<228,0> <227,0> <229,0>
+Face verts 3 flags 0 mat 2
+<228,0> <231,0> <230,0>
+Face verts 3 flags 0 mat 2
+<228,0> <229,0> <231,0>
+Face verts 3 flags 0 mat 2
+<230,0> <231,0> <232,0>
+Face verts 3 flags 0 mat 2
+<232,0> <231,0> <233,0>
+Face verts 3 flags 0 mat 2
+<232,0> <235,0> <234,0>
+Face verts 3 flags 0 mat 2
+<232,0> <233,0> <235,0>
+Face verts 3 flags 0 mat 2
+<234,0> <235,0> <236,0>
+Face verts 3 flags 0 mat 2
+<236,0> <235,0> <237,0>
+Face verts 3 flags 0 mat 2
+<236,0> <239,0> <238,0>
+Face verts 3 flags 0 mat 2
+<236,0> <237,0> <239,0>
+Face verts 3 flags 0 mat 2
+<238,0> <239,0> <240,0>
+Face verts 3 flags 0 mat 2
+<240,0> <239,0> <241,0>
+Face verts 3 flags 0 mat 2
+<240,0> <243,0> <242,0>
+Face verts 3 flags 0 mat 2
+<240,0> <241,0> <243,0>
+Face verts 3 flags 0 mat 2
+<242,0> <243,0> <244,0>
+Face verts 3 flags 0 mat 2
+<244,0> <243,0> <245,0>
+Face verts 3 flags 0 mat 2
+<244,0> <247,0> <246,0>
+Face verts 3 flags 0 mat 2
+<244,0> <245,0> <247,0>
+Face verts 3 flags 0 mat 2
+<246,0> <247,0> <248,0>
+Face verts 3 flags 0 mat 2
+<248,0> <247,0> <249,0>
+Face verts 3 flags 0 mat 2
+<248,0> <251,0> <250,0>
+Face verts 3 flags 0 mat 2
+<248,0> <249,0> <251,0>
+Face verts 3 flags 0 mat 2
+<250,0> <251,0> <252,0>
+Face verts 3 flags 0 mat 2
+<252,0> <251,0> <253,0>
+Face verts 3 flags 0 mat 2
+<252,0> <255,0> <254,0>
+Face verts 3 flags 0 mat 2
+<252,0> <253,0> <255,0>
+Face verts 3 flags 0 mat 2
+<254,0> <255,0> <224,0>
+Face verts 3 flags 0 mat 2
+<224,0> <255,0> <225,0>
 mat# 0
-rgb 1,1,1
+rgb 0.5186,0.4167,0.3892
 alpha 1 ka 0.1 ks 0.1 exp 0
 Shader class: color
-Shader name: "texture map"
-file name: string ".\reef.bmp"
+Shader name: "plain color"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "matte"
+mat# 1
+rgb 0.6912,0.5814,0.5029
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "matte"
+mat# 2
+rgb 0.8088,0.8402,0.848
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
 Shader class: transparency
 Shader name: "none"
 Shader class: reflectance

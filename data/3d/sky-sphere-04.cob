@@ -7524,2181 +7524,2181 @@ Face verts 3 flags 0 mat 0
 <1104,928> <43,947> <45,947>
 Face verts 3 flags 0 mat 0
 <1105,928> <45,947> <47,947>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,0> <1108,949> <1107,948>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1107,948> <1110,951> <1109,950>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1107,948> <1108,949> <1110,951>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1109,950> <1112,953> <1111,952>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1109,950> <1110,951> <1112,953>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1111,952> <1114,955> <1113,954>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1111,952> <1112,953> <1114,955>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1113,954> <1116,957> <1115,956>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1113,954> <1114,955> <1116,957>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1115,956> <1118,959> <1117,958>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1115,956> <1116,957> <1118,959>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1117,958> <1120,961> <1119,960>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1117,958> <1118,959> <1120,961>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1119,960> <1122,963> <1121,962>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1119,960> <1120,961> <1122,963>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1121,962> <1124,965> <1123,964>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1121,962> <1122,963> <1124,965>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1123,964> <1126,967> <1125,966>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1123,964> <1124,965> <1126,967>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1125,966> <1128,969> <1127,968>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1125,966> <1126,967> <1128,969>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1127,968> <1130,971> <1129,970>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1127,968> <1128,969> <1130,971>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1129,970> <1132,972> <1131,35>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1129,970> <1130,971> <1132,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1131,35> <1134,972> <1133,35>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1131,35> <1132,972> <1134,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1133,35> <1136,972> <1135,35>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1133,35> <1134,972> <1136,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1135,35> <1138,972> <1137,35>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1135,35> <1136,972> <1138,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1137,35> <1138,972> <1139,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,973> <1140,974> <1108,949>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1108,949> <1141,975> <1110,951>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1108,949> <1140,974> <1141,975>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1110,951> <1142,976> <1112,953>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1110,951> <1141,975> <1142,976>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1112,953> <1143,977> <1114,955>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1112,953> <1142,976> <1143,977>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1114,955> <1144,978> <1116,957>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1114,955> <1143,977> <1144,978>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1116,957> <1145,979> <1118,959>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1116,957> <1144,978> <1145,979>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1118,959> <1146,980> <1120,961>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1118,959> <1145,979> <1146,980>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1120,961> <1147,981> <1122,963>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1120,961> <1146,980> <1147,981>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1122,963> <1148,982> <1124,965>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1122,963> <1147,981> <1148,982>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1124,965> <1149,983> <1126,967>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1124,965> <1148,982> <1149,983>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1126,967> <1150,984> <1128,969>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1126,967> <1149,983> <1150,984>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1128,969> <1151,985> <1130,971>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1128,969> <1150,984> <1151,985>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1130,971> <1152,986> <1132,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1130,971> <1151,985> <1152,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1132,972> <1153,986> <1134,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1132,972> <1152,986> <1153,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1134,972> <1154,986> <1136,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1134,972> <1153,986> <1154,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1136,972> <1155,986> <1138,972>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1136,972> <1154,986> <1155,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1138,972> <1155,986> <1139,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,987> <1156,988> <1140,974>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1140,974> <1157,989> <1141,975>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1140,974> <1156,988> <1157,989>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1141,975> <1158,990> <1142,976>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1141,975> <1157,989> <1158,990>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1142,976> <1159,991> <1143,977>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1142,976> <1158,990> <1159,991>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1143,977> <1160,992> <1144,978>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1143,977> <1159,991> <1160,992>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1144,978> <1161,993> <1145,979>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1144,978> <1160,992> <1161,993>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1145,979> <1162,994> <1146,980>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1145,979> <1161,993> <1162,994>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1146,980> <1163,995> <1147,981>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1146,980> <1162,994> <1163,995>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1147,981> <1164,996> <1148,982>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1147,981> <1163,995> <1164,996>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1148,982> <1165,997> <1149,983>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1148,982> <1164,996> <1165,997>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1149,983> <1166,998> <1150,984>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1149,983> <1165,997> <1166,998>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1150,984> <1167,999> <1151,985>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1150,984> <1166,998> <1167,999>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1151,985> <1168,1000> <1152,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1151,985> <1167,999> <1168,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1152,986> <1169,1000> <1153,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1152,986> <1168,1000> <1169,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1153,986> <1170,1000> <1154,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1153,986> <1169,1000> <1170,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1154,986> <1171,1000> <1155,986>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1154,986> <1170,1000> <1171,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1155,986> <1171,1000> <1139,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1001> <1172,1002> <1156,988>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1156,988> <1173,1003> <1157,989>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1156,988> <1172,1002> <1173,1003>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1157,989> <1174,1004> <1158,990>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1157,989> <1173,1003> <1174,1004>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1158,990> <1175,1005> <1159,991>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1158,990> <1174,1004> <1175,1005>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1159,991> <1176,1006> <1160,992>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1159,991> <1175,1005> <1176,1006>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1160,992> <1177,1007> <1161,993>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1160,992> <1176,1006> <1177,1007>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1161,993> <1178,1008> <1162,994>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1161,993> <1177,1007> <1178,1008>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1162,994> <1179,1009> <1163,995>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1162,994> <1178,1008> <1179,1009>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1163,995> <1180,1010> <1164,996>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1163,995> <1179,1009> <1180,1010>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1164,996> <1181,1011> <1165,997>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1164,996> <1180,1010> <1181,1011>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1165,997> <1182,1012> <1166,998>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1165,997> <1181,1011> <1182,1012>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1166,998> <1183,1013> <1167,999>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1166,998> <1182,1012> <1183,1013>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1167,999> <1184,1014> <1168,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1167,999> <1183,1013> <1184,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1168,1000> <1185,1014> <1169,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1168,1000> <1184,1014> <1185,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1169,1000> <1186,1014> <1170,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1169,1000> <1185,1014> <1186,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1170,1000> <1187,1014> <1171,1000>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1170,1000> <1186,1014> <1187,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1171,1000> <1187,1014> <1139,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1015> <1188,1016> <1172,1002>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1172,1002> <1189,1017> <1173,1003>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1172,1002> <1188,1016> <1189,1017>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1173,1003> <1190,1018> <1174,1004>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1173,1003> <1189,1017> <1190,1018>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1174,1004> <1191,1019> <1175,1005>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1174,1004> <1190,1018> <1191,1019>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1175,1005> <1192,1020> <1176,1006>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1175,1005> <1191,1019> <1192,1020>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1176,1006> <1193,1021> <1177,1007>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1176,1006> <1192,1020> <1193,1021>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1177,1007> <1194,1022> <1178,1008>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1177,1007> <1193,1021> <1194,1022>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1178,1008> <1195,1023> <1179,1009>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1178,1008> <1194,1022> <1195,1023>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1179,1009> <1196,1024> <1180,1010>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1179,1009> <1195,1023> <1196,1024>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1180,1010> <1197,1025> <1181,1011>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1180,1010> <1196,1024> <1197,1025>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1181,1011> <1198,1026> <1182,1012>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1181,1011> <1197,1025> <1198,1026>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1182,1012> <1199,1027> <1183,1013>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1182,1012> <1198,1026> <1199,1027>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1183,1013> <1200,1028> <1184,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1183,1013> <1199,1027> <1200,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1184,1014> <1201,1028> <1185,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1184,1014> <1200,1028> <1201,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1185,1014> <1202,1028> <1186,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1185,1014> <1201,1028> <1202,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1186,1014> <1203,1028> <1187,1014>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1186,1014> <1202,1028> <1203,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1187,1014> <1203,1028> <1139,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1029> <1204,1030> <1188,1016>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1188,1016> <1205,1031> <1189,1017>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1188,1016> <1204,1030> <1205,1031>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1189,1017> <1206,1032> <1190,1018>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1189,1017> <1205,1031> <1206,1032>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1190,1018> <1207,1033> <1191,1019>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1190,1018> <1206,1032> <1207,1033>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1191,1019> <1208,1034> <1192,1020>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1191,1019> <1207,1033> <1208,1034>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1192,1020> <1209,1035> <1193,1021>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1192,1020> <1208,1034> <1209,1035>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1193,1021> <1210,1036> <1194,1022>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1193,1021> <1209,1035> <1210,1036>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1194,1022> <1211,1037> <1195,1023>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1194,1022> <1210,1036> <1211,1037>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1195,1023> <1212,1038> <1196,1024>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1195,1023> <1211,1037> <1212,1038>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1196,1024> <1213,1039> <1197,1025>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1196,1024> <1212,1038> <1213,1039>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1197,1025> <1214,1040> <1198,1026>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1197,1025> <1213,1039> <1214,1040>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1198,1026> <1215,1041> <1199,1027>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1198,1026> <1214,1040> <1215,1041>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1199,1027> <1216,1042> <1200,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1199,1027> <1215,1041> <1216,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1200,1028> <1217,1042> <1201,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1200,1028> <1216,1042> <1217,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1201,1028> <1218,1042> <1202,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1201,1028> <1217,1042> <1218,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1202,1028> <1219,1042> <1203,1028>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1202,1028> <1218,1042> <1219,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1203,1028> <1219,1042> <1139,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1043> <1220,1044> <1204,1030>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1204,1030> <1221,1045> <1205,1031>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1204,1030> <1220,1044> <1221,1045>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1205,1031> <1222,1046> <1206,1032>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1205,1031> <1221,1045> <1222,1046>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1206,1032> <1223,1047> <1207,1033>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1206,1032> <1222,1046> <1223,1047>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1207,1033> <1224,1048> <1208,1034>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1207,1033> <1223,1047> <1224,1048>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1208,1034> <1225,1049> <1209,1035>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1208,1034> <1224,1048> <1225,1049>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1209,1035> <1226,1050> <1210,1036>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1209,1035> <1225,1049> <1226,1050>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1210,1036> <1227,1051> <1211,1037>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1210,1036> <1226,1050> <1227,1051>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1211,1037> <1228,1052> <1212,1038>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1211,1037> <1227,1051> <1228,1052>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1212,1038> <1229,1053> <1213,1039>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1212,1038> <1228,1052> <1229,1053>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1213,1039> <1230,1054> <1214,1040>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1213,1039> <1229,1053> <1230,1054>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1214,1040> <1231,1055> <1215,1041>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1214,1040> <1230,1054> <1231,1055>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1215,1041> <1232,1056> <1216,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1215,1041> <1231,1055> <1232,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1216,1042> <1233,1056> <1217,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1216,1042> <1232,1056> <1233,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1217,1042> <1234,1056> <1218,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1217,1042> <1233,1056> <1234,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1218,1042> <1235,1056> <1219,1042>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1218,1042> <1234,1056> <1235,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1219,1042> <1235,1056> <1139,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1057> <1236,1058> <1220,1044>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1220,1044> <1237,1059> <1221,1045>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1220,1044> <1236,1058> <1237,1059>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1221,1045> <1238,1060> <1222,1046>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1221,1045> <1237,1059> <1238,1060>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1222,1046> <1239,1061> <1223,1047>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1222,1046> <1238,1060> <1239,1061>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1223,1047> <1240,1062> <1224,1048>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1223,1047> <1239,1061> <1240,1062>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1224,1048> <1241,1063> <1225,1049>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1224,1048> <1240,1062> <1241,1063>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1225,1049> <1242,1064> <1226,1050>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1225,1049> <1241,1063> <1242,1064>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1226,1050> <1243,1065> <1227,1051>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1226,1050> <1242,1064> <1243,1065>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1227,1051> <1244,1066> <1228,1052>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1227,1051> <1243,1065> <1244,1066>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1228,1052> <1245,1067> <1229,1053>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1228,1052> <1244,1066> <1245,1067>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1229,1053> <1246,1068> <1230,1054>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1229,1053> <1245,1067> <1246,1068>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1230,1054> <1247,1069> <1231,1055>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1230,1054> <1246,1068> <1247,1069>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1231,1055> <1248,1070> <1232,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1231,1055> <1247,1069> <1248,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1232,1056> <1249,1070> <1233,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1232,1056> <1248,1070> <1249,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1233,1056> <1250,1070> <1234,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1233,1056> <1249,1070> <1250,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1234,1056> <1251,1070> <1235,1056>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1234,1056> <1250,1070> <1251,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1235,1056> <1251,1070> <1139,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1071> <1252,1072> <1236,1058>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1236,1058> <1253,1073> <1237,1059>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1236,1058> <1252,1072> <1253,1073>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1237,1059> <1254,1074> <1238,1060>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1237,1059> <1253,1073> <1254,1074>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1238,1060> <1255,1075> <1239,1061>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1238,1060> <1254,1074> <1255,1075>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1239,1061> <1256,1076> <1240,1062>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1239,1061> <1255,1075> <1256,1076>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1240,1062> <1257,1077> <1241,1063>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1240,1062> <1256,1076> <1257,1077>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1241,1063> <1258,1078> <1242,1064>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1241,1063> <1257,1077> <1258,1078>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1242,1064> <1259,1079> <1243,1065>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1242,1064> <1258,1078> <1259,1079>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1243,1065> <1260,1080> <1244,1066>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1243,1065> <1259,1079> <1260,1080>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1244,1066> <1261,1081> <1245,1067>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1244,1066> <1260,1080> <1261,1081>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1245,1067> <1262,1082> <1246,1068>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1245,1067> <1261,1081> <1262,1082>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1246,1068> <1263,1083> <1247,1069>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1246,1068> <1262,1082> <1263,1083>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1247,1069> <1264,1084> <1248,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1247,1069> <1263,1083> <1264,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1248,1070> <1265,1084> <1249,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1248,1070> <1264,1084> <1265,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1249,1070> <1266,1084> <1250,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1249,1070> <1265,1084> <1266,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1250,1070> <1267,1084> <1251,1070>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1250,1070> <1266,1084> <1267,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1251,1070> <1267,1084> <1139,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1085> <1268,1086> <1252,1072>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1252,1072> <1269,1087> <1253,1073>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1252,1072> <1268,1086> <1269,1087>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1253,1073> <1270,1088> <1254,1074>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1253,1073> <1269,1087> <1270,1088>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1254,1074> <1271,1089> <1255,1075>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1254,1074> <1270,1088> <1271,1089>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1255,1075> <1272,1090> <1256,1076>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1255,1075> <1271,1089> <1272,1090>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1256,1076> <1273,1091> <1257,1077>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1256,1076> <1272,1090> <1273,1091>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1257,1077> <1274,1092> <1258,1078>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1257,1077> <1273,1091> <1274,1092>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1258,1078> <1275,1093> <1259,1079>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1258,1078> <1274,1092> <1275,1093>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1259,1079> <1276,1094> <1260,1080>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1259,1079> <1275,1093> <1276,1094>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1260,1080> <1277,1095> <1261,1081>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1260,1080> <1276,1094> <1277,1095>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1261,1081> <1278,1096> <1262,1082>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1261,1081> <1277,1095> <1278,1096>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1262,1082> <1279,1097> <1263,1083>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1262,1082> <1278,1096> <1279,1097>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1263,1083> <1280,1098> <1264,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1263,1083> <1279,1097> <1280,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1264,1084> <1281,1098> <1265,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1264,1084> <1280,1098> <1281,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1265,1084> <1282,1098> <1266,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1265,1084> <1281,1098> <1282,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1266,1084> <1283,1098> <1267,1084>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1266,1084> <1282,1098> <1283,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1267,1084> <1283,1098> <1139,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1099> <1284,1100> <1268,1086>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1268,1086> <1285,1101> <1269,1087>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1268,1086> <1284,1100> <1285,1101>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1269,1087> <1286,1102> <1270,1088>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1269,1087> <1285,1101> <1286,1102>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1270,1088> <1287,1103> <1271,1089>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1270,1088> <1286,1102> <1287,1103>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1271,1089> <1288,1104> <1272,1090>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1271,1089> <1287,1103> <1288,1104>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1272,1090> <1289,1105> <1273,1091>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1272,1090> <1288,1104> <1289,1105>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1273,1091> <1290,1106> <1274,1092>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1273,1091> <1289,1105> <1290,1106>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1274,1092> <1291,1107> <1275,1093>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1274,1092> <1290,1106> <1291,1107>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1275,1093> <1292,1108> <1276,1094>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1275,1093> <1291,1107> <1292,1108>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1276,1094> <1293,1109> <1277,1095>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1276,1094> <1292,1108> <1293,1109>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1277,1095> <1294,1110> <1278,1096>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1277,1095> <1293,1109> <1294,1110>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1278,1096> <1295,1111> <1279,1097>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1278,1096> <1294,1110> <1295,1111>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1279,1097> <1296,1112> <1280,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1279,1097> <1295,1111> <1296,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1280,1098> <1297,1112> <1281,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1280,1098> <1296,1112> <1297,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1281,1098> <1298,1112> <1282,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1281,1098> <1297,1112> <1298,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1282,1098> <1299,1112> <1283,1098>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1282,1098> <1298,1112> <1299,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1283,1098> <1299,1112> <1139,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1113> <1300,1114> <1284,1100>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1284,1100> <1301,1115> <1285,1101>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1284,1100> <1300,1114> <1301,1115>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1285,1101> <1302,1116> <1286,1102>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1285,1101> <1301,1115> <1302,1116>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1286,1102> <1303,1117> <1287,1103>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1286,1102> <1302,1116> <1303,1117>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1287,1103> <1304,1118> <1288,1104>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1287,1103> <1303,1117> <1304,1118>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1288,1104> <1305,1119> <1289,1105>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1288,1104> <1304,1118> <1305,1119>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1289,1105> <1306,1120> <1290,1106>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1289,1105> <1305,1119> <1306,1120>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1290,1106> <1307,1121> <1291,1107>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1290,1106> <1306,1120> <1307,1121>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1291,1107> <1308,1122> <1292,1108>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1291,1107> <1307,1121> <1308,1122>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1292,1108> <1309,1123> <1293,1109>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1292,1108> <1308,1122> <1309,1123>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1293,1109> <1310,1124> <1294,1110>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1293,1109> <1309,1123> <1310,1124>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1294,1110> <1311,1125> <1295,1111>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1294,1110> <1310,1124> <1311,1125>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1295,1111> <1312,1126> <1296,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1295,1111> <1311,1125> <1312,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1296,1112> <1313,1126> <1297,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1296,1112> <1312,1126> <1313,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1297,1112> <1314,1126> <1298,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1297,1112> <1313,1126> <1314,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1298,1112> <1315,1126> <1299,1112>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1298,1112> <1314,1126> <1315,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1299,1112> <1315,1126> <1139,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1127> <1316,1128> <1300,1114>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1300,1114> <1317,1129> <1301,1115>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1300,1114> <1316,1128> <1317,1129>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1301,1115> <1318,1130> <1302,1116>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1301,1115> <1317,1129> <1318,1130>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1302,1116> <1319,1131> <1303,1117>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1302,1116> <1318,1130> <1319,1131>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1303,1117> <1320,1132> <1304,1118>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1303,1117> <1319,1131> <1320,1132>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1304,1118> <1321,1133> <1305,1119>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1304,1118> <1320,1132> <1321,1133>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1305,1119> <1322,1134> <1306,1120>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1305,1119> <1321,1133> <1322,1134>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1306,1120> <1323,1135> <1307,1121>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1306,1120> <1322,1134> <1323,1135>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1307,1121> <1324,1136> <1308,1122>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1307,1121> <1323,1135> <1324,1136>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1308,1122> <1325,1137> <1309,1123>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1308,1122> <1324,1136> <1325,1137>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1309,1123> <1326,1138> <1310,1124>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1309,1123> <1325,1137> <1326,1138>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1310,1124> <1327,1139> <1311,1125>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1310,1124> <1326,1138> <1327,1139>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1311,1125> <1328,1140> <1312,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1311,1125> <1327,1139> <1328,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1312,1126> <1329,1140> <1313,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1312,1126> <1328,1140> <1329,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1313,1126> <1330,1140> <1314,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1313,1126> <1329,1140> <1330,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1314,1126> <1331,1140> <1315,1126>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1314,1126> <1330,1140> <1331,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1315,1126> <1331,1140> <1139,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1141> <1332,1142> <1316,1128>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1316,1128> <1333,1143> <1317,1129>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1316,1128> <1332,1142> <1333,1143>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1317,1129> <1334,1144> <1318,1130>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1317,1129> <1333,1143> <1334,1144>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1318,1130> <1335,1145> <1319,1131>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1318,1130> <1334,1144> <1335,1145>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1319,1131> <1336,1146> <1320,1132>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1319,1131> <1335,1145> <1336,1146>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1320,1132> <1337,1147> <1321,1133>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1320,1132> <1336,1146> <1337,1147>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1321,1133> <1338,1148> <1322,1134>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1321,1133> <1337,1147> <1338,1148>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1322,1134> <1339,1149> <1323,1135>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1322,1134> <1338,1148> <1339,1149>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1323,1135> <1340,1150> <1324,1136>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1323,1135> <1339,1149> <1340,1150>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1324,1136> <1341,1151> <1325,1137>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1324,1136> <1340,1150> <1341,1151>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1325,1137> <1342,1152> <1326,1138>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1325,1137> <1341,1151> <1342,1152>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1326,1138> <1343,1153> <1327,1139>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1326,1138> <1342,1152> <1343,1153>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1327,1139> <1344,1154> <1328,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1327,1139> <1343,1153> <1344,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1328,1140> <1345,1154> <1329,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1328,1140> <1344,1154> <1345,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1329,1140> <1346,1154> <1330,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1329,1140> <1345,1154> <1346,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1330,1140> <1347,1154> <1331,1140>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1330,1140> <1346,1154> <1347,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1331,1140> <1347,1154> <1139,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1155> <1348,1156> <1332,1142>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1332,1142> <1349,1157> <1333,1143>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1332,1142> <1348,1156> <1349,1157>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1333,1143> <1350,1158> <1334,1144>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1333,1143> <1349,1157> <1350,1158>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1334,1144> <1351,1159> <1335,1145>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1334,1144> <1350,1158> <1351,1159>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1335,1145> <1352,1160> <1336,1146>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1335,1145> <1351,1159> <1352,1160>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1336,1146> <1353,1161> <1337,1147>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1336,1146> <1352,1160> <1353,1161>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1337,1147> <1354,1162> <1338,1148>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1337,1147> <1353,1161> <1354,1162>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1338,1148> <1355,1163> <1339,1149>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1338,1148> <1354,1162> <1355,1163>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1339,1149> <1356,1164> <1340,1150>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1339,1149> <1355,1163> <1356,1164>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1340,1150> <1357,1165> <1341,1151>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1340,1150> <1356,1164> <1357,1165>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1341,1151> <1358,1166> <1342,1152>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1341,1151> <1357,1165> <1358,1166>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1342,1152> <1359,1167> <1343,1153>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1342,1152> <1358,1166> <1359,1167>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1343,1153> <1360,1168> <1344,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1343,1153> <1359,1167> <1360,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1344,1154> <1361,1168> <1345,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1344,1154> <1360,1168> <1361,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1345,1154> <1362,1168> <1346,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1345,1154> <1361,1168> <1362,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1346,1154> <1363,1168> <1347,1154>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1346,1154> <1362,1168> <1363,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1347,1154> <1363,1168> <1139,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1169> <1364,1170> <1348,1156>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1348,1156> <1365,1171> <1349,1157>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1348,1156> <1364,1170> <1365,1171>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1349,1157> <1366,1172> <1350,1158>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1349,1157> <1365,1171> <1366,1172>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1350,1158> <1367,1173> <1351,1159>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1350,1158> <1366,1172> <1367,1173>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1351,1159> <1368,1174> <1352,1160>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1351,1159> <1367,1173> <1368,1174>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1352,1160> <1369,1175> <1353,1161>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1352,1160> <1368,1174> <1369,1175>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1353,1161> <1370,1176> <1354,1162>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1353,1161> <1369,1175> <1370,1176>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1354,1162> <1371,1177> <1355,1163>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1354,1162> <1370,1176> <1371,1177>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1355,1163> <1372,1178> <1356,1164>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1355,1163> <1371,1177> <1372,1178>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1356,1164> <1373,1179> <1357,1165>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1356,1164> <1372,1178> <1373,1179>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1357,1165> <1374,1180> <1358,1166>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1357,1165> <1373,1179> <1374,1180>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1358,1166> <1375,1181> <1359,1167>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1358,1166> <1374,1180> <1375,1181>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1359,1167> <1376,1182> <1360,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1359,1167> <1375,1181> <1376,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1360,1168> <1377,1182> <1361,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1360,1168> <1376,1182> <1377,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1361,1168> <1378,1182> <1362,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1361,1168> <1377,1182> <1378,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1362,1168> <1379,1182> <1363,1168>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1362,1168> <1378,1182> <1379,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1363,1168> <1379,1182> <1139,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1183> <1380,1184> <1364,1170>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1364,1170> <1381,1185> <1365,1171>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1364,1170> <1380,1184> <1381,1185>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1365,1171> <1382,1186> <1366,1172>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1365,1171> <1381,1185> <1382,1186>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1366,1172> <1383,1187> <1367,1173>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1366,1172> <1382,1186> <1383,1187>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1367,1173> <1384,1188> <1368,1174>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1367,1173> <1383,1187> <1384,1188>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1368,1174> <1385,1189> <1369,1175>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1368,1174> <1384,1188> <1385,1189>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1369,1175> <1386,1190> <1370,1176>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1369,1175> <1385,1189> <1386,1190>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1370,1176> <1387,1191> <1371,1177>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1370,1176> <1386,1190> <1387,1191>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1371,1177> <1388,1192> <1372,1178>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1371,1177> <1387,1191> <1388,1192>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1372,1178> <1389,1193> <1373,1179>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1372,1178> <1388,1192> <1389,1193>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1373,1179> <1390,1194> <1374,1180>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1373,1179> <1389,1193> <1390,1194>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1374,1180> <1391,1195> <1375,1181>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1374,1180> <1390,1194> <1391,1195>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1375,1181> <1392,473> <1376,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1375,1181> <1391,1195> <1392,473>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1376,1182> <1393,473> <1377,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1376,1182> <1392,473> <1393,473>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1377,1182> <1394,473> <1378,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1377,1182> <1393,473> <1394,473>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1378,1182> <1395,473> <1379,1182>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1378,1182> <1394,473> <1395,473>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1379,1182> <1395,473> <1139,473>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,474> <1396,1197> <1380,1196>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1380,1196> <1397,1199> <1381,1198>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1380,1196> <1396,1197> <1397,1199>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1381,1198> <1398,1201> <1382,1200>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1381,1198> <1397,1199> <1398,1201>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1382,1200> <1399,1203> <1383,1202>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1382,1200> <1398,1201> <1399,1203>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1383,1202> <1400,1205> <1384,1204>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1383,1202> <1399,1203> <1400,1205>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1384,1204> <1401,1207> <1385,1206>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1384,1204> <1400,1205> <1401,1207>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1385,1206> <1402,1209> <1386,1208>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1385,1206> <1401,1207> <1402,1209>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1386,1208> <1403,1211> <1387,1210>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1386,1208> <1402,1209> <1403,1211>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1387,1210> <1404,1213> <1388,1212>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1387,1210> <1403,1211> <1404,1213>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1388,1212> <1405,1215> <1389,1214>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1388,1212> <1404,1213> <1405,1215>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1389,1214> <1406,1217> <1390,1216>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1389,1214> <1405,1215> <1406,1217>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1390,1216> <1407,1219> <1391,1218>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1390,1216> <1406,1217> <1407,1219>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1391,1218> <1408,1220> <1392,509>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1391,1218> <1407,1219> <1408,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1392,509> <1409,1220> <1393,509>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1392,509> <1408,1220> <1409,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1393,509> <1410,1220> <1394,509>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1393,509> <1409,1220> <1410,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1394,509> <1411,1220> <1395,509>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1394,509> <1410,1220> <1411,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1395,509> <1411,1220> <1139,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1221> <1412,1222> <1396,1197>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1396,1197> <1413,1223> <1397,1199>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1396,1197> <1412,1222> <1413,1223>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1397,1199> <1414,1224> <1398,1201>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1397,1199> <1413,1223> <1414,1224>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1398,1201> <1415,1225> <1399,1203>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1398,1201> <1414,1224> <1415,1225>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1399,1203> <1416,1226> <1400,1205>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1399,1203> <1415,1225> <1416,1226>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1400,1205> <1417,1227> <1401,1207>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1400,1205> <1416,1226> <1417,1227>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1401,1207> <1418,1228> <1402,1209>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1401,1207> <1417,1227> <1418,1228>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1402,1209> <1419,1229> <1403,1211>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1402,1209> <1418,1228> <1419,1229>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1403,1211> <1420,1230> <1404,1213>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1403,1211> <1419,1229> <1420,1230>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1404,1213> <1421,1231> <1405,1215>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1404,1213> <1420,1230> <1421,1231>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1405,1215> <1422,1232> <1406,1217>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1405,1215> <1421,1231> <1422,1232>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1406,1217> <1423,1233> <1407,1219>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1406,1217> <1422,1232> <1423,1233>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1407,1219> <1424,1234> <1408,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1407,1219> <1423,1233> <1424,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1408,1220> <1425,1234> <1409,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1408,1220> <1424,1234> <1425,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1409,1220> <1426,1234> <1410,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1409,1220> <1425,1234> <1426,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1410,1220> <1427,1234> <1411,1220>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1410,1220> <1426,1234> <1427,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1411,1220> <1427,1234> <1139,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1235> <1428,1236> <1412,1222>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1412,1222> <1429,1237> <1413,1223>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1412,1222> <1428,1236> <1429,1237>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1413,1223> <1430,1238> <1414,1224>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1413,1223> <1429,1237> <1430,1238>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1414,1224> <1431,1239> <1415,1225>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1414,1224> <1430,1238> <1431,1239>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1415,1225> <1432,1240> <1416,1226>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1415,1225> <1431,1239> <1432,1240>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1416,1226> <1433,1241> <1417,1227>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1416,1226> <1432,1240> <1433,1241>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1417,1227> <1434,1242> <1418,1228>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1417,1227> <1433,1241> <1434,1242>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1418,1228> <1435,1243> <1419,1229>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1418,1228> <1434,1242> <1435,1243>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1419,1229> <1436,1244> <1420,1230>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1419,1229> <1435,1243> <1436,1244>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1420,1230> <1437,1245> <1421,1231>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1420,1230> <1436,1244> <1437,1245>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1421,1231> <1438,1246> <1422,1232>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1421,1231> <1437,1245> <1438,1246>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1422,1232> <1439,1247> <1423,1233>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1422,1232> <1438,1246> <1439,1247>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1423,1233> <1440,1248> <1424,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1423,1233> <1439,1247> <1440,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1424,1234> <1441,1248> <1425,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1424,1234> <1440,1248> <1441,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1425,1234> <1442,1248> <1426,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1425,1234> <1441,1248> <1442,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1426,1234> <1443,1248> <1427,1234>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1426,1234> <1442,1248> <1443,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1427,1234> <1443,1248> <1139,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1249> <1444,1250> <1428,1236>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1428,1236> <1445,1251> <1429,1237>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1428,1236> <1444,1250> <1445,1251>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1429,1237> <1446,1252> <1430,1238>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1429,1237> <1445,1251> <1446,1252>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1430,1238> <1447,1253> <1431,1239>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1430,1238> <1446,1252> <1447,1253>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1431,1239> <1448,1254> <1432,1240>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1431,1239> <1447,1253> <1448,1254>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1432,1240> <1449,1255> <1433,1241>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1432,1240> <1448,1254> <1449,1255>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1433,1241> <1450,1256> <1434,1242>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1433,1241> <1449,1255> <1450,1256>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1434,1242> <1451,1257> <1435,1243>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1434,1242> <1450,1256> <1451,1257>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1435,1243> <1452,1258> <1436,1244>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1435,1243> <1451,1257> <1452,1258>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1436,1244> <1453,1259> <1437,1245>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1436,1244> <1452,1258> <1453,1259>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1437,1245> <1454,1260> <1438,1246>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1437,1245> <1453,1259> <1454,1260>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1438,1246> <1455,1261> <1439,1247>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1438,1246> <1454,1260> <1455,1261>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1439,1247> <1456,1262> <1440,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1439,1247> <1455,1261> <1456,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1440,1248> <1457,1262> <1441,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1440,1248> <1456,1262> <1457,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1441,1248> <1458,1262> <1442,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1441,1248> <1457,1262> <1458,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1442,1248> <1459,1262> <1443,1248>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1442,1248> <1458,1262> <1459,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1443,1248> <1459,1262> <1139,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1263> <1460,1264> <1444,1250>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1444,1250> <1461,1265> <1445,1251>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1444,1250> <1460,1264> <1461,1265>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1445,1251> <1462,1266> <1446,1252>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1445,1251> <1461,1265> <1462,1266>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1446,1252> <1463,1267> <1447,1253>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1446,1252> <1462,1266> <1463,1267>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1447,1253> <1464,1268> <1448,1254>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1447,1253> <1463,1267> <1464,1268>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1448,1254> <1465,1269> <1449,1255>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1448,1254> <1464,1268> <1465,1269>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1449,1255> <1466,1270> <1450,1256>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1449,1255> <1465,1269> <1466,1270>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1450,1256> <1467,1271> <1451,1257>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1450,1256> <1466,1270> <1467,1271>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1451,1257> <1468,1272> <1452,1258>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1451,1257> <1467,1271> <1468,1272>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1452,1258> <1469,1273> <1453,1259>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1452,1258> <1468,1272> <1469,1273>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1453,1259> <1470,1274> <1454,1260>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1453,1259> <1469,1273> <1470,1274>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1454,1260> <1471,1275> <1455,1261>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1454,1260> <1470,1274> <1471,1275>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1455,1261> <1472,1276> <1456,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1455,1261> <1471,1275> <1472,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1456,1262> <1473,1276> <1457,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1456,1262> <1472,1276> <1473,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1457,1262> <1474,1276> <1458,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1457,1262> <1473,1276> <1474,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1458,1262> <1475,1276> <1459,1262>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1458,1262> <1474,1276> <1475,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1459,1262> <1475,1276> <1139,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1277> <1476,1278> <1460,1264>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1460,1264> <1477,1279> <1461,1265>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1460,1264> <1476,1278> <1477,1279>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1461,1265> <1478,1280> <1462,1266>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1461,1265> <1477,1279> <1478,1280>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1462,1266> <1479,1281> <1463,1267>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1462,1266> <1478,1280> <1479,1281>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1463,1267> <1480,1282> <1464,1268>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1463,1267> <1479,1281> <1480,1282>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1464,1268> <1481,1283> <1465,1269>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1464,1268> <1480,1282> <1481,1283>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1465,1269> <1482,1284> <1466,1270>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1465,1269> <1481,1283> <1482,1284>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1466,1270> <1483,1285> <1467,1271>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1466,1270> <1482,1284> <1483,1285>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1467,1271> <1484,1286> <1468,1272>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1467,1271> <1483,1285> <1484,1286>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1468,1272> <1485,1287> <1469,1273>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1468,1272> <1484,1286> <1485,1287>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1469,1273> <1486,1288> <1470,1274>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1469,1273> <1485,1287> <1486,1288>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1470,1274> <1487,1289> <1471,1275>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1470,1274> <1486,1288> <1487,1289>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1471,1275> <1488,1290> <1472,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1471,1275> <1487,1289> <1488,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1472,1276> <1489,1290> <1473,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1472,1276> <1488,1290> <1489,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1473,1276> <1490,1290> <1474,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1473,1276> <1489,1290> <1490,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1474,1276> <1491,1290> <1475,1276>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1474,1276> <1490,1290> <1491,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1475,1276> <1491,1290> <1139,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1291> <1492,1292> <1476,1278>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1476,1278> <1493,1293> <1477,1279>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1476,1278> <1492,1292> <1493,1293>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1477,1279> <1494,1294> <1478,1280>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1477,1279> <1493,1293> <1494,1294>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1478,1280> <1495,1295> <1479,1281>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1478,1280> <1494,1294> <1495,1295>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1479,1281> <1496,1296> <1480,1282>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1479,1281> <1495,1295> <1496,1296>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1480,1282> <1497,1297> <1481,1283>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1480,1282> <1496,1296> <1497,1297>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1481,1283> <1498,1298> <1482,1284>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1481,1283> <1497,1297> <1498,1298>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1482,1284> <1499,1299> <1483,1285>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1482,1284> <1498,1298> <1499,1299>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1483,1285> <1500,1300> <1484,1286>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1483,1285> <1499,1299> <1500,1300>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1484,1286> <1501,1301> <1485,1287>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1484,1286> <1500,1300> <1501,1301>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1485,1287> <1502,1302> <1486,1288>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1485,1287> <1501,1301> <1502,1302>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1486,1288> <1503,1303> <1487,1289>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1486,1288> <1502,1302> <1503,1303>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1487,1289> <1504,1304> <1488,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1487,1289> <1503,1303> <1504,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1488,1290> <1505,1304> <1489,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1488,1290> <1504,1304> <1505,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1489,1290> <1506,1304> <1490,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1489,1290> <1505,1304> <1506,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1490,1290> <1507,1304> <1491,1290>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1490,1290> <1506,1304> <1507,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1491,1290> <1507,1304> <1139,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1305> <1508,1306> <1492,1292>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1492,1292> <1509,1307> <1493,1293>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1492,1292> <1508,1306> <1509,1307>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1493,1293> <1510,1308> <1494,1294>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1493,1293> <1509,1307> <1510,1308>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1494,1294> <1511,1309> <1495,1295>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1494,1294> <1510,1308> <1511,1309>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1495,1295> <1512,1310> <1496,1296>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1495,1295> <1511,1309> <1512,1310>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1496,1296> <1513,1311> <1497,1297>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1496,1296> <1512,1310> <1513,1311>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1497,1297> <1514,1312> <1498,1298>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1497,1297> <1513,1311> <1514,1312>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1498,1298> <1515,1313> <1499,1299>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1498,1298> <1514,1312> <1515,1313>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1499,1299> <1516,1314> <1500,1300>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1499,1299> <1515,1313> <1516,1314>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1500,1300> <1517,1315> <1501,1301>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1500,1300> <1516,1314> <1517,1315>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1501,1301> <1518,1316> <1502,1302>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1501,1301> <1517,1315> <1518,1316>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1502,1302> <1519,1317> <1503,1303>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1502,1302> <1518,1316> <1519,1317>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1503,1303> <1520,1318> <1504,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1503,1303> <1519,1317> <1520,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1504,1304> <1521,1318> <1505,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1504,1304> <1520,1318> <1521,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1505,1304> <1522,1318> <1506,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1505,1304> <1521,1318> <1522,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1506,1304> <1523,1318> <1507,1304>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1506,1304> <1522,1318> <1523,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1507,1304> <1523,1318> <1139,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1319> <1524,1320> <1508,1306>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1508,1306> <1525,1321> <1509,1307>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1508,1306> <1524,1320> <1525,1321>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1509,1307> <1526,1322> <1510,1308>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1509,1307> <1525,1321> <1526,1322>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1510,1308> <1527,1323> <1511,1309>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1510,1308> <1526,1322> <1527,1323>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1511,1309> <1528,1324> <1512,1310>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1511,1309> <1527,1323> <1528,1324>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1512,1310> <1529,1325> <1513,1311>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1512,1310> <1528,1324> <1529,1325>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1513,1311> <1530,1326> <1514,1312>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1513,1311> <1529,1325> <1530,1326>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1514,1312> <1531,1327> <1515,1313>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1514,1312> <1530,1326> <1531,1327>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1515,1313> <1532,1328> <1516,1314>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1515,1313> <1531,1327> <1532,1328>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1516,1314> <1533,1329> <1517,1315>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1516,1314> <1532,1328> <1533,1329>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1517,1315> <1534,1330> <1518,1316>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1517,1315> <1533,1329> <1534,1330>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1518,1316> <1535,1331> <1519,1317>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1518,1316> <1534,1330> <1535,1331>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1519,1317> <1536,1332> <1520,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1519,1317> <1535,1331> <1536,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1520,1318> <1537,1332> <1521,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1520,1318> <1536,1332> <1537,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1521,1318> <1538,1332> <1522,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1521,1318> <1537,1332> <1538,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1522,1318> <1539,1332> <1523,1318>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1522,1318> <1538,1332> <1539,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1523,1318> <1539,1332> <1139,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1333> <1540,1334> <1524,1320>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1524,1320> <1541,1335> <1525,1321>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1524,1320> <1540,1334> <1541,1335>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1525,1321> <1542,1336> <1526,1322>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1525,1321> <1541,1335> <1542,1336>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1526,1322> <1543,1337> <1527,1323>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1526,1322> <1542,1336> <1543,1337>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1527,1323> <1544,1338> <1528,1324>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1527,1323> <1543,1337> <1544,1338>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1528,1324> <1545,1339> <1529,1325>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1528,1324> <1544,1338> <1545,1339>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1529,1325> <1546,1340> <1530,1326>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1529,1325> <1545,1339> <1546,1340>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1530,1326> <1547,1341> <1531,1327>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1530,1326> <1546,1340> <1547,1341>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1531,1327> <1548,1342> <1532,1328>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1531,1327> <1547,1341> <1548,1342>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1532,1328> <1549,1343> <1533,1329>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1532,1328> <1548,1342> <1549,1343>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1533,1329> <1550,1344> <1534,1330>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1533,1329> <1549,1343> <1550,1344>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1534,1330> <1551,1345> <1535,1331>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1534,1330> <1550,1344> <1551,1345>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1535,1331> <1552,1346> <1536,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1535,1331> <1551,1345> <1552,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1536,1332> <1553,1346> <1537,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1536,1332> <1552,1346> <1553,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1537,1332> <1554,1346> <1538,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1537,1332> <1553,1346> <1554,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1538,1332> <1555,1346> <1539,1332>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1538,1332> <1554,1346> <1555,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1539,1332> <1555,1346> <1139,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1347> <1556,1348> <1540,1334>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1540,1334> <1557,1349> <1541,1335>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1540,1334> <1556,1348> <1557,1349>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1541,1335> <1558,1350> <1542,1336>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1541,1335> <1557,1349> <1558,1350>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1542,1336> <1559,1351> <1543,1337>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1542,1336> <1558,1350> <1559,1351>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1543,1337> <1560,1352> <1544,1338>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1543,1337> <1559,1351> <1560,1352>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1544,1338> <1561,1353> <1545,1339>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1544,1338> <1560,1352> <1561,1353>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1545,1339> <1562,1354> <1546,1340>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1545,1339> <1561,1353> <1562,1354>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1546,1340> <1563,1355> <1547,1341>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1546,1340> <1562,1354> <1563,1355>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1547,1341> <1564,1356> <1548,1342>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1547,1341> <1563,1355> <1564,1356>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1548,1342> <1565,1357> <1549,1343>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1548,1342> <1564,1356> <1565,1357>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1549,1343> <1566,1358> <1550,1344>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1549,1343> <1565,1357> <1566,1358>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1550,1344> <1567,1359> <1551,1345>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1550,1344> <1566,1358> <1567,1359>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1551,1345> <1568,1360> <1552,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1551,1345> <1567,1359> <1568,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1552,1346> <1569,1360> <1553,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1552,1346> <1568,1360> <1569,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1553,1346> <1570,1360> <1554,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1553,1346> <1569,1360> <1570,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1554,1346> <1571,1360> <1555,1346>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1554,1346> <1570,1360> <1571,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1555,1346> <1571,1360> <1139,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1361> <1572,1362> <1556,1348>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1556,1348> <1573,1363> <1557,1349>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1556,1348> <1572,1362> <1573,1363>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1557,1349> <1574,1364> <1558,1350>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1557,1349> <1573,1363> <1574,1364>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1558,1350> <1575,1365> <1559,1351>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1558,1350> <1574,1364> <1575,1365>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1559,1351> <1576,1366> <1560,1352>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1559,1351> <1575,1365> <1576,1366>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1560,1352> <1577,1367> <1561,1353>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1560,1352> <1576,1366> <1577,1367>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1561,1353> <1578,1368> <1562,1354>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1561,1353> <1577,1367> <1578,1368>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1562,1354> <1579,1369> <1563,1355>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1562,1354> <1578,1368> <1579,1369>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1563,1355> <1580,1370> <1564,1356>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1563,1355> <1579,1369> <1580,1370>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1564,1356> <1581,1371> <1565,1357>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1564,1356> <1580,1370> <1581,1371>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1565,1357> <1582,1372> <1566,1358>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1565,1357> <1581,1371> <1582,1372>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1566,1358> <1583,1373> <1567,1359>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1566,1358> <1582,1372> <1583,1373>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1567,1359> <1584,1374> <1568,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1567,1359> <1583,1373> <1584,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1568,1360> <1585,1374> <1569,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1568,1360> <1584,1374> <1585,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1569,1360> <1586,1374> <1570,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1569,1360> <1585,1374> <1586,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1570,1360> <1587,1374> <1571,1360>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1570,1360> <1586,1374> <1587,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1571,1360> <1587,1374> <1139,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1375> <1588,1376> <1572,1362>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1572,1362> <1589,1377> <1573,1363>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1572,1362> <1588,1376> <1589,1377>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1573,1363> <1590,1378> <1574,1364>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1573,1363> <1589,1377> <1590,1378>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1574,1364> <1591,1379> <1575,1365>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1574,1364> <1590,1378> <1591,1379>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1575,1365> <1592,1380> <1576,1366>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1575,1365> <1591,1379> <1592,1380>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1576,1366> <1593,1381> <1577,1367>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1576,1366> <1592,1380> <1593,1381>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1577,1367> <1594,1382> <1578,1368>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1577,1367> <1593,1381> <1594,1382>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1578,1368> <1595,1383> <1579,1369>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1578,1368> <1594,1382> <1595,1383>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1579,1369> <1596,1384> <1580,1370>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1579,1369> <1595,1383> <1596,1384>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1580,1370> <1597,1385> <1581,1371>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1580,1370> <1596,1384> <1597,1385>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1581,1371> <1598,1386> <1582,1372>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1581,1371> <1597,1385> <1598,1386>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1582,1372> <1599,1387> <1583,1373>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1582,1372> <1598,1386> <1599,1387>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1583,1373> <1600,1388> <1584,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1583,1373> <1599,1387> <1600,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1584,1374> <1601,1388> <1585,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1584,1374> <1600,1388> <1601,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1585,1374> <1602,1388> <1586,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1585,1374> <1601,1388> <1602,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1586,1374> <1603,1388> <1587,1374>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1586,1374> <1602,1388> <1603,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1587,1374> <1603,1388> <1139,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1389> <1604,1390> <1588,1376>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1588,1376> <1605,1391> <1589,1377>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1588,1376> <1604,1390> <1605,1391>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1589,1377> <1606,1392> <1590,1378>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1589,1377> <1605,1391> <1606,1392>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1590,1378> <1607,1393> <1591,1379>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1590,1378> <1606,1392> <1607,1393>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1591,1379> <1608,1394> <1592,1380>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1591,1379> <1607,1393> <1608,1394>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1592,1380> <1609,1395> <1593,1381>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1592,1380> <1608,1394> <1609,1395>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1593,1381> <1610,1396> <1594,1382>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1593,1381> <1609,1395> <1610,1396>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1594,1382> <1611,1397> <1595,1383>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1594,1382> <1610,1396> <1611,1397>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1595,1383> <1612,1398> <1596,1384>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1595,1383> <1611,1397> <1612,1398>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1596,1384> <1613,1399> <1597,1385>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1596,1384> <1612,1398> <1613,1399>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1597,1385> <1614,1400> <1598,1386>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1597,1385> <1613,1399> <1614,1400>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1598,1386> <1615,1401> <1599,1387>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1598,1386> <1614,1400> <1615,1401>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1599,1387> <1616,1402> <1600,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1599,1387> <1615,1401> <1616,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1600,1388> <1617,1402> <1601,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1600,1388> <1616,1402> <1617,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1601,1388> <1618,1402> <1602,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1601,1388> <1617,1402> <1618,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1602,1388> <1619,1402> <1603,1388>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1602,1388> <1618,1402> <1619,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1603,1388> <1619,1402> <1139,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1403> <1620,1404> <1604,1390>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1604,1390> <1621,1405> <1605,1391>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1604,1390> <1620,1404> <1621,1405>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1605,1391> <1622,1406> <1606,1392>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1605,1391> <1621,1405> <1622,1406>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1606,1392> <1623,1407> <1607,1393>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1606,1392> <1622,1406> <1623,1407>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1607,1393> <1624,1408> <1608,1394>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1607,1393> <1623,1407> <1624,1408>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1608,1394> <1625,1409> <1609,1395>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1608,1394> <1624,1408> <1625,1409>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1609,1395> <1626,1410> <1610,1396>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1609,1395> <1625,1409> <1626,1410>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1610,1396> <1627,1411> <1611,1397>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1610,1396> <1626,1410> <1627,1411>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1611,1397> <1628,1412> <1612,1398>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1611,1397> <1627,1411> <1628,1412>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1612,1398> <1629,1413> <1613,1399>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1612,1398> <1628,1412> <1629,1413>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1613,1399> <1630,1414> <1614,1400>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1613,1399> <1629,1413> <1630,1414>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1614,1400> <1631,1415> <1615,1401>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1614,1400> <1630,1414> <1631,1415>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1615,1401> <1632,1416> <1616,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1615,1401> <1631,1415> <1632,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1616,1402> <1633,1416> <1617,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1616,1402> <1632,1416> <1633,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1617,1402> <1634,1416> <1618,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1617,1402> <1633,1416> <1634,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1618,1402> <1635,1416> <1619,1402>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1618,1402> <1634,1416> <1635,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1619,1402> <1635,1416> <1139,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1417> <1636,1418> <1620,1404>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1620,1404> <1637,1419> <1621,1405>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1620,1404> <1636,1418> <1637,1419>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1621,1405> <1638,1420> <1622,1406>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1621,1405> <1637,1419> <1638,1420>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1622,1406> <1639,1421> <1623,1407>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1622,1406> <1638,1420> <1639,1421>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1623,1407> <1640,1422> <1624,1408>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1623,1407> <1639,1421> <1640,1422>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1624,1408> <1641,1423> <1625,1409>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1624,1408> <1640,1422> <1641,1423>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1625,1409> <1642,1424> <1626,1410>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1625,1409> <1641,1423> <1642,1424>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1626,1410> <1643,1425> <1627,1411>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1626,1410> <1642,1424> <1643,1425>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1627,1411> <1644,1426> <1628,1412>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1627,1411> <1643,1425> <1644,1426>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1628,1412> <1645,1427> <1629,1413>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1628,1412> <1644,1426> <1645,1427>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1629,1413> <1646,1428> <1630,1414>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1629,1413> <1645,1427> <1646,1428>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1630,1414> <1647,1429> <1631,1415>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1630,1414> <1646,1428> <1647,1429>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1631,1415> <1648,1430> <1632,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1631,1415> <1647,1429> <1648,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1632,1416> <1649,1430> <1633,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1632,1416> <1648,1430> <1649,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1633,1416> <1650,1430> <1634,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1633,1416> <1649,1430> <1650,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1634,1416> <1651,1430> <1635,1416>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1634,1416> <1650,1430> <1651,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1635,1416> <1651,1430> <1139,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1106,1431> <1107,1432> <1636,1418>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1636,1418> <1109,1433> <1637,1419>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1636,1418> <1107,1432> <1109,1433>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1637,1419> <1111,1434> <1638,1420>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1637,1419> <1109,1433> <1111,1434>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1638,1420> <1113,1435> <1639,1421>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1638,1420> <1111,1434> <1113,1435>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1639,1421> <1115,1436> <1640,1422>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1639,1421> <1113,1435> <1115,1436>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1640,1422> <1117,1437> <1641,1423>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1640,1422> <1115,1436> <1117,1437>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1641,1423> <1119,1438> <1642,1424>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1641,1423> <1117,1437> <1119,1438>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1642,1424> <1121,1439> <1643,1425>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1642,1424> <1119,1438> <1121,1439>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1643,1425> <1123,1440> <1644,1426>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1643,1425> <1121,1439> <1123,1440>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1644,1426> <1125,1441> <1645,1427>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1644,1426> <1123,1440> <1125,1441>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1645,1427> <1127,1442> <1646,1428>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1645,1427> <1125,1441> <1127,1442>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1646,1428> <1129,1443> <1647,1429>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1646,1428> <1127,1442> <1129,1443>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1647,1429> <1131,947> <1648,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1647,1429> <1129,1443> <1131,947>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1648,1430> <1133,947> <1649,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1648,1430> <1131,947> <1133,947>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1649,1430> <1135,947> <1650,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1649,1430> <1133,947> <1135,947>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1650,1430> <1137,947> <1651,1430>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1650,1430> <1135,947> <1137,947>
-Face verts 3 flags 0 mat 0
+Face verts 3 flags 0 mat 1
 <1651,1430> <1137,947> <1139,947>
 mat# 0
 rgb 1,1,1
@@ -9706,6 +9706,15 @@ alpha 1 ka 0.1 ks 0.1 exp 0
 Shader class: color
 Shader name: "texture map"
 file name: string ".\sky-day.bmp"
+Shader class: transparency
+Shader name: "none"
+Shader class: reflectance
+Shader name: "constant"
+mat# 1
+rgb 0.8402,0.7775,0.7461
+alpha 1 ka 0.1 ks 0.1 exp 0
+Shader class: color
+Shader name: "plain color"
 Shader class: transparency
 Shader name: "none"
 Shader class: reflectance
