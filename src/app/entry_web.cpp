@@ -20,6 +20,7 @@
 #include "platform/web/web.h"
 #include "player/chapters.h"
 #include "player/looks.h"
+#include "player/sample.h"
 #include "player/show.h"
 
 #define OMBREL_EXPORT(name) extern "C" __attribute__((export_name(#name))) auto name
@@ -246,6 +247,28 @@ OMBREL_EXPORT(ombrel_figure_triangles)()->std::int32_t {
 }
 OMBREL_EXPORT(ombrel_figure_pixels)()->double { // asked for by fillers
     return static_cast<double>(show.figures.pixels);
+}
+
+// --- the still life of a filler ------------------------------------------------------------------
+
+OMBREL_EXPORT(ombrel_filler_count)()->std::int32_t {
+    return ombrel::kFillerCount;
+}
+OMBREL_EXPORT(ombrel_filler_name)(std::int32_t filler)->const char* { // "FillTexW"
+    return IsWithin(filler, ombrel::kFillerCount) ? ombrel::kFillerTable[filler].name : "";
+}
+// 640 x 480 pixels as ombrel_picture gives them, drawn by that filler at a blend level of 0 to 7
+// with the texture of a mip level of 0 to 6; 0 for other numbers. Behind ombrel_open.
+OMBREL_EXPORT(ombrel_draw_sample)
+(std::int32_t filler, std::int32_t level, std::int32_t mip)->const std::uint8_t* {
+    ombrel::LookPicture& picture = show.look;
+    if (!IsWithin(filler, ombrel::kFillerCount) ||
+        !ombrel::DrawSample(static_cast<ombrel::FillerId>(filler),
+                            static_cast<std::uint32_t>(level), mip, &picture)) {
+        return nullptr;
+    }
+    return AsRgba(picture.pixels.data(), picture.width * 2, picture.width, picture.height,
+                  &show.looked);
 }
 
 // --- chapters ------------------------------------------------------------------------------------
