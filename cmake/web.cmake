@@ -1,5 +1,5 @@
-# The show as one module of WebAssembly, build/web/ombrel.wasm: what the page plays. Its functions are
-# those of src/app/entry_web.cpp.
+# The show as one module of WebAssembly, ombrel.wasm: what the page plays. Its functions are those of
+# src/app/entry_web.cpp. And the page around it: the folder build/web, whole and ready for a server.
 ombrel_back_end(web SOFT)
 
 add_executable(ombrel src/app/entry_web.cpp)
@@ -10,3 +10,16 @@ target_link_libraries(ombrel PRIVATE ombrel_flags ombrel_app ombrel_player ombre
 target_link_options(ombrel PRIVATE LINKER:--stack-first LINKER:-z,stack-size=1048576
                                    LINKER:--initial-memory=67108864 LINKER:--max-memory=419430400
                                    LINKER:--gc-sections LINKER:--strip-debug)
+
+# --- the page ------------------------------------------------------------------------------------
+set(page_folder ${CMAKE_BINARY_DIR}/../web)
+file(GLOB_RECURSE page_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/web/* ${CMAKE_SOURCE_DIR}/data/*)
+add_custom_command(OUTPUT ${page_folder}/sw.js
+  COMMAND /usr/bin/python3 ${CMAKE_SOURCE_DIR}/tools/web_folder.py --wasm $<TARGET_FILE:ombrel>
+          --out ${page_folder}
+  COMMAND ${CMAKE_COMMAND} -E touch ${page_folder}/sw.js # newer than what it was made from
+  DEPENDS ombrel ${page_sources} ${CMAKE_SOURCE_DIR}/tools/web_folder.py
+          ${CMAKE_SOURCE_DIR}/art/MANIFEST ${CMAKE_SOURCE_DIR}/tests/scenario/frames.txt.gz
+          ${CMAKE_SOURCE_DIR}/docs/pictures/scene-one.png
+  VERBATIM)
+add_custom_target(page ALL DEPENDS ${page_folder}/sw.js)
