@@ -7,7 +7,12 @@ TEST_PACKAGES="$PLAY_PACKAGES python3 libgtest-dev libbenchmark-dev clang-14 lib
  clang-format-14 clang-tidy-14 cppcheck g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64
  g++-aarch64-linux-gnu qemu-user-static
  desktop-file-utils appstream lintian fakeroot dpkg-dev groff-base
- xvfb libxtst6 x11-utils weston openbox python3-numpy python3-pil fonts-dejavu-core fonts-paratype"
+ xvfb libxtst6 x11-utils weston openbox python3-numpy python3-pil fonts-dejavu-core fonts-paratype
+ chromium firefox-esr pulseaudio"
+# (node and npm are often there from elsewhere, and then Debian's cannot stand beside them.)
+for program in node:nodejs npm:npm; do
+    command -v "${program%:*}" >/dev/null 2>&1 || TEST_PACKAGES="$TEST_PACKAGES ${program#*:}"
+done
 
 # Installs those of the given packages that are missing; says what to do where it cannot.
 need_packages() {

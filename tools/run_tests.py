@@ -48,11 +48,11 @@ class Step:
     env: dict = dataclasses.field(default_factory=dict)
 
 
-def build(preset, sizes, targets="all", options="", first=""):
+def build(preset, sizes, targets="all", options="", first="", folder=""):
     """The step that configures a preset and builds targets of it, after a first command."""
     first = f"{first} && " if first else ""
     return Step(f"build {preset}", sizes, f"{first}cmake --preset {preset} {options} && "
-                f"nice -n 5 cmake --build build/{preset} --target {targets}", tests=IS_BUILD,
+                f"nice -n 5 cmake --build build/{folder or preset} --target {targets}", tests=IS_BUILD,
                 limit=2400, load=WHOLE)
 
 
@@ -75,6 +75,7 @@ UNITS = [f"unit_{folder.name}" for folder in sorted((ROOT / "tests/unit").iterdi
          if folder.is_dir()]
 CAPTURE = "larkfen-capture"
 RELEASE, WIN64, WIN32 = ("build release",), ("build win64",), ("build win32",)
+PAGE = ("build web", "what drives the browsers")
 FOR_SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
                   "UBSAN_OPTIONS": "print_stacktrace=1", "OMBREL_RANDOM_SHARE": "0.05"}
 # The stored frames and the whole decision table are held to the release build; with sanitizers 200
@@ -94,6 +95,7 @@ ARM64_UNITS = [f"unit_{name}" for name in ("base", "math", "assets", "scene", "r
 STEPS = [
     build("release", EVERY, options="-DOMBREL_TESTS=ON -DOMBREL_BENCH=ON"),
     build("win64", DEFAULT),
+    build("web", DEFAULT, folder="web-objects"),
     build("sanitize", ALL),
     build("clang", ALL, CAPTURE),
     build("o0", ALL, CAPTURE),
@@ -116,6 +118,16 @@ STEPS = [
     Step("player's window", ALL, "tests/player/run.sh build/release", RELEASE, limit=1200,
          load=WAITS),
     Step("Linux window", DEFAULT, "tests/linux/run.sh build/release", RELEASE, load=WAITS),
+
+    # The page, in real browsers.
+    Step("what drives the browsers", DEFAULT, "tests/web/install.sh", tests=IS_BUILD),
+    Step("page: without a browser", EVERY, "node tests/web/modules.mjs"),
+    Step("page in browsers, quick", SHORT,
+         "node tests/web/run.mjs build/web --quick --keep build/web-tests", PAGE),
+    Step("page in browsers", ALL, "node tests/web/run.mjs build/web --keep build/web-tests", PAGE,
+         limit=1800),
+    Step("page in browsers: every frame", ALL, "node tests/web/run.mjs build/web --whole", PAGE,
+         limit=2400),
 
     # The whole production, and what takes long beside it.
     Step("scenario: every frame", DEFAULT, "build/release/scenario --gtest_filter='Frames.*'",
@@ -176,7 +188,7 @@ STEPS = [
     Step("what is installed, and the Debian package", DEFAULT, "tests/release/run.sh build/release",
          RELEASE),
     Step("videos of the recorder", ALL, "tests/capture/run.sh build/release", RELEASE, limit=1200),
-    Step("make the archives", ALL, "tools/package.py", RELEASE + WIN64 + WIN32 + ARM64,
+    Step("make the archives", ALL, "tools/package.py", RELEASE + WIN64 + WIN32 + ARM64 + ("build web",),
          tests=IS_BUILD),
     Step("archives, unpacked", ALL, "tests/packages/run.sh build", ("make the archives",),
          load=WAITS),
