@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Makes the release: ombrel-win32.zip, ombrel-win64.zip, ombrel-linux.tar.gz and
 ombrel-linux-arm64.tar.gz from built programs, each with one folder in it, and in that the production,
-its data, the recorder and the list of frame hashes that it compares with (larkfen-capture --verify).
+its data, the recorder and the list of frame hashes that it compares with (larkfen-capture --verify);
+and ombrel-web.zip, the folder of the page.
 The same sources give the same bytes: order, times, owners and modes of the files are fixed here, and
 the programs are built without dates and without the place of the checkout."""
 import argparse
@@ -17,6 +18,7 @@ import time
 import zipfile
 
 import frame_hashes
+import web_folder
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PARTS = ROOT / "tools/package"
@@ -31,6 +33,7 @@ ARCHIVES = [
     ("ombrel-linux.tar.gz",       "release", "",     "strip"),
     ("ombrel-linux-arm64.tar.gz", "arm64",   "",     "aarch64-linux-gnu-strip"),
 ]
+WEB_ARCHIVE = "ombrel-web.zip"
 # In the archive    | as the build calls it
 PROGRAMS = [
     ("larkfen",         "larkfen"),
@@ -100,6 +103,18 @@ def files(preset, ending, strip, build):
     return sorted(out)
 
 
+def web_files(build):
+    """The same of the archive with the page: what tools/web_folder.py makes, and a readme."""
+    program = build / "web/ombrel.wasm"
+    if not program.exists():
+        raise Fault(f"{program} is not there; build it first")
+    out = web_folder.page_files(program)
+    if str(ROOT).encode() in out["ombrel.wasm"]:
+        raise Fault(f"{program} holds the path of the checkout")
+    out["readme.txt"] = text(PARTS / "readme-web.txt", "web")
+    return sorted((name, content, False) for name, content in out.items())
+
+
 def zip_bytes(members):
     """A zip archive."""
     out = io.BytesIO()
@@ -143,14 +158,18 @@ def main():
             for command in (["--preset", preset], ["--build", f"build/{preset}", "--target",
                                                    *(target for _, target in PROGRAMS)]):
                 subprocess.run(["cmake", *command], cwd=ROOT, check=True)
-        for archive, preset, ending, strip in ARCHIVES:
-            members = files(preset, ending, strip, options.build)
+        if not options.no_build:
+            subprocess.run(["cmake", "--workflow", "--preset", "web"], cwd=ROOT, check=True)
+        contents = [(archive, files(preset, ending, strip, options.build))
+                    for archive, preset, ending, strip in ARCHIVES]
+        contents.append((WEB_ARCHIVE, web_files(options.build)))
+        for archive, members in contents:
             content = zip_bytes(members) if archive.endswith(".zip") else tar_bytes(members)
             part = options.out / (archive + ".part")
             part.write_bytes(content)
             os.replace(part, options.out / archive)
             print(f"{options.out / archive}: {len(members)} files, {len(content)} bytes")
-    except (Fault, OSError, subprocess.CalledProcessError) as fault:
+    except (Fault, web_folder.Fault, OSError, subprocess.CalledProcessError) as fault:
         print(f"error: {fault}", file=sys.stderr)
         return 1
     return 0

@@ -25,6 +25,7 @@ from wine_desk import SLOW, Desk, Failure, Stage, expect, windows_path
 TITLE = "Ombrel - a fast prod from Quellant"
 NOON = (2026, 5, 1, 12, 0, 0)
 ZIPS = ("ombrel-win32.zip", "ombrel-win64.zip")
+WEB = "ombrel-web.zip"
 TAR, TAR_ARM64 = TARS = ("ombrel-linux.tar.gz", "ombrel-linux-arm64.tar.gz")
 FIRST_OF_MAY = calendar.timegm(NOON)
 I386, AMD64 = 0x14c, 0x8664
@@ -44,7 +45,7 @@ def names(program, *licences):
 
 def unpack(folder, work):
     """Every archive into an empty folder of its own, as a user does."""
-    for archive in (*ZIPS, *TARS):
+    for archive in (*ZIPS, *TARS, WEB):
         place = work / archive
         place.mkdir(parents=True)
         shutil.unpack_archive(folder / archive, place)
@@ -61,6 +62,28 @@ def zip_contents(folder):
         for entry in entries:
             mode = 0o100755 if entry.filename.endswith(".exe") else 0o100644
             expect((entry.date_time, entry.external_attr >> 16) == (NOON, mode), str(entry))
+
+
+def web_contents(folder, work, build):
+    """ombrel-web.zip: the folder of the page as it was built, small enough, with licences and a readme"""
+    with zipfile.ZipFile(folder / WEB) as file:
+        entries = file.infolist()
+    for entry in entries:
+        expect((entry.date_time, entry.external_attr >> 16) == (NOON, 0o100644), str(entry))
+    got = [entry.filename.removeprefix("ombrel/") for entry in entries]
+    expect(got == sorted(got) and not any("/" in name for name in got), f"it holds {got}")
+    built = {path.name for path in (build / "web").iterdir() if path.is_file()}
+    expect(built <= set(got) and set(got) - built == {"readme.txt"}, f"it holds {got}, built are {built}")
+    place = work / WEB / "ombrel"
+    for name in built:
+        expect((place / name).read_bytes() == (build / "web" / name).read_bytes(), name)
+    expect(sum(entry.file_size for entry in entries) < 12_000_000, "it is too large to be fetched")
+    readme = (place / "readme.txt").read_text("ascii")
+    expect(VERSION in readme and "@" not in readme and max(map(len, readme.splitlines())) < 80, "readme.txt")
+    licences = (place / "licences.txt").read_text("utf-8")
+    expect((ROOT / "LICENSE").read_text("ascii") in licences and "musl" in licences and
+           "ParaType" in licences, "licences.txt")
+    expect(str(ROOT).encode() not in (place / "ombrel.wasm").read_bytes(), "it holds the path of the checkout")
 
 
 def tar_contents(folder):
@@ -170,7 +193,7 @@ def twice(folder, work, build):
     again = work / "again"
     subprocess.run([ROOT / "tools/package.py", "--no-build", "--build", build, "--out", again],
                    check=True, stdout=subprocess.DEVNULL)
-    for archive in (*ZIPS, *TARS):
+    for archive in (*ZIPS, *TARS, WEB):
         expect((again / archive).read_bytes() == (folder / archive).read_bytes(), archive)
 
 
@@ -293,14 +316,15 @@ def main():
                         help="the folder of the build folders; the archives stand in its package/")
     build = parser.parse_args().build.resolve()
     folder, work = build / "package", build / "package-tests/unpacked"
-    missing = [name for name in (*ZIPS, *TARS) if not (folder / name).exists()]
+    missing = [name for name in (*ZIPS, *TARS, WEB) if not (folder / name).exists()]
     if missing:
         print(f"FAILED {folder} has no {missing}: cmake --build --preset package makes them")
         print("0 passed, 1 failed")
         return 1
     shutil.rmtree(work, ignore_errors=True)
     unpack(folder, work)
-    results = run(((zip_contents, (folder,)), (tar_contents, (folder,)), (texts, (work,)),
+    results = run(((zip_contents, (folder,)), (tar_contents, (folder,)),
+                   (web_contents, (folder, work, build)), (texts, (work,)),
                    (data, (work,)), (hash_lists, (work,)),
                    (windows_programs, (work,)), (linux_programs, (work,)),
                    (twice, (folder, work, build))))
