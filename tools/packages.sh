@@ -8,6 +8,7 @@ TEST_PACKAGES="$PLAY_PACKAGES python3 libgtest-dev libbenchmark-dev clang-14 lib
  g++-aarch64-linux-gnu qemu-user-static
  desktop-file-utils appstream lintian fakeroot dpkg-dev groff-base
  xvfb libxtst6 x11-utils weston openbox python3-numpy python3-pil fonts-dejavu-core fonts-paratype
+ wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld-14
  chromium firefox-esr pulseaudio"
 # (node and npm are often there from elsewhere, and then Debian's cannot stand beside them.)
 for program in node:nodejs npm:npm; do
