@@ -507,6 +507,10 @@ function casesOf(browser, name, server) {
         }), true],
 
         ["how a frame is drawn", together(async (page) => {
+            if (await page.shown("#stage")) {
+                await page.key("Escape");
+                await until("the first view", async () => !(await page.shown("#stage")));
+            }
             await page.get(() => document.querySelector("#walk").scrollIntoView());
             await page.page.click("#walk-start");
             await until("a frame in the walk", async () => /^Frame \d+ as it is shown/.test(await page.text("#walk-caption")), 120);
