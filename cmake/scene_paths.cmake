@@ -8,6 +8,15 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
   set_source_files_properties(${kernels}/kernels_neon.cpp PROPERTIES COMPILE_OPTIONS
                                                                      "${kernel_flags}")
 endif()
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL wasm32)
+  target_sources(ombrel_scene PRIVATE ${kernels}/kernels_wasm.cpp)
+  target_compile_definitions(ombrel_scene PRIVATE OMBREL_WASM_KERNELS)
+  # A call costs more there than the formula behind it, vectors being passed through memory.
+  set_source_files_properties(${kernels}/kernels_wasm.cpp PROPERTIES COMPILE_OPTIONS
+                              "${kernel_flags};-mllvm;-inline-threshold=5000")
+  set_source_files_properties(${CMAKE_SOURCE_DIR}/src/scene/fused.cpp PROPERTIES COMPILE_OPTIONS
+                              "-mllvm;-inline-threshold=2000")
+endif()
 if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|amd64|AMD64|i[3-6]86)$")
   return()
 endif()

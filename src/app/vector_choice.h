@@ -5,7 +5,7 @@
 
 namespace ombrel {
 
-// The environment variable that names a path: scalar, sse, avx2, avx512, neon.
+// The environment variable that names a path: scalar, sse, avx2, avx512, neon, wasm.
 inline constexpr char kPathVariable[] = "RASTER_USE";
 
 // Puts the functions of a path in their places: the one that the variable names, or the next one

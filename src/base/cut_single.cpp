@@ -5,6 +5,27 @@ namespace ombrel {
 
 namespace cut {
 
+float CutStrange(double value) {
+    const auto bits = std::bit_cast<std::uint64_t>(value);
+    const std::uint64_t size = bits & ~kSign64;
+    if (size >= kInfinity64) {
+        return static_cast<float>(value);
+    }
+    const std::uint32_t sign = static_cast<std::uint32_t>(bits >> 32) & 0x80000000U;
+    const bool small = size < (1023ULL - 126) << 52;
+    return std::bit_cast<float>(sign | (small ? 0U : 0x7F7FFFFFU));
+}
+
+float SumOfUnlike(float a, float b) {
+    const double sum = static_cast<double>(a) + static_cast<double>(b);
+    const float small = sum == static_cast<double>(a) ? b : a;
+    const bool finite = sum - sum == 0.0;
+    if (finite && ((small < 0.0F && sum > 0.0) || (small > 0.0F && sum < 0.0))) {
+        return ToSingle(std::bit_cast<double>(std::bit_cast<std::uint64_t>(sum) - 1));
+    }
+    return ToSingle(sum);
+}
+
 namespace {
 
 // value, unless the exact result is value plus an error of the other sign: then the next number

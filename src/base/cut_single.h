@@ -21,21 +21,14 @@ inline constexpr std::int64_t kLeastNormal = 0x00800000; // bits of singles
 inline constexpr std::int64_t kInfinity = 0x7F800000;
 inline constexpr std::uint64_t kInfinity64 = 0x7FFULL << 52;
 
-// What is out of the range of normal singles: too small is zero; too large is the largest, as what
-// is cut never grows to infinity; infinity and NaN stay.
-inline float CutStrange(double value) {
-    const auto bits = std::bit_cast<std::uint64_t>(value);
-    const std::uint64_t size = bits & ~kSign64;
-    if (size >= kInfinity64) {
-        return static_cast<float>(value);
-    }
-    const std::uint32_t sign = static_cast<std::uint32_t>(bits >> 32) & 0x80000000U;
-    const bool small = size < (1023ULL - 126) << 52;
-    return std::bit_cast<float>(sign | (small ? 0U : 0x7F7FFFFFU));
-}
+// ToSingle of what is out of the range of normal singles: too small is zero; too large is the
+// largest, as what is cut never grows to infinity; infinity and NaN stay.
+float CutStrange(double value);
+// Sum where the double that it is formed in is one of the two.
+float SumOfUnlike(float a, float b);
 
 // A double cut to a single.
-inline float ToSingle(double value) {
+[[gnu::always_inline]] inline float ToSingle(double value) {
     const auto bits = std::bit_cast<std::uint64_t>(value);
     const auto size = static_cast<std::int64_t>((bits & ~kSign64) >> kDroppedBits) - kExponentShift;
     if (static_cast<std::uint64_t>(size - kLeastNormal) <
@@ -48,15 +41,11 @@ inline float ToSingle(double value) {
 
 // a + b. The sum of two singles is exact in double unless one of them is so small beside the other
 // that only its sign counts; what it takes away is then one unit.
-inline float Sum(float a, float b) {
+[[gnu::always_inline]] inline float Sum(float a, float b) {
     const double x = static_cast<double>(a), y = static_cast<double>(b);
     const double sum = x + y;
     if ((sum == x) | (sum == y)) [[unlikely]] {
-        const float small = sum == x ? b : a;
-        const bool finite = sum - sum == 0.0;
-        if (finite && ((small < 0.0F && sum > 0.0) || (small > 0.0F && sum < 0.0))) {
-            return ToSingle(std::bit_cast<double>(std::bit_cast<std::uint64_t>(sum) - 1));
-        }
+        return SumOfUnlike(a, b);
     }
     return ToSingle(sum);
 }

@@ -10,7 +10,7 @@ namespace ombrel {
 
 namespace {
 
-constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse", "avx2", "avx512", "neon"};
+constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse", "avx2", "avx512", "neon", "wasm"};
 
 #if defined(__x86_64__) || defined(__i386__)
 // Compilers answer in different types.
@@ -39,6 +39,7 @@ bool ProcessorRuns(VectorPath path) {
         return Yes(__builtin_cpu_supports("avx512f")) && Yes(__builtin_cpu_supports("avx512bw")) &&
                Yes(__builtin_cpu_supports("avx512dq")) && Yes(__builtin_cpu_supports("avx512vl"));
     case VectorPath::Neon:
+    case VectorPath::Wasm:
         break;
     }
     return false;

@@ -191,6 +191,8 @@ struct PlainPixels {
     // --- lanes: a block of pixels
 
     OMBREL_INLINE static Ints LaneNumbers() { return 0; }
+    // By bits that are the same in all lanes.
+    OMBREL_INLINE static Ints ShiftLeft(Ints a, std::int32_t bits) { return a << bits; }
     OMBREL_INLINE static Words Min(Words a, Words b) { return a < b ? a : b; }
     OMBREL_INLINE static Words Max(Words a, Words b) { return a < b ? b : a; }
     template <class Mask> OMBREL_INLINE static bool All(Mask mask) { return mask != 0; }

@@ -17,6 +17,9 @@ const RasterPath& RasterPathOf(VectorPath path) {
 #elif defined(OMBREL_NEON_LANES)
     case VectorPath::Neon:
         return kNeonPath;
+#elif defined(OMBREL_WASM_LANES)
+    case VectorPath::Wasm:
+        return kWasmPath;
 #endif
     default:
         return kPlainPath;

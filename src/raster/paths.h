@@ -31,6 +31,7 @@ extern const RasterPath kSse41Path;
 extern const RasterPath kAvx2Path;
 extern const RasterPath kAvx512Path;
 extern const RasterPath kNeonPath;
+extern const RasterPath kWasmPath;
 
 // What every path passes its strange triangles to (triangle.h), by FillerId.
 extern const Filler kCarefulFillers[kFillerCount];

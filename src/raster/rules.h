@@ -150,7 +150,7 @@ struct Affine : Fetched<Affine> {
     }
     template <class L>
     OMBREL_INLINE static Ints<L> IndexOf(const TexelMemory& memory, Ints<L> u, Ints<L> v, Ints<L>) {
-        return ((v >> 16) << memory.shift) + (u >> 16);
+        return L::ShiftLeft(v >> 16, memory.shift) + (u >> 16);
     }
 
 protected:
@@ -204,7 +204,7 @@ struct PerPixel : Perspective<PerPixel> { // in perspective at every pixel, whol
     OMBREL_INLINE static Ints<L> IndexOf(const TexelMemory& memory, Ints<L> u, Ints<L> v,
                                          Ints<L> depth) {
         const auto texel = L::DivChop(u << 6, v << 6, depth);
-        return (texel.b << memory.shift) + texel.a;
+        return L::ShiftLeft(texel.b, memory.shift) + texel.a;
     }
 };
 
@@ -214,7 +214,7 @@ struct Span : Perspective<Span> { // in perspective at both ends of a span, line
     }
     template <class L>
     OMBREL_INLINE static Ints<L> IndexOf(const TexelMemory& memory, Ints<L> u, Ints<L> v, Ints<L>) {
-        return ((v >> 22) << memory.shift) + (u >> 22);
+        return L::ShiftLeft(v >> 22, memory.shift) + (u >> 22);
     }
 };
 

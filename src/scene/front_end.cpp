@@ -20,6 +20,9 @@ const FrontEndKernels* FrontEndOf(VectorPath path) {
 #elif defined(OMBREL_NEON_KERNELS)
     case VectorPath::Neon:
         return &kNeonKernels;
+#elif defined(OMBREL_WASM_KERNELS)
+    case VectorPath::Wasm:
+        return &kWasmKernels;
 #endif
     default:
         return nullptr;

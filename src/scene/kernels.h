@@ -44,5 +44,6 @@ struct FrontEndKernels {
 extern const FrontEndKernels kSse41Kernels;
 extern const FrontEndKernels kAvx2Kernels;
 extern const FrontEndKernels kNeonKernels;
+extern const FrontEndKernels kWasmKernels;
 
 } // namespace ombrel

@@ -10,8 +10,8 @@
 namespace ombrel {
 namespace {
 
-constexpr VectorPath kPaths[] = {VectorPath::Scalar, VectorPath::Sse, VectorPath::Avx2,
-                                 VectorPath::Avx512, VectorPath::Neon};
+constexpr VectorPath kPaths[] = {VectorPath::Scalar, VectorPath::Sse,  VectorPath::Avx2,
+                                 VectorPath::Avx512, VectorPath::Neon, VectorPath::Wasm};
 static_assert(std::size(kPaths) == kVectorPathCount);
 
 // The best that is taken by default.
@@ -84,7 +84,7 @@ TEST(VectorPaths, AnUnknownWordIsNoRequest) {
 }
 
 TEST(VectorPaths, HaveTheNamesOfTheVariable) {
-    const char* names[] = {"scalar", "sse", "avx2", "avx512", "neon"};
+    const char* names[] = {"scalar", "sse", "avx2", "avx512", "neon", "wasm"};
     for (int i = 0; i < kVectorPathCount; ++i) {
         EXPECT_EQ(std::string(NameOf(kPaths[i])), names[i]);
     }
