@@ -9,7 +9,7 @@ target_link_libraries(ombrel PRIVATE ombrel_flags ombrel_app ombrel_player ombre
 # The stack is at the bottom, so that one that runs over ends the module instead of spoiling data.
 target_link_options(ombrel PRIVATE LINKER:--stack-first LINKER:-z,stack-size=1048576
                                    LINKER:--initial-memory=67108864 LINKER:--max-memory=419430400
-                                   LINKER:--gc-sections LINKER:--strip-debug)
+                                   LINKER:--gc-sections LINKER:--strip-all)
 
 # --- the page ------------------------------------------------------------------------------------
 set(page_folder ${CMAKE_BINARY_DIR}/../web)
@@ -23,3 +23,19 @@ add_custom_command(OUTPUT ${page_folder}/sw.js
           ${CMAKE_SOURCE_DIR}/docs/pictures/scene-one.png
   VERBATIM)
 add_custom_target(page ALL DEPENDS ${page_folder}/sw.js)
+
+# What the tests run in node: the loaders behind the fuzz targets, and the arithmetic.
+if(OMBREL_TESTS)
+  foreach(target bmp cob line_reader track)
+    add_executable(fuzz_${target} fuzz/fuzz_${target}.cpp fuzz/web_entry.cpp)
+    set_target_properties(fuzz_${target} PROPERTIES SUFFIX .wasm)
+    target_compile_definitions(fuzz_${target} PRIVATE OMBREL_SOURCE_DIR="")
+    target_link_libraries(fuzz_${target} PRIVATE ombrel_flags ombrel_demo ombrel_platform_web)
+    target_link_options(fuzz_${target} PRIVATE LINKER:--stack-first LINKER:-z,stack-size=1048576
+                                               LINKER:--max-memory=134217728)
+  endforeach()
+  add_executable(operations tests/web/core/operations.cpp)
+  set_target_properties(operations PROPERTIES SUFFIX .wasm)
+  target_link_libraries(operations PRIVATE ombrel_flags ombrel_base)
+  target_link_options(operations PRIVATE LINKER:--stack-first LINKER:-z,stack-size=1048576)
+endif()

@@ -44,7 +44,7 @@ void CheckMesh(const Mesh& mesh) {
 
 void LoadOnce(const std::string& path, std::uint32_t options, std::int32_t mipMode) {
     const std::int32_t before = materialBase;
-    const float scale[3] = {0.5F, 2.0F, 1000.0F};
+    const Single scale[3] = {0.5F, 2.0F, 1000.0F};
     Mesh mesh;
     const int result = loadObject(&mesh, path.c_str(), {scale, nullptr, options, mipMode});
     Require(result == 1 || materialBase == before);

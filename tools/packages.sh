@@ -5,7 +5,8 @@ PLAY_PACKAGES="g++ cmake ninja-build pkg-config libsdl2-dev libmp3lame-dev libpn
 # To run every test: other compilers, sanitizers, the Windows builds and what plays them.
 TEST_PACKAGES="$PLAY_PACKAGES python3 libgtest-dev libbenchmark-dev clang-14 libclang-rt-14-dev
  clang-format-14 clang-tidy-14 cppcheck g++-mingw-w64-x86-64 g++-mingw-w64-i686 wine wine64
- g++-aarch64-linux-gnu qemu-user-static
+ g++-aarch64-linux-gnu qemu-user-static wasi-libc libc++-14-dev-wasm32
+ libclang-rt-14-dev-wasm32 lld-14
  desktop-file-utils appstream lintian fakeroot dpkg-dev groff-base
  xvfb libxtst6 x11-utils weston openbox python3-numpy python3-pil fonts-dejavu-core fonts-paratype
  wasi-libc libc++-14-dev-wasm32 libc++abi-14-dev-wasm32 libclang-rt-14-dev-wasm32 lld-14

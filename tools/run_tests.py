@@ -74,6 +74,7 @@ def programs(names, sizes, build_name, suffix="", options="", emulator="", **env
 UNITS = [f"unit_{folder.name}" for folder in sorted((ROOT / "tests/unit").iterdir())
          if folder.is_dir()]
 CAPTURE = "larkfen-capture"
+WEB, IN_NODE = ("build web",), "node --no-warnings tests/web/core"
 RELEASE, WIN64, WIN32 = ("build release",), ("build win64",), ("build win32",)
 PAGE = ("build web", "what drives the browsers")
 FOR_SANITIZERS = {"ASAN_OPTIONS": "detect_leaks=1:strict_string_checks=1",
@@ -95,7 +96,7 @@ ARM64_UNITS = [f"unit_{name}" for name in ("base", "math", "assets", "scene", "r
 STEPS = [
     build("release", EVERY, options="-DOMBREL_TESTS=ON -DOMBREL_BENCH=ON"),
     build("win64", DEFAULT),
-    build("web", DEFAULT, folder="web-objects"),
+    build("web", DEFAULT, options="-DOMBREL_TESTS=ON", folder="web-objects"),
     build("sanitize", ALL),
     build("clang", ALL, CAPTURE),
     build("o0", ALL, CAPTURE),
@@ -164,6 +165,19 @@ STEPS = [
     frames("AVX-512 path", f"build/release/{CAPTURE}", ALL, RELEASE, RASTER_USE="avx512"),
     frames("clang", f"build/clang/{CAPTURE}", ALL, ("build clang",)),
     frames("g++ -O0", f"build/o0/{CAPTURE}", ALL, ("build o0",), first=400),
+
+    # WebAssembly, in node.
+    Step("WebAssembly: first frames", SHORT,
+         f"{IN_NODE}/frames.mjs --hold --frames 0:200 && {IN_NODE}/frames.mjs --hold --path scalar "
+         "--frames 0:40", WEB, tests=IS_ONE),
+    Step("WebAssembly: every frame", ALL, f"{IN_NODE}/frames.mjs --hold --path wasm", WEB,
+         tests=IS_ONE, limit=1800),
+    Step("WebAssembly: every frame, plain path", ALL, f"{IN_NODE}/frames.mjs --hold --path scalar",
+         WEB, tests=IS_ONE, limit=1800),
+    Step("WebAssembly: arithmetic", DEFAULT,
+         f"{IN_NODE}/operations.mjs build/release/operations build/web-objects/operations.wasm",
+         RELEASE + WEB),
+    Step("WebAssembly: inputs of the fuzz targets", DEFAULT, f"{IN_NODE}/fuzz.mjs build/web-objects", WEB),
 
     # 64-bit ARM, on an emulated processor.
     *programs(ARM64_UNITS, ALL, "arm64", " arm64", NOT_EMULATED, ON_ARM64,

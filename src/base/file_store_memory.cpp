@@ -25,7 +25,7 @@ std::vector<MemoryFile>& Files() {
     return *table;
 }
 
-constexpr std::string_view kFolder = "data/"; // that the names stand below, when none is set
+constexpr std::string_view kFolder = "data/"; // that the names stand below
 
 // The file of a path that FindStoredBelow returned.
 const MemoryFile* FileAt(std::string_view path) {
@@ -67,7 +67,8 @@ std::string FindStoredBelow(const std::string& root, const std::string& relative
             best = SameLetters(file.name, name) ? &file : best;
         }
     }
-    return best != nullptr ? root + "/" + best->name : std::string{};
+    (void)root; // the names stand below whatever folder is set
+    return best != nullptr ? std::string(kFolder) + best->name : std::string{};
 }
 
 std::FILE* OpenStored(const std::string& path) {

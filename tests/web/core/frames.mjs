@@ -1,11 +1,16 @@
-// Plays the production in node and prints a line a frame, `frame N hash HASH`; times on request.
-// Usage: frames.mjs [--path NAME] [--frames FROM:TO] [--time] [--module FILE]
-import {load, modulePath} from "./show.mjs";
+// Plays the production in node and prints a line a frame, `frame N hash HASH`. With --hold it holds
+// the frames to the stored ones instead, and with --time it prints how long they took.
+// Usage: frames.mjs [--path NAME] [--frames FROM:TO] [--hold | --time] [--module FILE]
+import {load, modulePath, root} from "./show.mjs";
+import {readFileSync} from "node:fs";
+import path from "node:path";
 import {parseArgs} from "node:util";
+import {gunzipSync} from "node:zlib";
 
 const {values} = parseArgs({options: {
     path: {type: "string", default: ""},
     frames: {type: "string", default: "0:100000"},
+    hold: {type: "boolean", default: false},
     time: {type: "boolean", default: false},
     module: {type: "string", default: modulePath},
 }});
@@ -35,6 +40,23 @@ for (let frame = from; frame < to; ++frame) {
     if (!values.time) {
         lines.push(`frame ${frame} hash ${show.pictureHash()}\n`);
     }
+}
+// The stored hashes of the frames asked for, as lines of ours.
+function stored() {
+    const text = gunzipSync(readFileSync(path.join(root, "tests/scenario/frames.txt.gz"))).toString();
+    return text.trimEnd().split("\n").slice(from, to).map(line => {
+        const words = line.split(" ");
+        return `frame ${words[1]} hash ${words.at(-1)}\n`;
+    });
+}
+if (values.hold) {
+    const wanted = stored();
+    const wrong = wanted.findIndex((line, i) => line !== lines[i]);
+    const good = wrong < 0 && wanted.length === lines.length && wanted.length > 0;
+    console.log(good ? `${wanted.length} frames as stored` :
+                wrong >= 0 ? `FAILED first difference: frame ${from + wrong}` :
+                `FAILED ${lines.length} frames, not ${wanted.length}`);
+    process.exit(good ? 0 : 1);
 }
 process.stdout.write(lines.join(""));
 if (values.time) {

@@ -6,7 +6,7 @@ import {fileURLToPath} from "node:url";
 import {WASI} from "node:wasi";
 
 export const root = path.resolve(path.dirname(fileURLToPath(import.meta.url)), "../../..");
-export const modulePath = path.join(root, "build/web/ombrel.wasm");
+export const modulePath = path.join(root, "build/web-objects/ombrel.wasm");
 
 // Names below the folder, with "/" between their parts.
 export function filesBelow(folder, prefix = "") {
