@@ -7,13 +7,11 @@ namespace cut {
 
 float CutStrange(double value) {
     const auto bits = std::bit_cast<std::uint64_t>(value);
-    const std::uint64_t size = bits & ~kSign64;
-    if (size >= kInfinity64) {
+    if ((bits & ~kSign64) >= kInfinity64) {
         return static_cast<float>(value);
     }
-    const std::uint32_t sign = static_cast<std::uint32_t>(bits >> 32) & 0x80000000U;
-    const bool small = size < (1023ULL - 126) << 52;
-    return std::bit_cast<float>(sign | (small ? 0U : 0x7F7FFFFFU));
+    return std::bit_cast<float>((static_cast<std::uint32_t>(bits >> 32) & 0x80000000U) |
+                                0x7F7FFFFFU);
 }
 
 float SumOfUnlike(float a, float b) {

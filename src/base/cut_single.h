@@ -21,22 +21,22 @@ inline constexpr std::int64_t kLeastNormal = 0x00800000; // bits of singles
 inline constexpr std::int64_t kInfinity = 0x7F800000;
 inline constexpr std::uint64_t kInfinity64 = 0x7FFULL << 52;
 
-// ToSingle of what is out of the range of normal singles: too small is zero; too large is the
-// largest, as what is cut never grows to infinity; infinity and NaN stay.
+// ToSingle of what is larger than all singles: the largest, as what is cut never grows to infinity;
+// infinity and NaN stay.
 float CutStrange(double value);
-// Sum where the double that it is formed in is one of the two.
+// Sum where the signs differ and the double that it is formed in is one of the two.
 float SumOfUnlike(float a, float b);
 
-// A double cut to a single.
+// A double cut to a single; what is too small is zero.
 [[gnu::always_inline]] inline float ToSingle(double value) {
     const auto bits = std::bit_cast<std::uint64_t>(value);
     const auto size = static_cast<std::int64_t>((bits & ~kSign64) >> kDroppedBits) - kExponentShift;
-    if (static_cast<std::uint64_t>(size - kLeastNormal) <
-        static_cast<std::uint64_t>(kInfinity - kLeastNormal)) [[likely]] {
-        const std::uint32_t sign = static_cast<std::uint32_t>(bits >> 32) & 0x80000000U;
-        return std::bit_cast<float>(sign | static_cast<std::uint32_t>(size));
+    const std::uint32_t sign = static_cast<std::uint32_t>(bits >> 32) & 0x80000000U;
+    if (size >= kInfinity) [[unlikely]] {
+        return CutStrange(value);
     }
-    return CutStrange(value);
+    return std::bit_cast<float>(sign |
+                                (size < kLeastNormal ? 0U : static_cast<std::uint32_t>(size)));
 }
 
 // a + b. The sum of two singles is exact in double unless one of them is so small beside the other
@@ -44,7 +44,7 @@ float SumOfUnlike(float a, float b);
 [[gnu::always_inline]] inline float Sum(float a, float b) {
     const double x = static_cast<double>(a), y = static_cast<double>(b);
     const double sum = x + y;
-    if ((sum == x) | (sum == y)) [[unlikely]] {
+    if (((sum == x) | (sum == y)) && x * y < 0.0) [[unlikely]] {
         return SumOfUnlike(a, b);
     }
     return ToSingle(sum);
