@@ -10,7 +10,8 @@ namespace ombrel {
 
 namespace {
 
-constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse", "avx2", "avx512", "neon", "wasm"};
+constexpr const char* kNames[kVectorPathCount] = {"scalar", "sse",  "avx2",
+                                                  "avx512", "neon", "wasm"};
 
 #if defined(__x86_64__) || defined(__i386__)
 // Compilers answer in different types.

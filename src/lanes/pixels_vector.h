@@ -87,11 +87,11 @@ template <class L, int lanes> struct VectorPixels {
         std::memcpy(to, &all, 2 * sizeof *to);
     }
     OMBREL_INLINE static void LoadPairs(const Single* const (&from)[3], Floats (&to)[2]) {
-        const auto pair = [](const Single* two) {
-            return Floats{static_cast<float>(two[0]), static_cast<float>(two[1]), 0, 0};
-        };
-        to[0] = __builtin_shufflevector(pair(from[0]), pair(from[1]), 0, 1, 4, 5);
-        to[1] = pair(from[2]);
+        using One = float; // the same where there are lanes of the processor's own
+        const Floats a = {One(from[0][0]), One(from[0][1]), 0, 0},
+                     b = {One(from[1][0]), One(from[1][1]), 0, 0};
+        to[0] = __builtin_shufflevector(a, b, 0, 1, 4, 5);
+        to[1] = Floats{One(from[2][0]), One(from[2][1]), 0, 0};
     }
     template <int k0, int k1, int k2, int k3> OMBREL_INLINE static Quad Shuffle(Quad a, Quad b) {
         return __builtin_shufflevector(a, b, k0, k1, k2 + 4, k3 + 4);
@@ -184,8 +184,9 @@ template <class L, int lanes> struct VectorPixels {
         const Words fu = (Words)(u >> 8) & 255, fv = (Words)(v >> 8) & 255;
         const Words across = isLast ? Words{} + (256U << 16) : (256 - fu) | fu << 16;
         const Words down = (256 - fv) | fv << 16;
-        const Words upper = L::FetchTexelPairs(memory.texels, L::ShiftLeft(y0, memory.shift) + x0 + isLast);
-        const Words lower = L::FetchTexelPairs(memory.texels, L::ShiftLeft(y1, memory.shift) + x0 + isLast);
+        const Ints row0 = L::ShiftLeft(y0, memory.shift), row1 = L::ShiftLeft(y1, memory.shift);
+        const Words upper = L::FetchTexelPairs(memory.texels, row0 + x0 + isLast);
+        const Words lower = L::FetchTexelPairs(memory.texels, row1 + x0 + isLast);
         const Words red = Mix(ShiftHalves(upper, 11), ShiftHalves(lower, 11), across, down);
         const Words green = Mix(ShiftHalves(upper, 5) & 0x003F003F,
                                 ShiftHalves(lower, 5) & 0x003F003F, across, down);
