@@ -5,6 +5,8 @@ import { pixelAt } from "./keys.js";
 import { chapterOf, timeText } from "./moment.js";
 import { HEIGHT, WIDTH } from "./player.js";
 
+const DARK = 60; // frames
+
 export class Walk {
     // does.open: loads and opens the player, true when that went well; does.ready: the
     // first view is as it was.
@@ -61,7 +63,8 @@ export class Walk {
         this.active = true;
         this.player.use("walk");
         this.setLook(this.look);
-        this.goTo(this.player.frame > 0 ? this.player.frame : this.frame);
+        // Where the show was left, unless that is in the dark of its beginning.
+        this.goTo(this.player.frame > DARK ? this.player.frame : this.frame);
     }
 
     make() {

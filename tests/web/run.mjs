@@ -451,7 +451,14 @@ function casesOf(browser, name, server) {
             await page.key("z");
             await until("the whole window", async () => (await box())[3] === 800, 10);
             await page.key("f");
-            await until("full screen", () => page.get(() => document.fullscreenElement?.id === "stage"), 20);
+            await until("full screen", () => page.get(() => document.fullscreenElement?.id === "stage"), 10)
+                .catch(async (fault) => {
+                    // Given to those who act; keys and clicks that Firefox is sent do not always count.
+                    if (name === "firefox" && /gives no full screen/.test(await page.text("#note"))) {
+                        throw new Skip("Firefox refused full screen to the script that drives it, and the page said so");
+                    }
+                    throw fault;
+                });
             await page.key("f");
             await until("no full screen", () => page.get(() => document.fullscreenElement === null), 20);
             same(await page.shown("#stage"), true, "the stage behind F");
