@@ -28,7 +28,8 @@ ombrel_program(larkfen-capture tools/capture.cpp ombrel_app ombrel_player ombrel
                ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-gallery tools/gallery.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
 ombrel_program(larkfen-inspect tools/inspect.cpp ombrel_app ombrel_demo ombrel_platform_offscreen PNG::PNG)
-# The recorder of the archives, which needs nothing but the C library and so writes no PNG files.
+# The recorder of the archives, which needs nothing but the C library and so stores its PNG files as
+# they are.
 file(GLOB capture_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/larkfen-capture/*.cpp)
 add_executable(larkfen-hashes tools/capture.cpp ${capture_sources})
 target_compile_definitions(larkfen-hashes PRIVATE OMBREL_WITHOUT_PNG)
@@ -38,9 +39,15 @@ if(NOT OMBREL_SANITIZE)
   target_link_options(larkfen-hashes PRIVATE -static-libstdc++ -static-libgcc LINKER:--gc-sections)
 endif()
 # The player draws off screen and shows the pictures itself: of the SDL2 back end it takes the table of
-# calls and the decoder. The inspector tells it what is wrong with a file.
+# calls and the decoder. The inspector tells it what is wrong with a file. Like the production it needs
+# nothing but the C library.
 ombrel_program(larkfen-player tools/player.cpp ombrel_app ombrel_player ombrel_demo
-               ombrel_platform_offscreen PNG::PNG ${MP3_LIBRARY} ${CMAKE_DL_LIBS} m)
+               ombrel_platform_offscreen ${MP3_LIBRARY} ${CMAKE_DL_LIBS} m)
+target_compile_definitions(larkfen-player PRIVATE OMBREL_WITHOUT_PNG)
+if(NOT OMBREL_SANITIZE)
+  target_link_options(larkfen-player PRIVATE -static-libstdc++ -static-libgcc LINKER:--exclude-libs,ALL
+                                             LINKER:--gc-sections)
+endif()
 target_include_directories(larkfen-player PRIVATE tools)
 target_include_directories(larkfen-player SYSTEM PRIVATE ${SDL2_INCLUDE_DIRS})
 foreach(source picture processor production)
@@ -84,6 +91,7 @@ include(cmake/install.cmake)
 
 # --- the release: cmake --build --preset package makes the three archives in build/package/ ---------
 add_custom_target(packages COMMAND ${CMAKE_SOURCE_DIR}/tools/package.py DEPENDS larkfen larkfen-hashes
+                                                                          larkfen-player release_files
                   USES_TERMINAL
                   VERBATIM)
 

@@ -301,6 +301,35 @@ def refusal_tests(desk):
           (code, said))
 
 
+def recorder_tests(desk):
+    """larkfen-capture --look draws what the player shows."""
+    def record(*more):
+        out = desk.work / "recorded"
+        shutil.rmtree(out, ignore_errors=True)
+        done = subprocess.run([desk.build / "larkfen-capture", "--data", ROOT / "data", "--png", out,
+                               *more], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                              timeout=SLOW, check=False)
+        pictures = {file.stem: numpy.array(Image.open(file).convert("RGB"))
+                    for file in sorted(out.glob("*.png"))}
+        return done.returncode, done.stdout, pictures
+
+    code, said, looks = record("--frames", f"{START - 4}:{START + 1}", "--every", "2", "--look",
+                               "depth")
+    check("the recorder records a look", code == 0 and list(looks) == [
+        f"frame-{frame:06d}" for frame in (START - 4, START - 2, START)], (code, said, list(looks)))
+    player = desk.paused(START, "--look", "depth")
+    saved = player.save()
+    player.press("Escape")
+    player.end()
+    check("the one that the player shows", saved and looks and
+          saved.pixels.tobytes() == looks[f"frame-{START:06d}"].tobytes())
+    for more, word in ((("--look", "rosy"), "rosy"), (("--look", "depth", "--verify"), "--verify"),
+                       (("--look", "depth", "--hashes", "-"), "--hashes"),
+                       (("--look", "depth", "--switch", "blur=1"), "--switch")):
+        code, said, _ = record("--frames", "0:1", *more)
+        check(f"{' '.join(more)} is refused", code == 2 and word in said, (code, said))
+
+
 def measure_tests(desk):
     """--timedemo: needs no display; what it prints adds up."""
     run = lambda *more: Player(desk.build, desk.work, None, "--data", ROOT / "data", "--timedemo",
@@ -458,7 +487,7 @@ def sound_tests(desk):
               (code, err))
 
 
-QUICK = [refusal_tests, measure_tests, moving_tests, panel_tests, bar_tests]
+QUICK = [refusal_tests, recorder_tests, measure_tests, moving_tests, panel_tests, bar_tests]
 REST = [loop_tests, look_tests, full_screen_tests, end_tests, watch_tests, sound_tests]
 
 
