@@ -2,7 +2,7 @@
 """Makes the release: ombrel-win32.zip, ombrel-win64.zip, ombrel-linux.tar.gz and
 ombrel-linux-arm64.tar.gz from built programs, each with one folder in it, and in that the production,
 its data, the recorder and the list of frame hashes that it compares with (larkfen-capture --verify);
-and ombrel-web.zip, the folder of the page.
+those for Linux hold the player and its manual page too; and ombrel-web.zip, the folder of the page.
 The same sources give the same bytes: order, times, owners and modes of the files are fixed here, and
 the programs are built without dates and without the place of the checkout."""
 import argparse
@@ -34,10 +34,11 @@ ARCHIVES = [
     ("ombrel-linux-arm64.tar.gz", "arm64",   "",     "aarch64-linux-gnu-strip"),
 ]
 WEB_ARCHIVE = "ombrel-web.zip"
-# In the archive    | as the build calls it
+# In the archive    | as the build calls it | in which archives
 PROGRAMS = [
-    ("larkfen",         "larkfen"),
-    ("larkfen-capture", "larkfen-hashes"),
+    ("larkfen",         "larkfen",        ("windows", "linux")),
+    ("larkfen-capture", "larkfen-hashes", ("windows", "linux")),
+    ("larkfen-player",  "larkfen-player", ("linux",)),
 ]
 TEXTS = ["readme.txt", "file_id.diz", "ombrel.nfo"]
 LICENCES = {"windows": ["fonts.txt", "mingw-w64.txt"],
@@ -88,11 +89,25 @@ def stripped(program, strip):
     return content
 
 
+def system_of(preset):
+    return "windows" if preset.startswith("win") else "linux"
+
+
+def manual_page(build):
+    """Of the player; made by the build that runs here."""
+    page = build / "release/man/larkfen-player.1.gz"
+    if not page.exists():
+        raise Fault(f"{page} is not there; build it first")
+    return page.read_bytes()
+
+
 def files(preset, ending, strip, build):
     """[(name, content, executable)] of one archive, in the order of their names."""
-    system = "windows" if preset.startswith("win") else "linux"
+    system = system_of(preset)
     out = [(name + ending, stripped(build / preset / (target + ending), strip), True)
-           for name, target in PROGRAMS]
+           for name, target, systems in PROGRAMS if system in systems]
+    if system == "linux":
+        out.append(("larkfen-player.1.gz", manual_page(build), False))
     out += [(name, text(PARTS / name, system), False) for name in TEXTS]
     hashes = frame_hashes.hash_list(ROOT / "tests/scenario/frames.txt.gz", VERSION)
     out += [("licences/ombrel.txt", text(ROOT / "LICENSE", system), False),
@@ -156,7 +171,8 @@ def main():
             subprocess.run([ROOT / "tools/arm64_sysroot.sh"], check=True)
         for preset in () if options.no_build else ("win32", "win64", "arm64"):
             for command in (["--preset", preset], ["--build", f"build/{preset}", "--target",
-                                                   *(target for _, target in PROGRAMS)]):
+                                                   *(target for _, target, systems in PROGRAMS
+                                                     if system_of(preset) in systems)]):
                 subprocess.run(["cmake", *command], cwd=ROOT, check=True)
         if not options.no_build:
             subprocess.run(["cmake", "--workflow", "--preset", "web"], cwd=ROOT, check=True)

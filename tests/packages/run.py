@@ -38,7 +38,8 @@ def names(program, *licences):
     data = [line.split(" | ")[0] for line in (ROOT / "art/MANIFEST").read_text().splitlines()
             if line and not line.startswith("#")]
     recorder = program.replace("larkfen", "larkfen-capture")
-    return sorted([program, recorder, "readme.txt", "file_id.diz", "ombrel.nfo", "frame-hashes.txt",
+    player = ["larkfen-player", "larkfen-player.1.gz"] if program == "larkfen" else []
+    return sorted([program, recorder, *player, "readme.txt", "file_id.diz", "ombrel.nfo", "frame-hashes.txt",
                    "licences/ombrel.txt", "licences/fonts.txt", *(f"licences/{name}" for name in licences),
                    *(f"data/{name}" for name in data)])
 
@@ -95,7 +96,8 @@ def tar_contents(folder):
         got = [entry.name for entry in entries]
         expect(got == wanted, f"{archive} holds {got}")
         for entry in entries:
-            mode = 0o755 if entry.name.startswith("ombrel/larkfen") else 0o644
+            program = entry.name.startswith("ombrel/larkfen") and not entry.name.endswith(".gz")
+            mode = 0o755 if program else 0o644
             expect((entry.mtime, entry.mode, entry.uid, entry.gid, entry.uname, entry.gname) ==
                    (FIRST_OF_MAY, mode, 0, 0, "root", "root"), str(entry.get_info()))
 
@@ -165,7 +167,7 @@ def windows_programs(work):
 def linux_programs(work):
     """the Linux programs: no symbols, no path of the checkout, no library but the C library, and of
     that nothing is newer than the readme says"""
-    for name in PROGRAMS:
+    for name in (*PROGRAMS, "larkfen-player"):
         linux_program(work / TAR / "ombrel" / name, "X86-64", "ld-linux-x86-64.so.2")
         linux_program(work / TAR_ARM64 / "ombrel" / name, "AArch64", "ld-linux-aarch64.so.1")
 
@@ -203,6 +205,17 @@ def linux_verify(work, archive, *emulator):
                            "--frames", "0:12"], cwd="/", stdout=subprocess.PIPE, check=False)
     expect(done.returncode == 0 and done.stdout.startswith(b"12 of 12 frames as published ("),
            str(done))
+
+
+def linux_player(work, archive, *emulator):
+    """a tar archive, unpacked: its player finds the data beside it and plays; its page is one"""
+    place = work / archive / "ombrel"
+    done = subprocess.run([*emulator, place / "larkfen-player", "--timedemo", "--to", "3"], cwd="/",
+                          stdout=subprocess.PIPE, check=False)
+    expect(done.returncode == 0 and b"\nscene one " in done.stdout, str(done))
+    page = gzip.decompress((place / "larkfen-player.1.gz").read_bytes()).decode("ascii")
+    expect(page.startswith(".TH LARKFEN\\-PLAYER 1") or page.startswith(".TH LARKFEN-PLAYER 1"),
+           page[:60])
 
 
 def win64_verify(desk, work):
@@ -332,6 +345,7 @@ def main():
     try:
         arm64 = (TAR_ARM64, "qemu-aarch64-static", "-L", build / "sysroot-arm64")
         results += run(((linux_verify, (work, TAR)), (linux_verify, (work, *arm64)),
+                        (linux_player, (work, TAR)), (linux_player, (work, *arm64)),
                         (win64_verify, (desk, work)), (linux_start, (desk, work, TAR)),
                         (linux_start, (desk, work, *arm64)), (empty_root, (work,)),
                         (sdl_root, (desk, work)), (win64_start, (desk, work))))
