@@ -143,7 +143,8 @@ def completion_tests(prefix, programs, work):
         check(f"{name} --ver<Tab>", got == want, got)
     for words, want in ((("--da",), ["--data"]), (("--data", "fo"), ["folder"]),
                         (("--data", "=", "fo"), ["folder"]), (("--hashes", "fi"), ["file.png"]),
-                        (("--png", "f"), ["folder"]), (("--scale", ""), [])):
+                        (("--png", "f"), ["folder"]), (("--scale", ""), []),
+                        (("--look", "dep"), ["depth"])):
         got = offered("larkfen-capture", *words)
         check(f"larkfen-capture {' '.join(words)}<Tab>", got == want, got)
     if "larkfen" in programs:
