@@ -92,8 +92,9 @@ function showProgress(read, size) {
 async function open() {
     byId("start").disabled = true;
     byId("start-text").textContent = "Loading";
-    player.prepare((read, size) => player.about || showProgress(read, size));
+    // (What was begun goes on behind a fault, and must not write over what is said of it.)
     let building = true;
+    player.prepare((read, size) => building && !player.about && showProgress(read, size));
     player.load.world.then(() => building && say("Building the world …"), () => {});
     try {
         await player.open();

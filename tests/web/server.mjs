@@ -1,5 +1,5 @@
 // Serves a folder on the loopback as a plain web server does, for the tests of the page; can be told
-// to lose a file, to cut it, or to send it slowly. By itself: node server.mjs FOLDER [PORT].
+// to lose a file, to cut it, or to hold the rest of it back. By itself: node server.mjs FOLDER [PORT].
 import { createReadStream, existsSync, statSync } from "node:fs";
 import { createServer } from "node:http";
 import path from "node:path";
@@ -18,7 +18,7 @@ export class Server {
         this.folder = folder;
         this.lost = new Set(); // names that answer 404
         this.cut = new Map(); // name: bytes that are sent of it
-        this.slow = new Map(); // name: bytes a second
+        this.held = new Map(); // name: bytes behind which it waits until the name is gone from here
         this.asked = []; // names, in order
     }
 
@@ -60,18 +60,17 @@ export class Server {
             response.end();
             return;
         }
-        const stream = createReadStream(file, { end: size - 1 });
-        const rate = this.slow.get(name);
-        if (rate) {
-            stream.on("data", (chunk) => {
-                stream.pause();
-                response.write(chunk);
-                setTimeout(() => stream.resume(), (chunk.length * 1000) / rate);
-            });
-            stream.on("end", () => response.end());
-        } else {
-            stream.pipe(response);
-        }
+        const stop = Math.min(this.held.get(name) ?? size, size);
+        const rest = () => {
+            if (this.held.has(name)) {
+                setTimeout(rest, 50);
+            } else if (stop < size) {
+                createReadStream(file, { start: stop, end: size - 1 }).pipe(response);
+            } else {
+                response.end();
+            }
+        };
+        createReadStream(file, { end: stop - 1 }).on("end", rest).pipe(response, { end: false });
     }
 }
 
