@@ -27,8 +27,8 @@ function native(name) {
     const text = run("build/release/larkfen-player",
                      ["--timedemo", "--json", "--data", "data", "--from", from, "--to", to - 1].map(String),
                      {RASTER_USE: name});
-    const all = JSON.parse(text).rows.find(row => row.name === "all");
-    return {mean: 1000 / all.framesPerSecond, slow: all.p99};
+    const all = JSON.parse(text).parts.find(part => part.first === from && part.last === to - 1);
+    return {mean: 1000 / all.frames_per_second, slow: all.p99_ms};
 }
 const forms = [
     ["WebAssembly, plain", () => inNode("scalar")],
