@@ -1,9 +1,6 @@
 """What the tests of the Linux programs share: counting, starting larkfen, finding its windows,
 pressing keys."""
-import os
 import pathlib
-import signal
-import subprocess
 import sys
 import time
 
@@ -12,7 +9,8 @@ import numpy
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 sys.path.insert(0, str(ROOT / "tests/desktop"))
 
-# pylint: disable=wrong-import-position
+# pylint: disable=wrong-import-position,unused-import
+from started import Count, Started, check
 from x11 import SLOW
 
 TITLE = "Ombrel - a fast prod from Quellant"
@@ -20,44 +18,11 @@ TITLE = "Ombrel - a fast prod from Quellant"
 CHOSEN = (0xE7, 0x48, 0x3C)  # the colour of the button that Return presses
 
 
-class Count:
-    """How many checks went well, and how many did not."""
-    passed = 0
-    failed = 0
-
-
-def check(name, good, told=""):
-    Count.passed += bool(good)
-    Count.failed += not good
-    print(f"{'ok    ' if good else 'FAILED'} {name}{': ' + str(told) if told != '' else ''}",
-          flush=True)
-
-
-class Program:
+class Program(Started):
     """larkfen started in a folder of its own, beside the data it shall find."""
 
     def __init__(self, folder, screen, *arguments, **environment):
-        env = {**os.environ, "SDL_AUDIODRIVER": "dummy"}
-        for name in ("DISPLAY", "WAYLAND_DISPLAY", "SDL_VIDEODRIVER"):
-            env.pop(name, None)
-        env.update(environment)
-        if screen:
-            env["DISPLAY"] = screen.name
-        self.process = subprocess.Popen([folder / "larkfen", *arguments], env=env, cwd="/",
-                                        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                        stderr=subprocess.PIPE, text=True,
-                                        start_new_session=True)
-
-    def end(self, seconds=SLOW):
-        """Its exit code and what it wrote; kills it, and whatever it started, when it does not end
-        by itself."""
-        try:
-            out, err = self.process.communicate(timeout=seconds)
-        except subprocess.TimeoutExpired:
-            os.killpg(self.process.pid, signal.SIGKILL)
-            out, err = self.process.communicate()
-            return "did not end", out, err
-        return self.process.returncode, out, err
+        super().__init__([folder / "larkfen", *arguments], "/", screen, **environment)
 
 
 def is_main(width, height):

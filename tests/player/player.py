@@ -1,11 +1,8 @@
 """larkfen-player in a window: starting it, pressing its keys, and what it says of itself. The key S is
 the witness: it saves the exact pixels under the number of the frame and the name of the look."""
 import gzip
-import os
 import pathlib
 import re
-import signal
-import subprocess
 import sys
 import time
 
@@ -15,24 +12,12 @@ from PIL import Image
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 sys.path.insert(0, str(ROOT / "tests/desktop"))
 
-# pylint: disable=wrong-import-position
+# pylint: disable=wrong-import-position,unused-import
+from started import Count, Started, check
 from x11 import SLOW
 
 TITLE = "Ombrel player"
 SAVED = re.compile(r"ombrel-(\d{6})(?:-([a-z-]+))?\.png")
-
-
-class Count:
-    """How many checks went well, and how many did not."""
-    passed = 0
-    failed = 0
-
-
-def check(name, good, told=""):
-    Count.passed += bool(good)
-    Count.failed += not good
-    print(f"{'ok    ' if good else 'FAILED'} {name}{': ' + str(told) if told != '' else ''}",
-          flush=True)
 
 
 def stored_hashes():
@@ -65,22 +50,14 @@ class Saved:
         self.pixels = numpy.array(Image.open(path).convert("RGB"))
 
 
-class Player:
+class Player(Started):
     """A program that runs in a folder of its own."""
 
     def __init__(self, build, work, screen, *arguments, **environment):
-        env = {**os.environ, "SDL_AUDIODRIVER": "dummy"}
-        for name in ("DISPLAY", "WAYLAND_DISPLAY", "SDL_VIDEODRIVER"):
-            env.pop(name, None)
-        env.update(environment)
-        if screen:
-            env["DISPLAY"] = screen.name
         self.work, self.screen, self.window = work, screen, None
         for old in work.glob("ombrel-*.png"):
             old.unlink()
-        self.process = subprocess.Popen([build / "larkfen-player", *arguments], env=env, cwd=work,
-                                        stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                        stderr=subprocess.PIPE, text=True, start_new_session=True)
+        super().__init__([build / "larkfen-player", *arguments], work, screen, **environment)
 
     def opened(self):
         """Waits for the window and gives it the keys; its facts."""
@@ -133,13 +110,3 @@ class Player:
                 return picture
             time.sleep(0.05)
         return None
-
-    def end(self, seconds=SLOW):
-        """Its exit code and what it wrote; kills it when it does not end by itself."""
-        try:
-            out, err = self.process.communicate(timeout=seconds)
-        except subprocess.TimeoutExpired:
-            os.killpg(self.process.pid, signal.SIGKILL)
-            out, err = self.process.communicate()
-            return "did not end", out, err
-        return self.process.returncode, out, err
