@@ -29,14 +29,24 @@ export async function until(what, look, seconds = 60) {
     }
 }
 
+// What `act` comes to, or a failure when it takes longer than `limit` seconds: a browser that has
+// stopped answering must not stop the cases after it.
+function within(limit, act) {
+    let timer = null;
+    const late = new Promise((_, reject) => {
+        timer = setTimeout(() => reject(new Failure(`no end after ${limit} s, the limit of a case`)), limit * 1000);
+    });
+    return Promise.race([act(), late]).finally(() => clearTimeout(timer));
+}
+
 // cases: [[name, function]]. Returns how many failed; prints the lines.
-export async function run(cases, { only = "", prefix = "" } = {}) {
+export async function run(cases, { only = "", prefix = "", limit = 600 } = {}) {
     const counts = { passed: 0, failed: 0, skipped: 0 };
     for (const [name, act] of cases.filter(([name]) => new RegExp(only).test(name))) {
         const start = Date.now();
         let fault = null;
         try {
-            await act();
+            await within(limit, act);
         } catch (error) {
             fault = error;
         }
