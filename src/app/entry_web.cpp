@@ -13,7 +13,6 @@
 #include "app/frame_driver.h"
 #include "app/vector_choice.h"
 #include "base/data_file.h"
-#include "base/hash.h"
 #include "base/memory_files.h"
 #include "base/version.h"
 #include "platform/display.h"
@@ -165,14 +164,7 @@ OMBREL_EXPORT(ombrel_picture)()->const std::uint8_t* {
 }
 // 64 bits (BigInt of the script, to be taken without sign): the published hash of the frame.
 OMBREL_EXPORT(ombrel_picture_hash)()->std::uint64_t {
-    ombrel::LockFrame();
-    const ombrel::FrameBuffer back = ombrel::display.back;
-    const std::uint64_t hash =
-        back.pixels == nullptr ? 0
-                               : ombrel::HashPicture(back.pixels, back.pitch, ombrel::display.width,
-                                                     ombrel::display.height);
-    (void)ombrel::UnlockFrame();
-    return hash;
+    return ombrel::ShownHash();
 }
 
 // --- looks ---------------------------------------------------------------------------------------

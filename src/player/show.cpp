@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/hash.h"
 #include "base/shell_state.h"
 #include "demo/reset.h"
 #include "demo/startup.h"
@@ -24,6 +25,7 @@ struct ShowState {
     bool unseen; // the picture is none of the production's: a seek is under way
     std::int32_t distance;
     std::size_t memory, held;        // bytes of snapshots: allowed, held
+    PublishedPictures published;     // count 0: none, or not those of this data
     std::vector<Snapshot> snapshots; // number n: after n * distance frames; empty: not drawn yet
     Snapshot before;                 // before the shown frame
     UnseenSeek seek;
@@ -86,12 +88,21 @@ void ReturnToDrawn(std::int32_t played) {
     }
 }
 
+// Whether the shown frame has the picture that was published.
+bool IsPublished() {
+    const std::int32_t frame = ShownFrame();
+    return frame < show.published.count && ShownHash() == show.published.hashes[frame];
+}
+
 bool Step() {
     KeepSnapshot();
     show.before = TakeSnapshot();
     show.renderFrame();
     ++show.played;
     show.ended = TakeQuit();
+    if (show.played == 1 && !IsPublished()) {
+        show.published = {};
+    }
     return true;
 }
 
@@ -111,7 +122,7 @@ enum class Found { Yes, No, NotYet };
 // Winds on to the nearest start, and keeps the state of each.
 Found WindUnseen(const Asking& asking) {
     UnseenSeek* const seek = &show.seek;
-    const std::int32_t last = seek->wanted - kReaches[0];
+    const std::int32_t last = seek->wanted - kNearestReach;
     for (;;) {
         KeepStart(seek, show.played);
         if (show.played >= last) {
@@ -129,8 +140,8 @@ Found WindUnseen(const Asking& asking) {
     }
 }
 
-// Draws on from both pictures of a start until they are the same, one frame before the wanted one
-// at the latest.
+// Draws on from a start until the picture is the true one, one frame before the wanted one at the
+// latest.
 Found Settle(const Asking& asking) {
     UnseenSeek* const seek = &show.seek;
     constexpr std::int32_t kAtOnce = 8;
@@ -141,10 +152,10 @@ Found Settle(const Asking& asking) {
         const std::int32_t left = seek->wanted - 1 - show.played;
         const std::int32_t frames = std::min(left, left > kAtOnce ? kAtOnce : 1);
         bool failed = false;
-        const bool same = PlayBoth({seek, show.renderFrame}, frames, &failed);
+        const bool same = PlayHidden({seek, show.renderFrame}, frames, &failed);
         show.played += frames;
         failed = failed || TakeQuit();
-        if (same && !failed) {
+        if (!failed && (same || (seek->oneShow && IsPublished()))) {
             show.unseen = false;
             seek->settled = true;
             return Found::Yes;
@@ -165,14 +176,12 @@ void BeginSeek(std::int32_t wanted) {
     if (show.seek.wanted == wanted) {
         return;
     }
-    const std::int32_t first = wanted - kReaches[kReachCount - 1];
-    const std::int32_t at = LastHeld(std::max(first, 0));
-    if (show.played > std::max(first, 0) || show.played < at) {
+    show.seek = StartOfSeek(wanted, show.published.count > 0);
+    const std::int32_t first = FirstStart(show.seek);
+    const std::int32_t at = LastHeld(first);
+    if (show.played > first || show.played < at) {
         (void)Return(show.snapshots[static_cast<std::size_t>(at / show.distance)], at);
     }
-    show.seek = {};
-    show.seek.wanted = wanted;
-    show.seek.tried = -1;
 }
 
 // No: it has to be played from the nearest drawn frame.
@@ -197,6 +206,11 @@ Found FindUnseen(std::int32_t wanted, const Asking& asking) {
         seek->dark = {};
         seek->bright = {};
         ++seek->tried;
+    }
+    if (seek->oneShow) { // the hashes are not those of this frame: look for it without them
+        show.published = {};
+        show.seek = {};
+        return FindUnseen(wanted, asking);
     }
     return Found::No;
 }
@@ -226,6 +240,7 @@ bool OpenShow(const ShowSetup& setup) {
     show.renderFrame = setup.renderFrame;
     show.distance = setup.distance > 0 ? setup.distance : kSnapshotDistance;
     show.memory = setup.memory > 0 ? setup.memory : kSnapshotMemory;
+    show.published = setup.published;
     return display.backSurface != nullptr;
 }
 
@@ -254,6 +269,16 @@ std::int32_t ShownFrame() {
 
 bool ShowEnded() {
     return show.ended;
+}
+
+std::uint64_t ShownHash() {
+    LockFrame();
+    const FrameBuffer back = display.back;
+    const std::uint64_t hash = back.pixels == nullptr ? 0
+                                                      : HashPicture(back.pixels, back.pitch,
+                                                                    display.width, display.height);
+    (void)UnlockFrame();
+    return hash;
 }
 
 std::int32_t SeekShow(std::int32_t frame, KeepOn keepOn, void* user) {

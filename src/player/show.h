@@ -10,11 +10,18 @@
 
 namespace ombrel {
 
+// HashPicture of every frame of the production as it was published, in order. They make far seeks
+// shorter; where they are not those of the loaded data, far seeks do without.
+struct PublishedPictures {
+    const std::uint64_t* hashes; // as long as the show is open
+    std::int32_t count;
+};
 struct ShowSetup {
     int (*renderFrame)(); // the frame driver
     std::int32_t width, height;
     std::int32_t distance; // frames from one snapshot to the next; 0: kSnapshotDistance
     std::size_t memory;    // bytes of all snapshots at most; 0: kSnapshotMemory
+    PublishedPictures published = {};
 };
 inline constexpr std::int32_t kSnapshotDistance = 34; // the shipped show fits the memory
 inline constexpr std::size_t kSnapshotMemory = std::size_t{300} << 20;
@@ -28,6 +35,7 @@ void CloseShow(); // frees what was loaded; allowed when none is open
 bool StepShow();
 std::int32_t ShownFrame(); // the last one drawn; -1 before the first
 bool ShowEnded();
+std::uint64_t ShownHash(); // HashPicture of what is on the back surface; 0 where there is none
 
 // Goes to a frame, backwards or forwards, and returns the number of the one that is shown then: the
 // frame itself, or the last of the production. Negative numbers count as 0. Frames between are

@@ -1,4 +1,4 @@
-// A frame without a surface, and two shows side by side.
+// A frame without a surface, and shows that begin with a picture of their own.
 #include "player/unseen.h"
 
 #include <algorithm>
@@ -8,6 +8,7 @@
 #include "base/pixel16.h"
 #include "demo/world.h"
 #include "platform/display.h"
+#include "player/black_starts.h"
 #include "scene/front_end.h"
 
 namespace ombrel {
@@ -15,17 +16,6 @@ namespace ombrel {
 namespace {
 
 constexpr std::uint32_t kBlack = 0, kWhite = 0xFFFF;
-
-// Every corner is out of sight on the left, so that no face shows.
-void PlaceNowhere(const Vertex*, std::int32_t count, const Vec3&, const CameraView&,
-                  PlacedVertex* to) {
-    for (std::int32_t i = 0; i < count; ++i) {
-        to[i].outside = OUTSIDE_LEFT;
-    }
-}
-void LightNothing(LitPoints*, std::int32_t, const LightTable&, bool) {}
-
-constexpr FrontEndKernels kBlindKernels = {PlaceNowhere, LightNothing};
 
 // The state of the process, but with a picture of one colour.
 Snapshot TakeWith(std::uint32_t color) {
@@ -52,14 +42,32 @@ bool PlayOne(Snapshot* show, int (*renderFrame)(), std::int32_t frames) {
 
 } // namespace
 
+UnseenSeek StartOfSeek(std::int32_t wanted, bool oneShow) {
+    UnseenSeek seek = {};
+    seek.wanted = wanted;
+    seek.tried = -1;
+    seek.oneShow = oneShow;
+    // (The picture must be the true one of the frame before.)
+    const std::int32_t start = BlackStartOf(wanted - 2);
+    const std::int32_t reachesOfOne[kReachCount] = {kNearestReach, start > 0 ? wanted - start : 0};
+    const std::int32_t* const reaches = seek.oneShow ? reachesOfOne : kReachesOfTwo;
+    std::copy(reaches, reaches + kReachCount, seek.reaches);
+    return seek;
+}
+
+std::int32_t FirstStart(const UnseenSeek& seek) {
+    const std::int32_t* const end = seek.reaches + kReachCount;
+    return std::max(seek.wanted - *std::max_element(seek.reaches, end), 0);
+}
+
 void KeepStart(UnseenSeek* seek, std::int32_t played) {
     const std::int32_t left = seek->wanted - played;
     for (std::int32_t i = 0; i < kReachCount; ++i) {
-        if (left == kReaches[i]) {
+        if (left == seek->reaches[i]) {
             seek->starts[i] = {played, TakeSnapshot()};
         }
     }
-    const bool near = left < kReaches[kReachCount - 1] && left > kReaches[0];
+    const bool near = played > FirstStart(*seek) && left > kNearestReach;
     if (near && left % kSharpEvery == 0 && switches.blur != 1) {
         seek->starts[kReachCount] = {played, TakeSnapshot()};
     }
@@ -73,22 +81,22 @@ void SortStarts(UnseenSeek* seek) {
 
 void PlayUnseen(int (*renderFrame)()) {
     Surface* const surface = std::exchange(display.backSurface, nullptr);
-    const FrontEndKernels* const kernels = std::exchange(activeFrontEnd, &kBlindKernels);
+    const FrontEndKernels* const kernels = std::exchange(activeFrontEnd, &kBlindFrontEnd);
     renderFrame();
     display.backSurface = surface;
     activeFrontEnd = kernels;
 }
 
-bool PlayBoth(const BothShows& both, std::int32_t frames, bool* failed) {
-    UnseenSeek* const seek = both.seek;
+bool PlayHidden(const HiddenShows& shows, std::int32_t frames, bool* failed) {
+    UnseenSeek* const seek = shows.seek;
     if (seek->dark.bytes == nullptr) {
         *failed = !RestoreSnapshot(seek->starts[seek->tried].snapshot);
-        seek->bright = TakeWith(kWhite);
+        seek->bright = seek->oneShow ? Snapshot{} : TakeWith(kWhite);
         seek->dark = TakeWith(kBlack);
     }
-    *failed = *failed || !PlayOne(&seek->bright, both.renderFrame, frames) ||
-              !PlayOne(&seek->dark, both.renderFrame, frames);
-    return !*failed && SamePicture(seek->dark, seek->bright);
+    *failed = *failed || (!seek->oneShow && !PlayOne(&seek->bright, shows.renderFrame, frames)) ||
+              !PlayOne(&seek->dark, shows.renderFrame, frames);
+    return !*failed && !seek->oneShow && SamePicture(seek->dark, seek->bright);
 }
 
 } // namespace ombrel

@@ -2,7 +2,8 @@
 // without a back surface, where the production draws nothing; then two shows are drawn side by
 // side, from a black picture and from a white one. Once their pictures are the same, what was
 // before no longer matters: neither blending nor blur ever makes a channel darker where what is
-// below is brighter, so the true picture lies between the two. Caller: show.cpp.
+// below is brighter, so the true picture lies between the two. Where the hashes of the pictures are
+// known one show is enough: it is there once its picture has the hash. Caller: show.cpp.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +12,12 @@
 
 namespace ombrel {
 
-// How many frames before the wanted one the two shows begin; the next is tried when one fails. A
-// frame without blur hides all before it: behind the last of those nothing earlier is needed.
-inline constexpr std::int32_t kReaches[] = {3, 192, 704, 1600};
-inline constexpr std::int32_t kReachCount = sizeof kReaches / sizeof kReaches[0];
+// How many frames before the wanted one the shows begin, rising; the next is tried when one fails,
+// 0 is none. A frame without blur hides all before it: after the last of those nothing earlier is
+// needed.
+inline constexpr std::int32_t kReachCount = 4;
+inline constexpr std::int32_t kReachesOfTwo[kReachCount] = {3, 192, 704, 1600};
+inline constexpr std::int32_t kNearestReach = 3;
 inline constexpr std::int32_t kSharpEvery = 16; // frames from one start without blur to the next
 
 struct UnseenStart {
@@ -22,26 +25,33 @@ struct UnseenStart {
     Snapshot snapshot;   // empty: there is none
 };
 struct UnseenSeek {
-    std::int32_t wanted;                 // frames played when it ends; 0: none
+    std::int32_t wanted; // frames played when it ends; 0: none
+    bool oneShow;        // the hash of each picture is known
+    std::int32_t reaches[kReachCount];
     UnseenStart starts[kReachCount + 1]; // nearest first, once all are passed
     std::int32_t tried;                  // the start that is; -1: none yet
-    Snapshot dark, bright;               // the two shows; empty: not begun
-    bool settled;                        // they have met: what is left is played on
+    Snapshot dark, bright;               // the shows; empty: not begun
+    bool settled;                        // it is the true picture: what is left is played on
 };
 
-// Keeps the state after so many frames, when the two shows may start there.
+// A search for the frame after which so many are played.
+UnseenSeek StartOfSeek(std::int32_t wanted, bool oneShow);
+std::int32_t FirstStart(const UnseenSeek& seek); // after how many frames; not below 0
+
+// Keeps the state after so many frames, when the shows may start there.
 void KeepStart(UnseenSeek* seek, std::int32_t played);
 void SortStarts(UnseenSeek* seek); // once all are passed; the nearest is tried first
 
 // One frame of the production that draws nothing: all state moves on but for the picture.
 void PlayUnseen(int (*renderFrame)());
 
-// Draws both shows on by so many frames. True when their pictures are the same then: it is the
-// state of the process. Without memory there is no answer but false, and *failed is set.
-struct BothShows {
+// Draws the shows on by so many frames; the state of the process is the one that began black then.
+// True when there are two and their pictures are the same. Without memory there is no answer but
+// false, and *failed is set.
+struct HiddenShows {
     UnseenSeek* seek;
     int (*renderFrame)();
 };
-bool PlayBoth(const BothShows& both, std::int32_t frames, bool* failed);
+bool PlayHidden(const HiddenShows& shows, std::int32_t frames, bool* failed);
 
 } // namespace ombrel

@@ -235,6 +235,9 @@ int AddFused(FrontEnd* front, Mesh* mesh, bool reset) {
     if (reset) {
         mesh->state &= ~MESH_CULLED;
     }
+    if (front->kernels->placeVertices == nullptr) {
+        return 1;
+    }
     const bool known = mesh->vertexCount <= kMaxMeshVertices && mesh->faceCount <= kMaxMeshFaces;
     if (!IsMeshDrawable(*mesh) || !known) {
         if (reset) {

@@ -41,6 +41,9 @@ struct FrontEndKernels {
                         bool fiveBitGreen);
 };
 
+// Sees nothing: meshes are not even gone through, and the list stays empty.
+inline constexpr FrontEndKernels kBlindFrontEnd = {nullptr, nullptr};
+
 extern const FrontEndKernels kSse41Kernels;
 extern const FrontEndKernels kAvx2Kernels;
 extern const FrontEndKernels kNeonKernels;

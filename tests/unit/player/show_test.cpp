@@ -3,11 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <random>
 #include <vector>
 
 #include "demo/blur.h"
 #include "open_show.h"
+#include "player/black_starts.h"
 #include "player/chapters.h"
 #include "player/looks.h"
 #include "raster/blend_tables.h"
@@ -28,6 +30,17 @@ TEST(Chapters, AreInOrderAndEveryFrameHasOne) {
     EXPECT_EQ(ChapterOf(191), 0);
     EXPECT_EQ(ChapterOf(192), 1);
     EXPECT_EQ(ChapterOf(100000), kChapterCount - 1);
+}
+
+TEST(BlackStarts, RiseAndTheLastFittingOneIsTaken) {
+    for (std::size_t i = 1; i < std::size(kBlackStarts); ++i) {
+        EXPECT_LT(kBlackStarts[i - 1].start, kBlackStarts[i].start);
+        EXPECT_LT(kBlackStarts[i - 1].settled, kBlackStarts[i].settled);
+        EXPECT_EQ(BlackStartOf(kBlackStarts[i].settled - 1), kBlackStarts[i - 1].start);
+        EXPECT_EQ(BlackStartOf(kBlackStarts[i].settled), kBlackStarts[i].start);
+    }
+    EXPECT_EQ(BlackStartOf(0), 0);
+    EXPECT_EQ(BlackStartOf(kBlackStarts[0].settled - 1), 0);
 }
 
 TEST_F(Show, NothingIsShownBeforeTheFirstStep) {
@@ -104,6 +117,32 @@ TEST_F(Show, FarFramesHaveTheirBits) {
     ASSERT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0}));
     EXPECT_EQ(SeekShow(last + 2, nullptr, nullptr), last);
     EXPECT_TRUE(ShowEnded());
+}
+
+// The hashes make it shorter; wrong ones do no harm, whether the first is wrong or only a later
+// one.
+TEST_F(Show, FarFramesHaveTheirBitsWithHashesRightAndWrong) {
+    std::vector<std::uint64_t> played;
+    while (StepShow()) {
+        played.push_back(BackSurfaceHash());
+        ASSERT_EQ(ShownHash(), played.back());
+    }
+    const auto count = static_cast<std::int32_t>(played.size());
+    std::vector<std::uint64_t> onlyTheFirst(played.size(), 1);
+    onlyTheFirst[0] = played[0];
+    const std::vector<std::uint64_t> none(played.size(), 1);
+    const std::vector<std::uint64_t>* const lists[] = {&played, &onlyTheFirst, &none};
+    for (const auto* const hashes : lists) {
+        for (const std::int32_t frame : {0, count / 2, count - 2, count - 1}) {
+            ASSERT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0, {hashes->data(), count}}));
+            ASSERT_EQ(SeekShow(frame, nullptr, nullptr), frame);
+            ASSERT_EQ(ShownHash(), played[static_cast<std::size_t>(frame)]) << frame;
+        }
+    }
+    // A list that ends before the frame is no help, and no harm.
+    ASSERT_TRUE(OpenShow({RenderFrame, kWidth, kHeight, 0, 0, {played.data(), 1}}));
+    ASSERT_EQ(SeekShow(count - 2, nullptr, nullptr), count - 2);
+    EXPECT_EQ(ShownHash(), played[played.size() - 2]);
 }
 
 // What far seeks rest on: brighter below is never darker above.
