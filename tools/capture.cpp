@@ -289,7 +289,7 @@ std::string PrepareVerification(Recorder* recorder, std::int64_t whole) {
 std::string Prepare(Recorder* recorder, std::int64_t whole) {
     const Options& options = recorder->options;
     if (options.verify) {
-        const std::string problem = PrepareVerification(recorder, whole);
+        std::string problem = PrepareVerification(recorder, whole);
         if (!problem.empty()) {
             return problem;
         }
@@ -323,7 +323,14 @@ int PlayLooks(Recorder* recorder, std::int64_t whole) {
     const std::int64_t end = whole > 0 ? std::min(options.end, whole) : options.end;
     const std::int64_t every = recorder->video.open ? 1 : options.every;
     const ombrel::CommandLine line = ombrel::ParseCommandLine(options.production.c_str());
-    if (!ombrel::OpenShow({ombrel::RenderFrame, line.width, line.height, 0, 0})) {
+    const std::vector<std::uint64_t> published =
+        PublishedHashes(ombrel::DataFolder(), ombrel::ProgramFolder());
+    if (!ombrel::OpenShow({ombrel::RenderFrame,
+                           line.width,
+                           line.height,
+                           0,
+                           0,
+                           {published.data(), static_cast<std::int32_t>(published.size())}})) {
         Note(recorder, "the production could not be opened");
         return kFailed;
     }

@@ -1,11 +1,14 @@
 // Reading the list and keeping the score.
 #include "published.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cinttypes>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 namespace capture {
@@ -36,15 +39,21 @@ void SkipTo(Verification* verification, std::int64_t number) {
 
 // False for a line of another form.
 bool ParseLine(const char* line, PublishedFrame* frame) {
-    int end = 0;
-    if (std::sscanf(line, "frame %" SCNd64 " %n", &frame->number, &end) != 1 || end == 0) {
+    constexpr std::string_view kFrame = "frame ", kHash = "hash ";
+    constexpr std::size_t kDigits = 16;
+    std::string_view text = line;
+    const auto number = std::from_chars(line + std::min(kFrame.size(), text.size()),
+                                        line + text.size(), frame->number);
+    const std::size_t label = text.find(kHash);
+    if (!text.starts_with(kFrame) || number.ec != std::errc() || *number.ptr != ' ' ||
+        label == std::string_view::npos) {
         return false;
     }
-    const char* const hash = std::strstr(line + end, "hash ");
-    int digits = 0;
-    return hash != nullptr &&
-           std::sscanf(hash, "hash %16" SCNx64 "%n", &frame->hash, &digits) == 1 &&
-           digits == 5 + 16 && std::strspn(hash + digits, " \t\r\n") == std::strlen(hash + digits);
+    text.remove_prefix(label + kHash.size());
+    const char* const digits = text.data();
+    const auto hash = std::from_chars(digits, digits + text.size(), frame->hash, 16);
+    return hash.ec == std::errc() && hash.ptr == digits + kDigits &&
+           std::strspn(hash.ptr, " \t\r\n") == std::strlen(hash.ptr);
 }
 
 } // namespace
@@ -94,6 +103,22 @@ std::string ReadPublished(const std::string& path, std::int64_t first, std::int6
         problem = path + ": holds none of the frames asked for";
     }
     return problem;
+}
+
+std::vector<std::uint64_t> PublishedHashes(const std::string& dataFolder,
+                                           const std::string& programFolder) {
+    Verification list;
+    std::vector<std::uint64_t> hashes;
+    if (!ReadPublished(FindPublished(dataFolder, programFolder), 0, INT32_MAX, &list).empty()) {
+        return hashes;
+    }
+    for (const PublishedFrame& frame : list.frames) {
+        if (frame.number != static_cast<std::int64_t>(hashes.size())) {
+            return {};
+        }
+        hashes.push_back(frame.hash);
+    }
+    return hashes;
 }
 
 void CompareFrame(Verification* verification, std::int64_t number, std::uint64_t hash) {

@@ -33,6 +33,11 @@ std::string FindPublished(const std::string& dataFolder, const std::string& prog
 std::string ReadPublished(const std::string& path, std::int64_t first, std::int64_t end,
                           Verification* verification);
 
+// The hashes of all frames of the list that FindPublished finds, from frame 0 on; empty where there
+// is none, or it is broken or has gaps: for those that can do without.
+std::vector<std::uint64_t> PublishedHashes(const std::string& dataFolder,
+                                           const std::string& programFolder);
+
 // A frame was played. Frames that are not in the list do not count.
 void CompareFrame(Verification* verification, std::int64_t number, std::uint64_t hash);
 

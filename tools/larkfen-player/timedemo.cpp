@@ -10,10 +10,13 @@
 
 #include "app/frame_driver.h"
 #include "app/vector_choice.h"
+#include "base/data_file.h"
 #include "base/shell_state.h"
 #include "base/version.h"
 #include "larkfen-capture/processor.h"
+#include "larkfen-capture/published.h"
 #include "platform/display.h"
+#include "platform/system.h"
 #include "player/chapters.h"
 #include "player/show.h"
 
@@ -39,6 +42,8 @@ struct Running {
     Clock::time_point since;
 };
 constinit Running running = {};
+
+std::vector<std::uint64_t> published; // of the show that is open
 
 void BeginPart(ombrel::FramePart begins) {
     const Clock::time_point now = Clock::now();
@@ -171,7 +176,13 @@ void PrintJson(const TimeDemo& demo, const std::vector<Row>& rows) {
 bool OpenProduction() {
     constexpr std::int32_t kWidth = 640, kHeight = 480;
     ombrel::ChooseVectorPath(nullptr);
-    return ombrel::OpenShow({TimedRenderFrame, kWidth, kHeight, 0, 0});
+    published = capture::PublishedHashes(ombrel::DataFolder(), ombrel::ProgramFolder());
+    return ombrel::OpenShow({TimedRenderFrame,
+                             kWidth,
+                             kHeight,
+                             0,
+                             0,
+                             {published.data(), static_cast<std::int32_t>(published.size())}});
 }
 
 int TimedRenderFrame() {
