@@ -23,7 +23,7 @@ int Refuse(const std::string& why) {
 
 // Empty, or why there is nothing to play.
 std::string FindProduction(const player::Options& options) {
-    const std::string problem = capture::ChooseDataFolder(options.dataFolder);
+    std::string problem = capture::ChooseDataFolder(options.dataFolder);
     if (!problem.empty()) {
         return problem;
     }

@@ -44,7 +44,8 @@ float SumOfUnlike(float a, float b);
 [[gnu::always_inline]] inline float Sum(float a, float b) {
     const double x = static_cast<double>(a), y = static_cast<double>(b);
     const double sum = x + y;
-    if (((sum == x) | (sum == y)) && x * y < 0.0) [[unlikely]] {
+    const bool isOneOfThem = static_cast<int>(sum == x) + static_cast<int>(sum == y) != 0;
+    if (isOneOfThem && x * y < 0.0) [[unlikely]] {
         return SumOfUnlike(a, b);
     }
     return ToSingle(sum);

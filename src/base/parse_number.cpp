@@ -39,22 +39,22 @@ struct Text {
 
 } // namespace
 
-ScannedNumber ScanNumber(const char* start, const char* end) {
-    Text text{start, end};
-    text.SkipBlanks();
-    ScannedNumber number{text.at, nullptr, nullptr, false, false};
-    text.SkipOneOf('+', '-');
-    number.digits = text.SkipDigits();
-    if (text.SkipOneOf('.', '.')) {
-        number.digits = text.SkipDigits() || number.digits;
+ScannedNumber ScanNumber(const char* text, const char* end) {
+    Text rest{text, end};
+    rest.SkipBlanks();
+    ScannedNumber number{rest.at, nullptr, nullptr, false, false};
+    rest.SkipOneOf('+', '-');
+    number.digits = rest.SkipDigits();
+    if (rest.SkipOneOf('.', '.')) {
+        number.digits = rest.SkipDigits() || number.digits;
     }
-    number.mantissa = text.at;
+    number.mantissa = rest.at;
     number.complete = number.digits;
-    if (number.digits && text.SkipOneOf('e', 'E')) {
-        text.SkipOneOf('+', '-');
-        number.complete = text.SkipDigits();
+    if (number.digits && rest.SkipOneOf('e', 'E')) {
+        rest.SkipOneOf('+', '-');
+        number.complete = rest.SkipDigits();
     }
-    number.end = text.at;
+    number.end = rest.at;
     return number;
 }
 

@@ -10,6 +10,7 @@
 namespace ombrel {
 
 // clang-format off
+// NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init): of the states only the addresses
 const Scene kScenes[kSceneCount] = {
 //   started            start          step          gather          view            overlay
     {&sceneOne.started, StartSceneOne, StepSceneOne, GatherSceneOne, ViewOfSceneOne, OverlaySceneOne},

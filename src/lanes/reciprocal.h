@@ -21,17 +21,17 @@ OMBREL_INLINE std::int32_t DivChop(std::int32_t dividend, std::int32_t divisor) 
     return divisor == 0 ? 0 : static_cast<std::int32_t>(0U - static_cast<std::uint32_t>(dividend));
 }
 
-constexpr double kTraceAboveOne = 0x1.0000000001p0;
+inline constexpr double kTraceAboveOne = 0x1.0000000001p0;
 
 OMBREL_INLINE double ReciprocalOf(std::int32_t n) {
     return kTraceAboveOne / static_cast<double>(n);
 }
 // The same for the lengths of most spans and edges, without waiting for a division.
-constexpr std::int32_t kShortSpan = 128;
+inline constexpr std::int32_t kShortSpan = 128;
 struct ReciprocalTable {
     double of[kShortSpan];
 };
-constexpr ReciprocalTable kReciprocals = [] {
+inline constexpr ReciprocalTable kReciprocals = [] {
     ReciprocalTable table = {};
     for (std::int32_t n = 1; n < kShortSpan; ++n) {
         table.of[n] = kTraceAboveOne / n;

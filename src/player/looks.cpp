@@ -203,10 +203,10 @@ void ColorObjects(const Trace& trace, LookPicture* out) {
         [&](const TracedTriangle& t) {
             const std::int32_t owner = trace.owners[static_cast<std::size_t>(t.record)];
             const auto n = static_cast<std::size_t>(owner);
-            return owner < 0 || n >= names.size()
-                       ? owner
-                       : static_cast<std::int32_t>(std::find(names.begin(), names.end(), names[n]) -
-                                                   names.begin());
+            return n < names.size()
+                       ? static_cast<std::int32_t>(std::find(names.begin(), names.end(), names[n]) -
+                                                   names.begin())
+                       : owner;
         },
         [&](std::int32_t number) {
             const auto n = static_cast<std::size_t>(number);
@@ -360,7 +360,8 @@ ObjectAt FindObject(std::int32_t x, std::int32_t y) {
     if (x < 0 || y < 0 || x >= display.width || y >= display.height || !TraceFrame(&trace)) {
         return found;
     }
-    const std::int32_t shown = trace.shown[static_cast<std::size_t>(y * trace.width + x)];
+    const std::int32_t pixel = y * trace.width + x;
+    const std::int32_t shown = trace.shown[static_cast<std::size_t>(pixel)];
     if (shown < 0) {
         return found;
     }

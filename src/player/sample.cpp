@@ -68,15 +68,16 @@ void DrawBackdrop(LookPicture* out) {
     for (std::int32_t y = 0; y < kSampleHeight; ++y) {
         for (std::int32_t x = 0; x < kSampleWidth; ++x) {
             const bool band = (x + y) / kTile % 2 != 0;
-            out->pixels[static_cast<std::size_t>(y * kSampleWidth + x)] =
-                band ? Rgb(52, 66, 104) : Rgb(28, 36, 60);
+            const std::int32_t at = y * kSampleWidth + x;
+            out->pixels[static_cast<std::size_t>(at)] = band ? Rgb(52, 66, 104) : Rgb(28, 36, 60);
         }
     }
 }
 
 // 64ths of a texture as a texel of it.
 Single TexelAt(std::int32_t part, std::int32_t width) {
-    return static_cast<Single>(part * (width - 1) / 64);
+    const std::int32_t texel = part * (width - 1) / 64;
+    return static_cast<Single>(texel);
 }
 
 void DrawTriangle(FillerId filler, const Triangle& triangle, Texture* texture,

@@ -52,10 +52,11 @@ void ForEachPixel(Filler filler, ScreenPolygon polygon, const FillTarget& target
     const std::int32_t width = recording.trace->width;
     for (std::int32_t y = box.top; y < box.bottom; ++y) {
         for (std::int32_t x = box.left; x < box.right; ++x) {
-            Pixel16* const pixel = target.frame + y * width + x;
+            const std::int32_t at = y * width + x;
+            Pixel16* const pixel = target.frame + at;
             if (*pixel != 0) {
                 *pixel = 0;
-                note(static_cast<std::size_t>(y * width + x));
+                note(static_cast<std::size_t>(at));
             }
         }
     }

@@ -22,8 +22,8 @@ namespace ombrel {
 namespace {
 
 enum Attribute { kX, kDepth, kU, kV, kRed, kGreen, kBlue, kAttributeCount = 8 };
-constexpr std::uint32_t kColors = 1U << kRed | 1U << kGreen | 1U << kBlue;
-constexpr std::uint32_t kTexels = 1U << kU | 1U << kV;
+inline constexpr std::uint32_t kColors = 1U << kRed | 1U << kGreen | 1U << kBlue;
+inline constexpr std::uint32_t kTexels = 1U << kU | 1U << kV;
 
 template <class L> using Ints = typename L::Ints;
 template <class L> using Words = typename L::Words;

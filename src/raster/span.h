@@ -205,7 +205,7 @@ OMBREL_INLINE void DrawWholeBlocks(const Brush<L>& brush, const Row& row, Run<L>
     run->x = x;
 }
 
-[[maybe_unused, gnu::noinline]] void CopyPixels(Row from, Row to, std::int32_t count) {
+[[maybe_unused, gnu::noinline]] inline void CopyPixels(Row from, Row to, std::int32_t count) {
     for (std::int32_t i = 0; i < count; ++i) {
         to.frame[i] = from.frame[i];
         if (from.depth != nullptr) {

@@ -171,7 +171,7 @@ OMBREL_INLINE bool FillOrdinary(ScreenPolygon* polygon, const FillTarget& target
     return true;
 }
 
-constexpr Pixel16 kNoTexel = 0; // what a texture without texels shows
+inline constexpr Pixel16 kNoTexel = 0; // what a texture without texels shows
 
 // Draws any triangle that is not outside.
 template <class Ordinary> void FillCarefully(ScreenPolygon* polygon, const FillTarget& target) {

@@ -40,8 +40,8 @@ template <class Point> struct Edges {
 
 // Corner numbers from top to bottom; equal ones keep their order. Bits of the index: 1 stands above
 // 0, 2 above 1, 2 above 0.
-constexpr std::uint8_t kOrder[8][3] = {{0, 1, 2}, {1, 0, 2}, {0, 2, 1}, {1, 2, 0},
-                                       {0, 1, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
+inline constexpr std::uint8_t kOrder[8][3] = {{0, 1, 2}, {1, 0, 2}, {0, 2, 1}, {1, 2, 0},
+                                              {0, 1, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
 
 // x, y: of the three corners, in pixels.
 template <class L, bool mayWrap, class Point>

@@ -143,8 +143,8 @@ void ClipPolygons(FaceList* list, const Camera* camera, std::uint32_t testMask) 
         if ((OutsideBitsOf(v[0], view) & OutsideBitsOf(v[1], view) & OutsideBitsOf(v[2], view) &
              tested) != 0) {
             face->state |= FACE_OUTSIDE;
-        } else if (!IsInGuardBand(v[0], view) || !IsInGuardBand(v[1], view) ||
-                   !IsInGuardBand(v[2], view)) {
+        } else if ((IsInGuardBand(v[0], view) & IsInGuardBand(v[1], view) &
+                    IsInGuardBand(v[2], view)) == 0) {
             CutFace(list, face, view, &room);
         }
     });

@@ -257,7 +257,7 @@ std::string JoinPieces(Video* video) {
         std::remove(video->part.c_str());
         return request.file + ": ffmpeg could not join the pieces of the video";
     }
-    const std::string problem = Rename(std::exchange(video->part, ""), request.file);
+    std::string problem = Rename(std::exchange(video->part, ""), request.file);
     if (problem.empty()) {
         std::error_code error;
         fs::remove_all(PiecesOf(*video), error);
@@ -301,7 +301,7 @@ std::string OpenVideo(const VideoRequest& request, Video* video) {
 std::string WriteVideo(Video* video, const std::vector<std::uint8_t>& rgb, std::uint64_t hash) {
     const bool pieces = video->request.resume;
     if (pieces && video->piece.empty()) {
-        const std::string problem = BeginPiece(video);
+        std::string problem = BeginPiece(video);
         if (!problem.empty()) {
             return problem;
         }

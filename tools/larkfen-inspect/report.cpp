@@ -17,7 +17,7 @@ constexpr std::int32_t kMostOfAKind = 100;
 // A text without its numbers and its pieces in quotes.
 std::string WordsOf(const std::string& text) {
     std::string words;
-    bool quoted = false;
+    bool quoted = false; // cppcheck-suppress variableScope; it lasts from one letter to the next
     for (const char c : text) {
         quoted = (c == '"') != quoted;
         if (!quoted && std::strchr("0123456789", c) == nullptr) {

@@ -300,7 +300,7 @@ void OnClick(Player* p, SDL_Point at) {
         DragTo(p, at.x);
         return;
     }
-    if (p->shown < 0 || p->place.w <= 0 || !SDL_PointInRect(&at, &p->place)) {
+    if (p->shown < 0 || p->place.w <= 0 || SDL_PointInRect(&at, &p->place) == SDL_FALSE) {
         return;
     }
     p->object = ombrel::FindObject((at.x - p->place.x) * p->picture.width / p->place.w,

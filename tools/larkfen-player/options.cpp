@@ -119,7 +119,7 @@ std::string ReadOptions(int argc, char** argv, Options* options) {
         }
         const std::string value =
             sign == std::string::npos ? std::string(argv[++i]) : argument.substr(sign + 1);
-        const std::string problem = ReadOption(name, value, options);
+        std::string problem = ReadOption(name, value, options);
         if (!problem.empty()) {
             return problem;
         }

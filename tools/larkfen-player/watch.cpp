@@ -75,7 +75,7 @@ std::string JudgeChanges(const Watch& watch) {
     for (const auto& [name, mark] : watch.taken) {
         const auto old = watch.played.find(name);
         if (MayBeRead(name) && (old == watch.played.end() || !(old->second == mark))) {
-            const std::string problem = Judge(watch.folder, name);
+            std::string problem = Judge(watch.folder, name);
             if (!problem.empty()) {
                 return problem;
             }
@@ -97,7 +97,10 @@ std::string OpenWatch(Watch* watch, const std::string& folder) {
     for (const auto& [file, mark] : watch->played) {
         if (!CopyOne(*watch, file)) {
             CloseWatch(watch);
-            return "--watch: " + file + " could not be copied to " + name;
+            return std::string("--watch: ")
+                .append(file)
+                .append(" could not be copied to ")
+                .append(name);
         }
     }
     ombrel::SetDataFolder(watch->copy);
