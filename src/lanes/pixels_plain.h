@@ -260,8 +260,7 @@ struct PlainPixels {
     OMBREL_INLINE static Ints Bound(Ints index, std::int32_t last) {
         return Lesser(index > 0 ? index : 0, last);
     }
-    // The sum of two colours, each scaled by its blend table; channels are not clamped, but run
-    // over into the next one.
+    // A colour scaled by one of the two blend tables of a level.
     struct Weights {
         const Pixel16* over;  // the table of the source
         const Pixel16* under; // the table of what is there
@@ -269,8 +268,8 @@ struct PlainPixels {
     OMBREL_INLINE static Weights WeightsOf(std::uint32_t level, const Pixel16 (*tables)[65536]) {
         return {tables[level], tables[7 - level]};
     }
-    OMBREL_INLINE static Pixels Blend(const Weights& weights, Pixels source, Pixels there) {
-        return weights.under[there] + Pixels{weights.over[source & 0xFFFF]};
+    OMBREL_INLINE static Pixels Scale(const Pixel16* table, Pixels color) {
+        return table[color & 0xFFFF];
     }
     // The mean of four colours, each channel cut down. Red and blue stay in the low half of a word,
     // green goes to the high half, so that sums of four do not run into each other.

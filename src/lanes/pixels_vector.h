@@ -203,14 +203,11 @@ template <class L, int lanes> struct VectorPixels {
     OMBREL_INLINE static Weights WeightsOf(std::uint32_t level, const Pixel16 (*)[65536]) {
         return {kBlendFactors[level], kBlendFactors[7 - level]};
     }
-    OMBREL_INLINE static Pixels Blend(const Weights& weights, Pixels source, Pixels there) {
-        const Pixels over = AllPixels(weights.over), under = AllPixels(weights.under);
-        const Pixels red =
-            L::RoundedProducts(source >> 11, over) + L::RoundedProducts(there >> 11, under);
-        const Pixels green = L::RoundedProducts((source >> 5) & 63, over) +
-                             L::RoundedProducts((there >> 5) & 63, under);
-        const Pixels blue =
-            L::RoundedProducts(source & 31, over) + L::RoundedProducts(there & 31, under);
+    OMBREL_INLINE static Pixels Scale(std::uint32_t weight, Pixels color) {
+        const Pixels by = AllPixels(weight);
+        const Pixels red = L::RoundedProducts(color >> 11, by);
+        const Pixels green = L::RoundedProducts((color >> 5) & 63, by);
+        const Pixels blue = L::RoundedProducts(color & 31, by);
         return (red << 11) + (green << 5) + blue;
     }
     // low: the two lowest bits of each channel, of which four add up inside the channel. The

@@ -45,6 +45,7 @@ template <class L> struct Brush {
     TexelMemory memory;
     std::uint32_t color; // colour 0
     typename L::Weights weights;
+    Pixels<L> source; // of fillers of one colour, scaled
 };
 
 // The corners of a triangle, a number each in three of four.
@@ -231,15 +232,10 @@ struct Unlit { // the texel as it is
     }
 };
 
-struct Flat { // colour 0, or the texel times colour 0
+struct Flat { // colour 0 (Rules::kOneColor), or the texel times it
     static constexpr std::uint32_t kNeeds = 0;
     static constexpr std::int32_t kSpanStart = 0;
     template <class L> OMBREL_INLINE static void Fill(const Corners<L>&, Quad<L> (&)[8]) {}
-    template <class L, int parts>
-    OMBREL_INLINE static Pixels<L> Light(const Brush<L>& brush, Blank, Attributes<L>*,
-                                         const Attributes<L>&) {
-        return L::AllPixels(brush.color);
-    }
     // Channels stay in their places: 2^11 red x 2^11 red is 64 times the product, and so on.
     template <class L, int parts>
     OMBREL_INLINE static Pixels<L> Light(const Brush<L>& brush, Pixels<L> t, Attributes<L>*,
@@ -299,20 +295,30 @@ private:
 struct Set { // replaces the pixel
     static constexpr bool kMixes = false;
     template <class L> OMBREL_INLINE static void Prepare(std::uint32_t, Brush<L>*) {}
-    template <class L>
-    OMBREL_INLINE static Pixels<L> Write(const Brush<L>&, Pixels<L> source, Pixels<L>) {
+    // What of the source comes into the pixel, and the pixel of that.
+    template <class L> OMBREL_INLINE static Pixels<L> Scale(const Brush<L>&, Pixels<L> source) {
         return source;
+    }
+    template <class L>
+    OMBREL_INLINE static Pixels<L> Write(const Brush<L>&, Pixels<L> scaled, Pixels<L>) {
+        return scaled;
     }
 };
 
-struct Blend { // BlendTables[7 - level][pixel] + BlendTables[level][source]
+// BlendTables[7 - level][pixel] + BlendTables[level][source]; channels are not clamped, but run
+// over into the next one.
+struct Blend {
     static constexpr bool kMixes = true;
     template <class L> OMBREL_INLINE static void Prepare(std::uint32_t level, Brush<L>* brush) {
         brush->weights = L::WeightsOf(level, BlendTables);
     }
     template <class L>
-    OMBREL_INLINE static Pixels<L> Write(const Brush<L>& brush, Pixels<L> source, Pixels<L> there) {
-        return L::Blend(brush.weights, source, there);
+    OMBREL_INLINE static Pixels<L> Scale(const Brush<L>& brush, Pixels<L> source) {
+        return L::Scale(brush.weights.over, source);
+    }
+    template <class L>
+    OMBREL_INLINE static Pixels<L> Write(const Brush<L>& brush, Pixels<L> scaled, Pixels<L> there) {
+        return L::Scale(brush.weights.under, there) + scaled;
     }
 };
 
@@ -339,6 +345,7 @@ struct Rules {
     static constexpr bool kHasDepth = Depth::kNeeds != 0;
     static constexpr bool kHasTexels = Texel::kNeeds != 0;
     static constexpr bool kBounds = Texel::kBounds; // texels, to the texture's memory
+    static constexpr bool kOneColor = !kHasTexels && Light::kNeeds == 0; // of a whole triangle
     static constexpr std::int32_t kClosed = EdgeRule::kClosed;
     static constexpr bool kAlwaysClips = kClosed != 0;
     static constexpr bool kMayWrap = false; // differences of coordinates

@@ -126,6 +126,18 @@ OMBREL_INLINE auto TexelsOf(const Brush<L>& brush, Attributes<L>* at, const Attr
     }
 }
 
+// What of the colours of a block comes into the frame.
+template <class L, class R, int parts, class T>
+OMBREL_INLINE Pixels<L> SourceOf(const Brush<L>& brush, T texels, Attributes<L>* at,
+                                 const Attributes<L>& by) {
+    if constexpr (R::kOneColor) {
+        return brush.source;
+    } else {
+        return R::Write::template Scale<L>(
+            brush, R::Light::template Light<L, parts>(brush, texels, at, by));
+    }
+}
+
 template <class L, class R, int parts, int i>
 OMBREL_INLINE void StorePart(const Row& row, const DepthTest<L, parts>& test, Pixels<L> keep,
                              const Live<L>& live) {
@@ -149,7 +161,7 @@ OMBREL_INLINE void DrawBlock(const Brush<L>& brush, Row row, Attributes<L>* at,
     constexpr bool single = L::kLanes == 1, keyed = R::Texel::kKeyed;
     constexpr bool always = single || (parts == L::kParts && !R::Depth::kTests && !keyed);
     const auto texels = TexelsOf<L, R, parts>(brush, at, by, test.depth, live);
-    Pixels<L> pixels = R::Light::template Light<L, parts>(brush, texels, at, by);
+    Pixels<L> pixels = SourceOf<L, R, parts>(brush, texels, at, by);
     Pixels<L> keep = always ? Pixels<L>{} : L::Join(test.keep[0], test.keep[parts - 1]);
     if constexpr (keyed) {
         keep |= (Pixels<L>)(texels == 0);

@@ -70,6 +70,9 @@ OMBREL_INLINE Brush<L> MakeBrush(const ScreenPolygon& polygon, std::uint32_t lev
         brush.memory = MemoryOf(*polygon.texture.single);
     }
     R::Write::template Prepare<L>(level, &brush);
+    if constexpr (R::kOneColor) {
+        brush.source = R::Write::template Scale<L>(brush, L::AllPixels(brush.color));
+    }
     return brush;
 }
 

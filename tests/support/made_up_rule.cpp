@@ -12,9 +12,8 @@ namespace ombrel {
 namespace {
 
 // Says all that there is to say about it; src/ does not know it.
-struct ExclusiveOr {
+struct ExclusiveOr : Set {
     static constexpr bool kMixes = true;
-    template <class L> OMBREL_INLINE static void Prepare(std::uint32_t, Brush<L>*) {}
     template <class L>
     OMBREL_INLINE static Pixels<L> Write(const Brush<L>&, Pixels<L> source, Pixels<L> there) {
         return source ^ there;
