@@ -144,15 +144,14 @@ Found WindUnseen(const Asking& asking) {
 // latest.
 Found Settle(const Asking& asking) {
     UnseenSeek* const seek = &show.seek;
-    constexpr std::int32_t kAtOnce = 8;
     if (seek->dark.bytes == nullptr) {
         show.played = seek->starts[seek->tried].played;
     }
     while (show.played < seek->wanted - 1) {
         const std::int32_t left = seek->wanted - 1 - show.played;
-        const std::int32_t frames = std::min(left, left > kAtOnce ? kAtOnce : 1);
+        const std::int32_t frames = std::min(left, left > kHiddenAtOnce ? kHiddenAtOnce : 1);
         bool failed = false;
-        const bool same = PlayHidden({seek, show.renderFrame}, frames, &failed);
+        const bool same = PlayHidden({seek, show.renderFrame, show.played}, frames, &failed);
         show.played += frames;
         failed = failed || TakeQuit();
         if (!failed && (same || (seek->oneShow && IsPublished()))) {

@@ -29,12 +29,17 @@ bool SamePicture(const Snapshot& a, const Snapshot& b) {
            std::memcmp(a.bytes.get() + a.size - size, b.bytes.get() + b.size - size, size) == 0;
 }
 
-bool PlayOne(Snapshot* show, int (*renderFrame)(), std::int32_t frames) {
+bool PlayOne(Snapshot* show, const HiddenShows& shows, std::int32_t frames) {
     if (!RestoreSnapshot(*show)) {
         return false;
     }
+    const std::int32_t every = shows.played < shows.seek->dense ? kSparse : 1;
     for (std::int32_t i = 0; i < frames; ++i) {
-        renderFrame();
+        if (i % every == 0) {
+            shows.renderFrame();
+        } else {
+            PlayUnseen(shows.renderFrame);
+        }
     }
     *show = TakeSnapshot();
     return show->bytes != nullptr;
@@ -48,8 +53,10 @@ UnseenSeek StartOfSeek(std::int32_t wanted, bool oneShow) {
     seek.tried = -1;
     seek.oneShow = oneShow;
     // (The picture must be the true one of the frame before.)
-    const std::int32_t start = BlackStartOf(wanted - 2);
-    const std::int32_t reachesOfOne[kReachCount] = {kNearestReach, start > 0 ? wanted - start : 0};
+    const BlackStart& row = BlackStartOf(wanted - 2);
+    const std::int32_t reach = row.start > 0 ? wanted - row.start : 0;
+    const std::int32_t reachesOfOne[kReachCount] = {kNearestReach, reach};
+    seek.dense = seek.oneShow ? row.dense : 0;
     const std::int32_t* const reaches = seek.oneShow ? reachesOfOne : kReachesOfTwo;
     std::copy(reaches, reaches + kReachCount, seek.reaches);
     return seek;
@@ -94,8 +101,8 @@ bool PlayHidden(const HiddenShows& shows, std::int32_t frames, bool* failed) {
         seek->bright = seek->oneShow ? Snapshot{} : TakeWith(kWhite);
         seek->dark = TakeWith(kBlack);
     }
-    *failed = *failed || (!seek->oneShow && !PlayOne(&seek->bright, shows.renderFrame, frames)) ||
-              !PlayOne(&seek->dark, shows.renderFrame, frames);
+    *failed = *failed || (!seek->oneShow && !PlayOne(&seek->bright, shows, frames)) ||
+              !PlayOne(&seek->dark, shows, frames);
     return !*failed && !seek->oneShow && SamePicture(seek->dark, seek->bright);
 }
 

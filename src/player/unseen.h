@@ -28,6 +28,7 @@ struct UnseenSeek {
     std::int32_t wanted; // frames played when it ends; 0: none
     bool oneShow;        // the hash of each picture is known
     std::int32_t reaches[kReachCount];
+    std::int32_t dense; // frames played until which the one show is drawn now and then only
     UnseenStart starts[kReachCount + 1]; // nearest first, once all are passed
     std::int32_t tried;                  // the start that is; -1: none yet
     Snapshot dark, bright;               // the shows; empty: not begun
@@ -45,13 +46,15 @@ void SortStarts(UnseenSeek* seek); // once all are passed; the nearest is tried 
 // One frame of the production that draws nothing: all state moves on but for the picture.
 void PlayUnseen(int (*renderFrame)());
 
-// Draws the shows on by so many frames; the state of the process is the one that began black then.
-// True when there are two and their pictures are the same. Without memory there is no answer but
-// false, and *failed is set.
+// Draws the shows on by so many frames, at most kHiddenAtOnce, from `played` on; the state of the
+// process is the one that began black then. True when there are two and their pictures are the
+// same. Without memory there is no answer but false, and *failed is set.
 struct HiddenShows {
     UnseenSeek* seek;
     int (*renderFrame)();
+    std::int32_t played;
 };
+inline constexpr std::int32_t kHiddenAtOnce = 8;
 bool PlayHidden(const HiddenShows& shows, std::int32_t frames, bool* failed);
 
 } // namespace ombrel

@@ -12,6 +12,7 @@
 #include "player/black_starts.h"
 #include "player/chapters.h"
 #include "player/looks.h"
+#include "player/unseen.h"
 #include "raster/blend_tables.h"
 
 #include "support/back_surface.h"
@@ -34,13 +35,16 @@ TEST(Chapters, AreInOrderAndEveryFrameHasOne) {
 
 TEST(BlackStarts, RiseAndTheLastFittingOneIsTaken) {
     for (std::size_t i = 1; i < std::size(kBlackStarts); ++i) {
-        EXPECT_LT(kBlackStarts[i - 1].start, kBlackStarts[i].start);
-        EXPECT_LT(kBlackStarts[i - 1].settled, kBlackStarts[i].settled);
-        EXPECT_EQ(BlackStartOf(kBlackStarts[i].settled - 1), kBlackStarts[i - 1].start);
-        EXPECT_EQ(BlackStartOf(kBlackStarts[i].settled), kBlackStarts[i].start);
+        const BlackStart& row = kBlackStarts[i];
+        EXPECT_LE(row.start, row.dense);
+        EXPECT_LE(row.dense, row.settled);
+        EXPECT_EQ((row.dense - row.start) % kHiddenAtOnce, 0);
+        EXPECT_LT(kBlackStarts[i - 1].settled, row.settled);
+        EXPECT_EQ(&BlackStartOf(row.settled - 1), &kBlackStarts[i - 1]);
+        EXPECT_EQ(&BlackStartOf(row.settled), &row);
     }
-    EXPECT_EQ(BlackStartOf(0), 0);
-    EXPECT_EQ(BlackStartOf(kBlackStarts[0].settled - 1), 0);
+    EXPECT_EQ(BlackStartOf(0).start, 0);
+    EXPECT_EQ(BlackStartOf(kBlackStarts[0].settled - 1).start, 0);
 }
 
 TEST_F(Show, NothingIsShownBeforeTheFirstStep) {
