@@ -70,9 +70,10 @@ endif()
 if(OMBREL_BENCH)
   find_package(benchmark REQUIRED)
   file(GLOB bench_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/bench/*.cpp)
-  add_executable(larkfen-bench EXCLUDE_FROM_ALL ${bench_sources})
-  target_link_libraries(larkfen-bench PRIVATE ombrel_flags ombrel_app ombrel_demo ombrel_platform_offscreen
-                                              benchmark::benchmark)
+  add_executable(larkfen-bench EXCLUDE_FROM_ALL ${bench_sources} tools/larkfen-capture/published.cpp)
+  target_include_directories(larkfen-bench PRIVATE tools)
+  target_link_libraries(larkfen-bench PRIVATE ombrel_flags ombrel_app ombrel_player ombrel_demo
+                                              ombrel_platform_offscreen benchmark::benchmark)
   # Other renderers on the same triangles, where their libraries are: ninja larkfen-peers.
   pkg_check_modules(ALLEGRO4 QUIET IMPORTED_TARGET allegro)
   pkg_check_modules(OSMESA QUIET IMPORTED_TARGET osmesa)
