@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace ombrel {
@@ -28,11 +30,13 @@ constexpr std::int32_t kRates[4] = {44100, 48000, 32000, 0}; // of version 1; ha
 void SayNothing(const char*, va_list) {}
 
 bool ReadWholeFile(Mp3Stream* stream, const char* path) {
-    std::FILE* const file = std::fopen(path, "rb");
+    // A device may never end, and a pipe that nobody writes to does not even open.
+    std::error_code error;
+    std::FILE* const file =
+        std::filesystem::is_regular_file(path, error) ? std::fopen(path, "rb") : nullptr;
     if (file == nullptr) {
         return false;
     }
-    // A device or a pipe has no size.
     const long size = std::fseek(file, 0, SEEK_END) == 0 ? std::ftell(file) : -1;
     if (size > 0 && static_cast<std::size_t>(size) <= kMaxFile) {
         std::rewind(file);

@@ -2,6 +2,7 @@
 #include "platform/sdl2/mp3_stream.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -75,6 +76,11 @@ TEST_F(Mp3StreamTest, AShortenedFilePlaysToItsEnd) {
     const std::string whole = Content(kSoundtrack);
     ASSERT_TRUE(Opens(whole.substr(0, 50000)));
     EXPECT_GT(Rest().size(), std::size_t{44100} * 2 * 3 / 2);
+}
+
+TEST_F(Mp3StreamTest, APipeThatNobodyWritesToIsNotWaitedFor) {
+    ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+    EXPECT_FALSE(OpenMp3(&stream_, path_.c_str()));
 }
 
 TEST_F(Mp3StreamTest, WhatIsNoMusicDoesNotOpen) {
