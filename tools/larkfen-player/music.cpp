@@ -99,7 +99,13 @@ void OpenMusic(Music* music, const std::string& path) {
     const ombrel::ScopedFloatMode usual(ombrel::FloatMode::Nearest);
     CloseMusic(music);
     auto state = std::make_shared<MusicState>();
-    if (path.empty() || !ombrel::OpenMp3(&state->stream, path.c_str())) {
+    if (path.empty()) {
+        std::fputs("larkfen-player: data/sfx/soundtrack.mp3 is missing; it is silent\n", stderr);
+        return;
+    }
+    if (!ombrel::OpenMp3(&state->stream, path.c_str())) {
+        std::fprintf(stderr, "larkfen-player: %s is no MP3 file that can be played; it is silent\n",
+                     path.c_str());
         return;
     }
     if (!OpenDevice(state.get())) {

@@ -12,8 +12,8 @@ struct Music {
     std::shared_ptr<MusicState> state; // null: none
 };
 
-// path empty: none. Opens the device at the first call, and says on standard error when there is
-// none.
+// path empty: none. Opens the device at the first call. Says on standard error when there is none,
+// and when the file is missing or broken.
 void OpenMusic(Music* music, const std::string& path);
 void CloseMusic(Music* music); // allowed when nothing is open
 
