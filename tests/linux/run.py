@@ -402,7 +402,10 @@ def video_tests(capture, data, work):
         time.sleep(0.1)
     begun = bool(list(work.glob("cut.mp4*")))
     run.send_signal(signal.SIGINT)
-    _, err = run.communicate(timeout=SLOW)
+    try:
+        _, err = run.communicate(timeout=SLOW)
+    finally:
+        run.kill()
     check("an interrupted video leaves no file", begun and run.returncode == 1
           and not list(work.glob("cut.mp4*")), err.strip())
 
@@ -418,6 +421,8 @@ def main():
             print("0 passed, 1 failed")
             return 1
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # what was started is ended
+    # What a shell runs in the background ignores SIGINT, and so would the programs started here.
+    signal.signal(signal.SIGINT, signal.default_int_handler)
     with tempfile.TemporaryDirectory(prefix="larkfen-") as name:
         work = pathlib.Path(name)
         # One copy of the program without data, for speed; one beside the whole.
