@@ -207,6 +207,19 @@ TEST_F(BrokenObject, ShortestVertexLinesAreNotRefused) {
     EXPECT_EQ(Load(file), 1);
 }
 
+// What was read before a load failed stays, though it were the end of the file that failed it.
+TEST_F(BrokenObject, VerticesUpToTheLastByteAreRead) {
+    CobFile file;
+    file.vertices.assign(200, "0 0 0");
+    const std::string whole = file.Text();
+    const std::string cut = whole.substr(0, whole.find("\nTexture Vertices"));
+    OwnedMesh mesh;
+    EXPECT_EQ(loadObject(&mesh, Write("3d/cut.cob", cut).c_str(), PlainRequest()), 0);
+    EXPECT_EQ(mesh.vertexCount, 200);
+    ASSERT_NE(mesh.vertices, nullptr);
+    EXPECT_NE(mesh.vertices[199].vflags & VERTEX_LOADED, 0U);
+}
+
 TEST_F(BrokenObject, CornersOutsideTheirArrays) {
     for (const char* const corners :
          {"<4,0> <1,1> <2,2>", "<0,0> <-1,1> <2,2>", "<0,0> <1,1> <2147483647,2>",

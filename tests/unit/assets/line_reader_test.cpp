@@ -280,6 +280,8 @@ TEST(ReplaceChars, CopiesAndCounts) {
     EXPECT_EQ(replaceChars("abcABC", out, "b", '.', 0), 2);
     EXPECT_STREQ(out, "a.cA.C");
     EXPECT_EQ(replaceChars("abcABC", out, "B", '.', 7), 2);
+    EXPECT_EQ(replaceChars("azAZ`{@[", out, "zA", '.', 0), 4) << "the first and the last letter";
+    EXPECT_STREQ(out, "....`{@[");
     EXPECT_EQ(replaceChars("aab", out, "aa", 'x', 1), 2) << "a character counts once";
     EXPECT_STREQ(out, "xxb");
 }

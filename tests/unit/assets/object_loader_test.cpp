@@ -718,6 +718,19 @@ TEST_F(ObjectLoader, MipModeOneBuildsAChain) {
     EXPECT_EQ(static_cast<const Pixel16*>(chain[1]->pixels)[0], 0x07E0);
 }
 
+// A hundredth brighter, half a step added, and cut: 49 becomes 49.99, 55 becomes 56.05.
+TEST_F(ObjectLoader, R26_LevelsGrowBrighterByAHundredth) {
+    CobFile file = Textured(8, 8);
+    for (const auto& [green, brighter] : {std::pair{49U, 49U}, {55U, 56U}}) {
+        Write("texture/wall.bmp", PlainBmp(8, 8, green << 10));
+        OwnedMesh mesh;
+        ASSERT_EQ(Load(&mesh, file, PlainRequest(0, 1)), 1);
+        Texture** const chain = mesh.texture.chain;
+        EXPECT_EQ(static_cast<const Pixel16*>(chain[0]->pixels)[0], green << 5);
+        EXPECT_EQ(static_cast<const Pixel16*>(chain[1]->pixels)[0], brighter << 5);
+    }
+}
+
 TEST_F(ObjectLoader, AnotherMipModeOnlyMarksTheFaces) {
     for (const std::int32_t mode : {2, -1}) {
         OwnedMesh mesh;

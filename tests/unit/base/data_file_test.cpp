@@ -131,6 +131,18 @@ TEST_F(DataFile, LineEndsAreNeverConverted) {
                                        "c");
 }
 
+TEST_F(DataFile, OfALongFileTheRestIsLeftOut) {
+    std::string text;
+    for (int i = 0; i < 20000; ++i) {
+        text += static_cast<char>('a' + i % 23);
+    }
+    Put("Data/long.txt", text);
+    EXPECT_EQ(ReadDataFile("./data/long.txt", 20000), text);
+    EXPECT_EQ(ReadDataFile("./data/long.txt", 4096), text.substr(0, 4096));
+    EXPECT_EQ(ReadDataFile("./data/long.txt", 4097), text.substr(0, 8192)) << "to the next 4096";
+    EXPECT_EQ(ReadDataFile("./data/none.txt", 4096), "");
+}
+
 TEST_F(DataFile, LongAndOddNamesAreJustNotThere) {
     EXPECT_EQ(FindDataFile(("./data/" + std::string(100000, 'n')).c_str()), "");
     EXPECT_EQ(FindDataFile("./data/\x01\xFF\xFE.bmp"), "");

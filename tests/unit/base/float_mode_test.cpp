@@ -54,6 +54,8 @@ TEST(FloatMode, SetAndRead) {
     EXPECT_EQ(CurrentFloatMode(), FloatMode::Chop);
     SetFloatMode(FloatMode::Nearest);
     EXPECT_EQ(CurrentFloatMode(), FloatMode::Nearest);
+    EXPECT_GT(denormal * 1.0e10F, 0.0F) << "nothing of the other mode stays";
+    EXPECT_EQ(one / three, 0x1.555556p-2F);
 }
 
 TEST(FloatMode, ScopesNest) {

@@ -125,6 +125,8 @@ TEST(ParseFloat, TooLargeAndTooSmall) {
     EXPECT_EQ(ParseFloat(("1" + std::string(400, '0') + "e-400").c_str(), nullptr), 1.0F);
     EXPECT_EQ(ParseFloat(("1" + std::string(100, '0') + "e-200").c_str(), nullptr), 0.0F);
     EXPECT_EQ(ParseFloat(("0." + std::string(100, '0') + "1e200").c_str(), nullptr), kInfinity);
+    EXPECT_EQ(ParseFloat(("0." + std::string(400, '0') + "1e100").c_str(), nullptr), 0.0F);
+    EXPECT_EQ(ParseFloat(("1." + std::string(400, '0') + "e-300").c_str(), nullptr), 0.0F);
 }
 
 TEST(ParseFloat, AgreesWithTheCLibrary) {

@@ -223,6 +223,19 @@ TEST_F(DisplayTest, FlipInAWindowIsACopy) {
     UnlockFrame();
 }
 
+TEST_F(DisplayTest, FlipInAWindowNeedsOneSurface) {
+    for (std::int32_t i = 1; i < kMaxSurfaces; ++i) {
+        ASSERT_NE(MakeOffscreenSurface(1, 1, SurfaceMemory::System, 0), nullptr);
+    }
+    EXPECT_EQ(OpenDisplay(64, 48, 16, 1, 1), 1);
+    EXPECT_NE(display.backSurface, nullptr);
+    ResetOffscreen();
+    for (std::int32_t i = 1; i < kMaxSurfaces; ++i) {
+        ASSERT_NE(MakeOffscreenSurface(1, 1, SurfaceMemory::System, 0), nullptr);
+    }
+    EXPECT_EQ(OpenDisplay(64, 48, 16, 0, 1), 0) << "two on the whole screen";
+}
+
 TEST_F(DisplayTest, CloseClearsNoVariableAndTwiceIsHarmless) {
     ASSERT_EQ(OpenDisplay(640, 480, 16, 0, 0), 1);
     EXPECT_EQ(offscreen.fullScreenMode, 1);

@@ -44,7 +44,8 @@ protected:
     }
 
     Mp3Stream stream_{};
-    std::string path_ = OMBREL_BINARY_DIR "/mp3_stream_test.mp3";
+    std::string path_ = testing::TempDir() + "mp3_stream_test_" +
+                        testing::UnitTest::GetInstance()->current_test_info()->name() + ".mp3";
 };
 
 TEST_F(Mp3StreamTest, TheSoundtrackHasItsLengthWithoutWhatTheEncoderAdded) {
@@ -80,6 +81,22 @@ TEST_F(Mp3StreamTest, AShortenedFilePlaysToItsEnd) {
 
 TEST_F(Mp3StreamTest, APipeThatNobodyWritesToIsNotWaitedFor) {
     ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+    EXPECT_FALSE(OpenMp3(&stream_, path_.c_str()));
+}
+
+// A frame of 192 kilobits and 44,100 Hz has 626 bytes, and one more where its header says so. These
+// ten all say so.
+TEST_F(Mp3StreamTest, AFileMayBeginWithAPaddedFrame) {
+    const std::string ten = Content(kSoundtrack).substr(1515, std::size_t{10} * 627);
+    ASSERT_EQ(ten[2] & 2, 2);
+    ASSERT_TRUE(Opens(ten));
+    EXPECT_GT(Rest().size(), std::size_t{8} * kMp3FrameSamples * 2);
+}
+
+TEST_F(Mp3StreamTest, AFileOfMoreThan256MiBDoesNotOpen) {
+    ASSERT_TRUE(Opens(Content(kSoundtrack).substr(0, 50000)));
+    CloseMp3(&stream_);
+    std::filesystem::resize_file(path_, (std::size_t{1} << 28) + 1);
     EXPECT_FALSE(OpenMp3(&stream_, path_.c_str()));
 }
 

@@ -120,6 +120,23 @@ TEST_F(OffscreenTest, WindowedSetUpMeasuresBordersAndDesktop) {
     EXPECT_EQ(offscreen.desktopBits, 32);
 }
 
+TEST_F(OffscreenTest, LeavingRestoresOnlyADepthThatWasSaved) {
+    offscreen.desktopBits = 24;
+    RestoreDisplayModeAtExit();
+    EXPECT_EQ(offscreen.desktopBits, 24);
+    shell.savedDesktopDepth = 32;
+    RestoreDisplayModeAtExit();
+    EXPECT_EQ(offscreen.desktopBits, 32);
+}
+
+TEST_F(OffscreenTest, TheCursorCountsHowOftenItIsHiddenAndShown) {
+    ShowMouseCursor(false);
+    ShowMouseCursor(false);
+    EXPECT_EQ(offscreen.cursorCount, -2);
+    ShowMouseCursor(true);
+    EXPECT_EQ(offscreen.cursorCount, -1);
+}
+
 std::uint32_t NoVersion() {
     return 0;
 }

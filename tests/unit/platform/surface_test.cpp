@@ -248,6 +248,16 @@ TEST_F(SurfaceTest, LockedSurfacesRefuseBlitsFillsAndSecondLocks) {
     EXPECT_EQ(CountOther(to, 7), 0);
 }
 
+// A handle that is gone stays so while anything else can be handed out.
+TEST_F(SurfaceTest, ARecordIsUsedAgainAsLateAsPossible) {
+    Surface* const gone = MakeOffscreenSurface(1, 1, SurfaceMemory::System, 0);
+    ReleaseSurface(gone);
+    for (std::int32_t i = 1; i < kMaxSurfaces; ++i) {
+        EXPECT_NE(MakeOffscreenSurface(1, 1, SurfaceMemory::System, 0), gone) << i;
+    }
+    EXPECT_EQ(MakeOffscreenSurface(1, 1, SurfaceMemory::System, 0), gone);
+}
+
 TEST_F(SurfaceTest, ReleasedHandlesAreRefused) {
     Surface* gone = MakeOffscreenSurface(2, 2, SurfaceMemory::System, 0);
     Surface* other = MakeOffscreenSurface(2, 2, SurfaceMemory::System, 0);
