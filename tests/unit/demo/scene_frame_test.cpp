@@ -205,6 +205,14 @@ TEST_F(SceneFrame, PipelineFollowsItsSwitches) {
             last = depth;
         }
     }
+    // Any other number leaves them in the order of addition.
+    for (const std::int32_t sort : {0, 2, -1}) {
+        set.sort = sort;
+        run();
+        for (int i = 0; i < sceneFaces.count; ++i) {
+            EXPECT_EQ(sceneFaces.pointers[i], &sceneFaces.records[i]) << sort;
+        }
+    }
 }
 
 } // namespace

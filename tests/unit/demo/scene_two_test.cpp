@@ -69,8 +69,8 @@ TEST_F(SceneTwoTest, LightsMoveWithTheirPhase) {
         };
         for (int i = 0; i < 4; ++i) {
             const Light& light = world.lights[2 + i];
-            EXPECT_NEAR(static_cast<double>(light.position.x), expected[i][0], 1.0) << f;
-            EXPECT_NEAR(static_cast<double>(light.position.z), expected[i][1], 1.0) << f;
+            EXPECT_NEAR(static_cast<double>(light.position.x), expected[i][0], 0.5) << f;
+            EXPECT_NEAR(static_cast<double>(light.position.z), expected[i][1], 0.5) << f;
             EXPECT_EQ(light.position.y, 500.0F);
         }
     }
@@ -188,6 +188,17 @@ TEST_F(SceneTwoTest, BlockAndGreetingsExcludeEachOtherInAFrame) {
     EXPECT_TRUE(Big(10, 17, kGreetingTexts[0][0]));
     EXPECT_TRUE(Big(90, 11, kGreetingTexts[6][0]));
     EXPECT_TRUE(Big(405, 21, kGreetingTexts[31][0]));
+}
+
+// A column falls by the sine of its phase, to one row below the picture: sin(0.92) * 481 = 382.7.
+TEST_F(SceneTwoTest, ColumnsFallToTheRowBelowThePicture) {
+    RemoveObjects();
+    StartUp();
+    sceneTwo.block.stage = kBlockSlots;
+    sceneTwo.columns[0].phase = 0.92F - sceneTwo.columns[0].speed;
+    Frame();
+    EXPECT_TRUE(Big(10, 382, kGreetingTexts[0][0]));
+    EXPECT_FALSE(Big(10, 381, kGreetingTexts[0][0]));
 }
 
 TEST_F(SceneTwoTest, R44_ColumnThatIsOffStillTakesItsRandomNumbers) {

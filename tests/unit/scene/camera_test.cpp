@@ -209,7 +209,7 @@ TEST(Camera, LookAtFromAnglesTakesTheTargetOnlyForOne) {
 
 TEST(Camera, R28_TheTargetFromAnglesLiesAboutTheOrigin) {
     Camera c = test::MakeCamera(640.0F, 480.0F, 90.0F);
-    c.position = {0.0F, 100.0F, 0.0F, 1.0F};
+    c.position = {70.0F, 100.0F, -90.0F, 1.0F};
     c.angles = {90.0F, 90.0F, 0.0F, 1.0F};
     CameraLookAt(&c, 1);
     EXPECT_EQ(c.target.x, -SinTableDeg[90] * SinTableDeg[90]);
