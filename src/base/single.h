@@ -20,9 +20,11 @@ namespace ombrel {
 #if defined(__wasm__)
 using Single = CutSingle;
 using Double = CutDouble;
+inline constexpr bool kSinglesAreSlow = true; // several times as slow as plain doubles
 #else
 using Single = float;
 using Double = double;
+inline constexpr bool kSinglesAreSlow = false;
 
 inline Single SquareRoot(Single value) {
     return __builtin_sqrtf(value);

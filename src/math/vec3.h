@@ -82,7 +82,8 @@ void Matrix4Multiply(const Matrix4* a, const Matrix4* b, Matrix4* out);
 // v * m, all four components; the caller supplies w.
 inline void Vec3TransformMatrix4(const Vec3* v, const Matrix4* m, Vec3* out) {
     const auto column = [v, m](int j) {
-        return v->x * m->m[0][j] + v->y * m->m[1][j] + v->z * m->m[2][j] + v->w * m->m[3][j];
+        const Single numbers[4] = {m->m[0][j], m->m[1][j], m->m[2][j], m->m[3][j]};
+        return TimesRows(*v, numbers);
     };
     *out = {column(0), column(1), column(2), column(3)};
 }

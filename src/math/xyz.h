@@ -29,6 +29,11 @@ template <class A, class B> static auto Cross(const A& a, const B& b) {
     return Xyz<N>{a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 
+// A point of four components times a matrix. m: its four rows, or the four numbers of a column.
+template <class V, class M> static auto TimesRows(const V& v, const M& m) {
+    return v.x * m[0] + v.y * m[1] + v.z * m[2] + v.w * m[3];
+}
+
 // max + 11/32 mid + 1/4 min of the sizes, in 1/1024, cut to a whole number. The sum must stay below
 // 2,097,152; beyond, it wraps in 32 bits. L says what the lanes are (base/single.h).
 template <class L, class V> static auto FastLength(const V& v) {

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "scene/cut.h"
+#include "scene/facing.h"
 #include "scene/mesh_transform.h"
 
 namespace ombrel {
@@ -43,6 +44,17 @@ struct MeshWork {
 
 // --- choosing the faces that show ----------------------------------------------------------------
 
+bool ShowsBack(const PlacedVertex& a, const PlacedVertex& b, const PlacedVertex& c,
+               const Vec3& eye) {
+    if constexpr (kSinglesAreSlow) {
+        const Side seen = SideSeen(a, b, c, eye);
+        if (seen != Side::Unsure) [[likely]] {
+            return seen == Side::Back;
+        }
+    }
+    return FacesAway(a, b, c, eye);
+}
+
 // Counts every face that the list would hold; false when there is one that it would not.
 bool ChooseFaces(MeshWork* work, bool reset) {
     FrontEnd* const front = work->front;
@@ -73,7 +85,7 @@ bool ChooseFaces(MeshWork* work, bool reset) {
         }
         const bool tested = cullBack && (face.flags & FACE_TWO_SIDED) == 0;
         scratch.shown[shown].face = i;
-        shown += tested && FacesAway(a, b, c, eye) ? 0 : 1;
+        shown += tested && ShowsBack(a, b, c, eye) ? 0 : 1;
     }
     front->offered += offered;
     work->shown = shown;

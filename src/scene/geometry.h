@@ -45,10 +45,16 @@ template <class P> static auto FlatNormal(const P& p0, const P& p1, const P& p2)
     return Cross(Difference(p0, p1), Difference(p0, p2));
 }
 
+// How far before a face the eye is, times twice the face's area; negative behind it.
+template <class P, class E>
+static auto Facing(const P& p0, const P& p1, const P& p2, const E& eye) {
+    return Dot(FlatNormal(p0, p1, p2), Difference(p0, eye));
+}
+
 // Whether a face shows its back, or its edge.
 template <class P, class E>
 static auto FacesAway(const P& p0, const P& p1, const P& p2, const E& eye) {
-    return Dot(FlatNormal(p0, p1, p2), Difference(p0, eye)) <= 0.0F;
+    return Facing(p0, p1, p2, eye) <= 0.0F;
 }
 
 // A point of the world, whose fourth component is 1.

@@ -3,6 +3,9 @@
 // object by object.
 #include "scene/mesh_transform.h"
 
+#include <cstring>
+
+#include "lanes/rows.h"
 #include "scene/vertex_parts.h"
 
 namespace ombrel {
@@ -22,17 +25,27 @@ VertexArrays ChooseArrays(const Mesh& mesh, std::int32_t useCurrent) {
     return {mesh.vertices, mesh.transformed, mesh.vertexCount};
 }
 
-// from and to may be the same array.
-void TransformVertices(const Vertex* from, Vertex* to, std::int32_t count, const Matrix4* matrix) {
-    for (std::int32_t i = 0; i < count; ++i) {
-        const Vec3 position = PositionOf(from[i]);
+// A vector times a matrix, written to four numbers: column by column, or all at a time.
+struct ByColumns {
+    const Matrix4* matrix;
+    void operator()(const Vec3& v, Single* to) const {
         Vec3 result;
-        Vec3TransformMatrix4(&position, matrix, &result);
-        SetPosition(&to[i], result);
+        Vec3TransformMatrix4(&v, matrix, &result);
+        std::memcpy(static_cast<void*>(to), &result, sizeof result);
+    }
+};
+struct ByRows {
+    Row rows[4];
+    void operator()(const Vec3& v, Single* to) const { StoreRow(TimesRows(v, rows), to); }
+};
+
+// from and to may be the same array.
+template <class Times>
+void TransformVertices(const Vertex* from, Vertex* to, std::int32_t count, const Times& times) {
+    for (std::int32_t i = 0; i < count; ++i) {
+        times(PositionOf(from[i]), &to[i].x);
         if ((from[i].vflags & VERTEX_HAS_NORMAL) != 0) {
-            const Vec3 normal = NormalOf(from[i]);
-            Vec3TransformMatrix4(&normal, matrix, &result);
-            SetNormal(&to[i], result);
+            times(NormalOf(from[i]), &to[i].nx);
         }
     }
 }
@@ -45,10 +58,16 @@ void MeshTransform(Mesh* mesh, const Matrix4* matrix, const MeshTransformOptions
     if (mode < TransformMode::InPlace || mode > TransformMode::IntoTransformed) {
         return;
     }
-    TransformVertices(mode == TransformMode::TransformedInPlace ? arrays.transformed
-                                                                : arrays.original,
-                      mode == TransformMode::InPlace ? arrays.original : arrays.transformed,
-                      arrays.count, matrix);
+    const Vertex* const from =
+        mode == TransformMode::TransformedInPlace ? arrays.transformed : arrays.original;
+    Vertex* const to = mode == TransformMode::InPlace ? arrays.original : arrays.transformed;
+    if (RowsFollowMode()) {
+        const auto& m = matrix->m;
+        TransformVertices(from, to, arrays.count,
+                          ByRows{{LoadRow(m[0]), LoadRow(m[1]), LoadRow(m[2]), LoadRow(m[3])}});
+    } else {
+        TransformVertices(from, to, arrays.count, ByColumns{matrix});
+    }
     if (options.withAxes != 0) {
         for (Vec3& axis : mesh->axes) {
             const Vec3 before = axis;
