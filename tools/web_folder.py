@@ -21,6 +21,7 @@ TAIL_SECONDS = 2  # of the music, behind the last picture
 FRAMES_A_SECOND = 40  # of the show
 
 SOUND = "sfx/soundtrack.mp3"
+HASHES = "hashes"  # of all pictures, 8 bytes each: a file of the pack beside the data
 STORED = ROOT / "tests/scenario/frames.txt.gz"
 # Made into a file of the page | from
 COPIES = [
@@ -99,19 +100,22 @@ def listed_files(manifest, data):
     return names
 
 
-def count_frames(stored):
-    """The frames of the whole show."""
+def stored_hashes(stored):
+    """The hash of every picture of the show."""
     try:
-        return len(gzip.decompress(read(stored)).splitlines())
-    except (OSError, EOFError) as fault:
+        lines = gzip.decompress(read(stored)).decode("ascii").splitlines()
+        return [int(line.split()[-1], 16) for line in lines]
+    except (OSError, EOFError, ValueError, IndexError) as fault:
         raise Fault(f"{stored}: {fault}") from fault
 
 
 def packed_file(data, manifest, stored):
     """The bytes of ombrel.pack."""
-    frames = count_frames(stored)
+    hashes = stored_hashes(stored)
+    frames = len(hashes)
     names = listed_files(manifest, data)
     world = [(f"data/{name}", read(data / name)) for name in names if not name.startswith("sfx/")]
+    world.append((HASHES, struct.pack(f"<{frames}Q", *hashes)))
     first, second, overlap = music_parts(read(data / SOUND), data / SOUND,
                                          frames / FRAMES_A_SECOND + TAIL_SECONDS)
     joined = b"".join(content for _, content in world)
@@ -186,7 +190,7 @@ def main():
                         help="the list of what ships of it (art/MANIFEST)")
     parser.add_argument("--frames", type=pathlib.Path,
                         default=STORED,
-                        help="the stored frames, a line each, for their number")
+                        help="the stored frames, a line each, with their hashes")
     options = parser.parse_args()
     try:
         files = page_files(options.wasm, options.data, options.manifest, options.frames)

@@ -42,7 +42,8 @@ function systemCalls(memory) {
 }
 
 export class Core {
-    // program: WebAssembly.Module; files: [[name, Uint8Array]], names from data/ on.
+    // program: WebAssembly.Module; files: [[name, Uint8Array]], names from data/ on, and
+    // "hashes".
     static async open(program, files, { frames, width, height, path = "" }) {
         const core = new Core();
         const instance = await WebAssembly.instantiate(program, {
@@ -51,10 +52,12 @@ export class Core {
         core.f = instance.exports;
         core.f._initialize();
         Object.assign(core, { frames, width, height });
-        for (const [name, bytes] of files) {
+        const isData = ([name]) => name.startsWith(FOLDER);
+        for (const [name, bytes] of files.filter(isData)) {
             core.withText(name.slice(FOLDER.length), (text) => core.f.ombrel_add_file(text, core.put(bytes), bytes.length));
         }
         core.withText(path, (text) => core.f.ombrel_use_path(text));
+        core.tellHashes(files.find(([name]) => name === "hashes"));
         if (!core.f.ombrel_open(width, height, SNAPSHOT_BYTES)) {
             throw new Error("The show could not be opened: not enough memory.");
         }
@@ -100,6 +103,15 @@ export class Core {
     }
 
     // --- the show ---------------------------------------------------------------------------------
+
+    // [name, bytes] of the hashes of all pictures; undefined where the pack has none.
+    tellHashes(file) {
+        if (file) {
+            const at = this.put(file[1]);
+            this.f.ombrel_published(at, file[1].length / 8);
+            this.f.ombrel_free(at);
+        }
+    }
 
     // Draws the next frame; false at the end.
     step() {

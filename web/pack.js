@@ -6,7 +6,8 @@
 //     parts    one behind the other, in the order of the index, `packed` bytes each
 //
 // A part is one gzip stream (gzip true) or stands as it is. Its files, [[name, size], ...], stand one
-// behind the other in what comes out. tools/web_folder.py writes it; used by load.js.
+// behind the other in what comes out. The last file of the world, "hashes", is the hash of every
+// picture, 8 bytes each. tools/web_folder.py writes it; used by load.js.
 
 const MAGIC = "OMBREL1\n";
 const HEAD = 12;

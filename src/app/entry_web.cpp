@@ -5,8 +5,9 @@
 // grow, so views of it are made anew after each. One show at a time.
 //
 // Order of calls: _initialize (of the module), ombrel_add_file for every file, ombrel_use_path,
-// ombrel_open, then steps, seeks and looks, ombrel_close.
+// ombrel_published if wanted, ombrel_open, then steps, seeks and looks, ombrel_close.
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -29,13 +30,14 @@ namespace {
 using ombrel::Look;
 
 struct WebShow {
-    std::vector<std::uint8_t> rgba;   // of the frame
-    std::vector<std::uint8_t> looked; // of the last look
-    ombrel::LookPicture look;         // with its legend
-    ombrel::ObjectAt object;          // under the last point asked for
-    ombrel::FrameFigures figures;     // of the frame last counted
-    std::vector<std::string> missing; // files that did not open
-    std::int32_t budget;              // frames that a seek may still play
+    std::vector<std::uint8_t> rgba;       // of the frame
+    std::vector<std::uint8_t> looked;     // of the last look
+    ombrel::LookPicture look;             // with its legend
+    ombrel::ObjectAt object;              // under the last point asked for
+    ombrel::FrameFigures figures;         // of the frame last counted
+    std::vector<std::string> missing;     // files that did not open
+    std::int32_t budget;                  // frames that a seek may still play
+    std::vector<std::uint64_t> published; // hashes of all pictures; none: not told
 };
 
 WebShow show{}; // written and read by the functions below
@@ -107,6 +109,14 @@ OMBREL_EXPORT(ombrel_version)()->const char* {
     return ombrel::kVersion;
 }
 
+// The published hashes of all pictures in order, 8 bytes each, little-endian: then a far seek need
+// draw the frames before its own only once. The bytes stay the caller's. To be called before
+// ombrel_open.
+OMBREL_EXPORT(ombrel_published)(const std::uint8_t* hashes, std::int32_t count)->void {
+    show.published.resize(static_cast<std::size_t>(count));
+    std::memcpy(show.published.data(), hashes, show.published.size() * sizeof(std::uint64_t));
+}
+
 // Loads the files and stands before the first frame. snapshotBytes: what may be held for seeking
 // back, 0 for the usual 300 MiB. 0 when it could not be opened.
 OMBREL_EXPORT(ombrel_open)
@@ -115,7 +125,15 @@ OMBREL_EXPORT(ombrel_open)
     ombrel::ResetWeb();
     show.missing.clear();
     ombrel::SetMissingFileHook(NoteMissing);
-    return ombrel::OpenShow({ombrel::RenderFrame, width, height, 0, snapshotBytes}) ? 1 : 0;
+    const auto count = static_cast<std::int32_t>(show.published.size());
+    return ombrel::OpenShow({ombrel::RenderFrame,
+                             width,
+                             height,
+                             0,
+                             snapshotBytes,
+                             {show.published.data(), count}})
+               ? 1
+               : 0;
 }
 OMBREL_EXPORT(ombrel_close)()->void {
     ombrel::CloseShow();
