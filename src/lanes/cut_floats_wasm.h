@@ -37,13 +37,13 @@ template <CutOperation operation> [[gnu::noinline]] CutFloats LaneByLane(CutFloa
         operation(wasm_f32x4_extract_lane(a.bits, 3), wasm_f32x4_extract_lane(b.bits, 3))));
 }
 
-// Whether a lane is infinite or none, or as small as the least normal number, but not zero.
+// Whether a lane is infinite or none, or as small as the least normal number, but not zero. (It may
+// say so of 2 and -2 too, whose twice is the one integer without a size: that costs time only.)
 OMBREL_INLINE bool HasStrangeLane(v128_t v) {
-    const v128_t size = v & wasm_i32x4_const_splat(0x7FFFFFFF);
-    const v128_t large = wasm_i32x4_gt(size, wasm_i32x4_const_splat(0x7F7FFFFF));
-    const v128_t below = wasm_i32x4_sub(size, wasm_i32x4_const_splat(1));
-    const v128_t small = wasm_u32x4_lt(below, wasm_i32x4_const_splat(0x00800000));
-    return wasm_v128_any_true(large | small);
+    const v128_t twice = wasm_i32x4_add(v, v); // no sign; the largest are just below 0
+    const v128_t fromZero = wasm_i32x4_abs(twice);
+    const v128_t strange = wasm_i32x4_lt(fromZero, wasm_i32x4_const_splat(0x01000001));
+    return wasm_v128_any_true(strange & fromZero);
 }
 
 OMBREL_INLINE v128_t UpperDoubles(v128_t v) {
