@@ -569,6 +569,20 @@ function casesOf(browser, name, server) {
             expect((await page.frame()) < 200, "it began elsewhere");
         })],
 
+        ["embedded in another page", alone(async (page) => {
+            await page.page.setContent(`<iframe src="${server.address}#f=40" allow="autoplay; fullscreen" `
+                                       + 'width="960" height="720"></iframe>');
+            const frame = await (await page.page.$("iframe")).contentFrame();
+            const inside = Object.assign(Object.create(page), { page: frame });
+            await until("the button", async () => (await inside.text("#start-text")) === "Start at 0:01.00");
+            await frame.click("#start");
+            await until("frames from 40 on", async () => (await inside.frame()) > 42, 120);
+            const got = await inside.canvasHash();
+            expect(got.frame > 42 && got.frame < 400, `frame ${got.frame}`);
+            same(got.hash, HASHES[got.frame], `the hash of frame ${got.frame}`);
+            await until("sound", () => inside.get(() => window.ombrel.player.sound.playing !== null), 30);
+        })],
+
         ["starts before all has come", alone(async (page) => {
             const pack = readFileSync(path.join(folder, "ombrel.pack"));
             const length = pack.readUInt32LE(8);
