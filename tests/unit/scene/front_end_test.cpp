@@ -388,6 +388,15 @@ TEST_P(FrontEndOfPath, FullListDropsTheSameFaces) {
         // And one mesh more, for which there is no room from the start.
         meshes.push_back(meshes[0]);
         Run(meshes, Settings());
+        // Its marks go only where it is reset.
+        const auto late = RandomMesh(&n, 10, 2, 400.0F);
+        late->faces[0].active = FACE_LIVE;
+        meshes.push_back(late.get());
+        for (const bool reset : {false, true}) {
+            late->faces[1].active = FACE_LIVE | FACE_BACK;
+            Run(meshes, Settings(), reset);
+            EXPECT_EQ((late->faces[1].active & FACE_BACK) == 0, reset);
+        }
     }
 }
 
