@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "scene/mesh_transform.h"
 #include "scene_fixture.h"
 
@@ -168,6 +170,20 @@ TEST_F(MeshMoves, R38_TurningObjectsShrink) {
     EXPECT_NEAR(v.x, 0.0F, 0.1F);
     EXPECT_LT(Vec3Length(&v), 99.0F);
     EXPECT_GT(Vec3Length(&v), 98.0F);
+    // About the other two axes as well.
+    vertices_[0] = test::VertexAt(0.0F, 100.0F, 0.0F);
+    vertices_[1] = test::VertexAt(100.0F, 0.0F, 0.0F);
+    for (int i = 0; i < 450; ++i) {
+        MeshRotate(&mesh_, 0.2F, 0.0F, 0.0F, 0);
+    }
+    EXPECT_NEAR(vertices_[0].y, 0.0F, 0.1F);
+    EXPECT_NEAR(std::fabs(vertices_[0].z), 98.5F, 0.5F);
+    EXPECT_EQ(vertices_[1].x, 100.0F);
+    for (int i = 0; i < 450; ++i) {
+        MeshRotate(&mesh_, 0.0F, 0.0F, 0.2F, 0);
+    }
+    EXPECT_NEAR(vertices_[1].x, 0.0F, 0.1F);
+    EXPECT_NEAR(std::fabs(vertices_[1].y), 98.5F, 0.5F);
 }
 
 TEST_F(MeshMoves, TranslateMode2WritesWorldPositionsWithWOneAndCopiesNormals) {
