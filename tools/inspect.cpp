@@ -171,7 +171,8 @@ void Print(const Report& report, Totals* totals) {
     std::fputs(FindingLines(report).c_str(), stdout);
     ++totals->files;
     for (const Finding& finding : report.findings) {
-        ++(finding.weight == Weight::Broken ? totals->broken : totals->warnings);
+        std::size_t& total = finding.weight == Weight::Broken ? totals->broken : totals->warnings;
+        total += 1 + static_cast<std::size_t>(finding.more);
     }
 }
 

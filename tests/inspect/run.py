@@ -583,6 +583,15 @@ def test_files(folder):
         run("sound: " + name, "sfx/bad.mp3", text, lines, code)
 
 
+def test_totals(folder):
+    """What is summed up in one line is counted one by one all the same."""
+    texts = {name: text for name, text, _, _ in object_cases()}
+    folder.write("3d/bad.cob", texts["more than a hundred warnings of one kind"])
+    folder.write("3d/worse.cob", texts["more vertices than counted"])
+    _, text = folder.run("3d/bad.cob", "3d/worse.cob")
+    check("totals: every warning counts", text.endswith("0 broken, 252 warnings\n"), text[-300:])
+
+
 def test_sizes(folder):
     """Files that no data folder holds: each is refused with its reason, whatever memory there is."""
     small = 160 << 20
@@ -725,6 +734,7 @@ def main():
         folder = Folder(inspector, root)
         test_files(folder)
         if not sys.argv[2:]:
+            test_totals(folder)
             test_sizes(folder)
             test_missing(folder)
             test_usage(folder)
