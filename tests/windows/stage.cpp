@@ -23,6 +23,7 @@ namespace {
 
 std::FILE* out;
 DWORD child;
+constexpr DWORD kStartPatience = 20000; // ms
 std::string lastMode, lastWindow, lastBox, boxBefore;
 HWND mainWindow, boxWindow;
 bool boxSeen, boxThere; // one was written down and not yet that it is gone; one stands now
@@ -175,10 +176,16 @@ int main(int count, char** arguments) {
     STARTUPINFOA start = {};
     start.cb = sizeof(start);
     PROCESS_INFORMATION process = {};
-    if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &start, &process)) {
-        Say("could not start " + command);
-        return 1;
+    // (A busy Wine refuses now and then, for a moment.)
+    const DWORD firstTry = GetTickCount();
+    while (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                           &start, &process)) {
+        const DWORD error = GetLastError();
+        if (GetTickCount() - firstTry > kStartPatience) {
+            Say("could not start " + command + ", error " + std::to_string(error));
+            return 1;
+        }
+        Sleep(500);
     }
     child = process.dwProcessId;
     DWORD since = 0;

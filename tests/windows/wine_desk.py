@@ -175,6 +175,8 @@ class Stage:
             if found and found[-1][14] == "1":
                 words = found[-1]
                 return [int(w) for w in words[2:6]], [int(w) for w in words[7:11]]
+            expect(not self.lines()[-1:] or not self.lines()[-1].startswith("could not start"),
+                   str(self.lines()[-1:]))
             time.sleep(0.1)
         raise Failure("no visible window")
 
