@@ -215,13 +215,14 @@ const answers = {
         const blob = await canvas.convertToBlob({ type: "image/png" });
         tell("screenshot", { blob, frame, look: shownLook });
     },
-    // Plays the whole production from here, unseen and without a pause, and tells every hash: for tests.
+    // Plays on from here, unseen and without a pause, and tells of every frame its hash and the
+    // milliseconds that it took: for tests.
     async hashes({ count: most }) {
         const list = [];
-        while (list.length < most && !core.ended() && core.step()) {
-            list.push([core.shown(), core.hash()]);
+        while (list.length < most && !core.ended() && step()) {
+            list.push([core.shown(), core.hash(), lastMs]);
         }
-        tell("hashes", { list });
+        tell("hashes", { list, memory: core.f.memory.buffer.byteLength });
     },
 };
 

@@ -722,18 +722,37 @@ function casesOf(browser, name, server) {
     ].filter(([, , short]) => short || !options.quick).map(([title, act]) => [title, act]);
 }
 
+function times(all) {
+    const sorted = [...all].sort((a, b) => a - b);
+    const part = (share) => sorted[Math.floor((sorted.length - 1) * share)].toFixed(1);
+    return `median ${part(0.5)} ms, 99 of 100 within ${part(0.99)} ms, worst ${part(1)} ms`;
+}
+
+// How long it takes until each frame is there, ms.
+async function timesOfSeeks(page, frames) {
+    const all = [];
+    for (const frame of frames) {
+        const start = Date.now();
+        await page.seek(frame);
+        all.push(Date.now() - start);
+    }
+    return all;
+}
+
 // Every frame, unseen, as fast as it goes.
 function wholeOf(browser, name, server) {
     return [["every frame of the production", async () => {
         const page = new Visit(await newPage(browser), name, server);
         await page.open();
         await page.get(() => window.ombrel.player.open());
-        const start = Date.now();
-        let frame = 0;
+        const took = [];
+        let [frame, memory] = [0, 0];
         for (;;) {
-            const list = await page.get(() => window.ombrel.player.ask("hashes", "hashes", { count: 100 }).then((all) => all.list));
-            for (const [number, hash] of list) {
+            const { list, memory: size } = await page.get(() => window.ombrel.player.ask("hashes", "hashes", { count: 100 }));
+            memory = Math.max(memory, size);
+            for (const [number, hash, ms] of list) {
                 same([number, hash], [frame, HASHES[frame]], `frame ${frame}, its number and hash`);
+                took.push(ms);
                 ++frame;
             }
             if (list.length < 100) {
@@ -741,7 +760,16 @@ function wholeOf(browser, name, server) {
             }
         }
         same(frame, HASHES.length, "frames");
-        console.log(`       ${((Date.now() - start) / frame).toFixed(2)} ms a frame, hash included`);
+        const sum = took.reduce((a, b) => a + b, 0);
+        console.log(`       a frame: mean ${(sum / frame).toFixed(2)} ms, ${times(took)}; memory of the program ${memory >> 20} MiB`);
+        await page.end();
+    }], ["times of seeks", async () => {
+        const page = new Visit(await newPage(browser), name, server);
+        await page.start();
+        await page.pause();
+        console.log(`       cold, to frames 3778 and 4900: ${(await timesOfSeeks(page, [3778, 4900])).join(" and ")} ms`);
+        console.log(`       where it was played: ${times(await timesOfSeeks(page, [3770, 3700, 3740, 4890, 4800, 4850]))}`);
+        await page.expectPublished(4850);
         await page.end();
     }]];
 }
