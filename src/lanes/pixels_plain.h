@@ -260,7 +260,7 @@ struct PlainPixels {
     OMBREL_INLINE static Ints Bound(Ints index, std::int32_t last) {
         return Lesser(index > 0 ? index : 0, last);
     }
-    // A colour scaled by one of the two blend tables of a level.
+    // The two blend tables of a level.
     struct Weights {
         const Pixel16* over;  // the table of the source
         const Pixel16* under; // the table of what is there
@@ -268,6 +268,7 @@ struct PlainPixels {
     OMBREL_INLINE static Weights WeightsOf(std::uint32_t level, const Pixel16 (*tables)[65536]) {
         return {tables[level], tables[7 - level]};
     }
+    // A colour scaled by one of them.
     OMBREL_INLINE static Pixels Scale(const Pixel16* table, Pixels color) {
         return table[color & 0xFFFF];
     }
