@@ -265,7 +265,7 @@ struct PlainPixels {
         const Pixel16* over;  // the table of the source
         const Pixel16* under; // the table of what is there
     };
-    OMBREL_INLINE static Weights WeightsOf(std::uint32_t level, const Pixel16 (*tables)[65536]) {
+    OMBREL_INLINE static Weights WeightsOf(std::uint32_t level, const Pixel16* const* tables) {
         return {tables[level], tables[7 - level]};
     }
     // A colour scaled by one of them.

@@ -126,9 +126,9 @@ template <class L, int lanes> struct VectorPixels {
     template <int k> OMBREL_INLINE static void Set(QuadPair* a, std::int32_t n) {
         (k < 4 ? a->low : a->high)[k % 4] = n;
     }
+    // In a form of which two with a and b exchanged have most in common.
     template <class P> OMBREL_INLINE static P Choose(bool first, P a, P b) {
-        const P mask = P{} - static_cast<std::int32_t>(first);
-        return (mask & a) | (~mask & b);
+        return b ^ ((a ^ b) & (P{} - static_cast<std::int32_t>(first)));
     }
     OMBREL_INLINE static QuadPair Choose(bool first, QuadPair a, QuadPair b) {
         return {Choose(first, a.low, b.low), Choose(first, a.high, b.high)};
@@ -200,7 +200,7 @@ template <class L, int lanes> struct VectorPixels {
     struct Weights {
         std::uint32_t over, under; // 1/32768
     };
-    OMBREL_INLINE static Weights WeightsOf(std::uint32_t level, const Pixel16 (*)[65536]) {
+    OMBREL_INLINE static Weights WeightsOf(std::uint32_t level, const Pixel16* const*) {
         return {kBlendFactors[level], kBlendFactors[7 - level]};
     }
     OMBREL_INLINE static Pixels Scale(std::uint32_t weight, Pixels color) {

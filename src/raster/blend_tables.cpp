@@ -10,6 +10,9 @@
 namespace ombrel {
 
 constinit Pixel16 BlendTables[kBlendTableCount][kBlendTableSize] = {};
+const Pixel16* const kBlendTableStarts[kBlendTableCount] = {
+    BlendTables[0], BlendTables[1], BlendTables[2], BlendTables[3],
+    BlendTables[4], BlendTables[5], BlendTables[6], BlendTables[7]};
 
 namespace {
 

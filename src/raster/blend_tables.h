@@ -13,6 +13,9 @@ inline constexpr std::int32_t kBlendTableSize = 65536; // indexed by a Pixel16
 
 // Written by BuildBlendTables at start-up; all zero until then.
 extern Pixel16 BlendTables[kBlendTableCount][kBlendTableSize];
+// Where each table begins; from here a filler takes whole addresses into its loops, and not places
+// within all of them.
+extern const Pixel16* const kBlendTableStarts[kBlendTableCount];
 void ResetBlendTables(); // all zero
 
 // Fills count (2 or more) tables one after the other: table k scales each 5-6-5 channel by

@@ -310,7 +310,7 @@ struct Set { // replaces the pixel
 struct Blend {
     static constexpr bool kMixes = true;
     template <class L> OMBREL_INLINE static void Prepare(std::uint32_t level, Brush<L>* brush) {
-        brush->weights = L::WeightsOf(level, BlendTables);
+        brush->weights = L::WeightsOf(level, kBlendTableStarts);
     }
     template <class L>
     OMBREL_INLINE static Pixels<L> Scale(const Brush<L>& brush, Pixels<L> source) {

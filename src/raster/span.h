@@ -226,20 +226,18 @@ OMBREL_INLINE void DrawWholeBlocks(const Brush<L>& brush, const Row& row, Run<L>
     }
 }
 
-// Draws what is left of a block, one part of it. Where that would reach past the clip rectangle, it
-// is drawn aside.
+// Draws the next count pixels, at most one part of a block. Where that would reach past the clip
+// rectangle, room pixels further on, it is drawn aside.
 template <class L, class R>
-OMBREL_INLINE void DrawPart(const Brush<L>& brush, const Row& row, std::ptrdiff_t clipRight,
-                            Run<L>* run) {
+OMBREL_INLINE void DrawPart(const Brush<L>& brush, const Row& row, std::int32_t count,
+                            std::int32_t room, Run<L>* run) {
     Pixel16 frameAside[L::kLanes];
     std::uint32_t depthAside[L::kLanes];
-    const auto count = static_cast<std::int32_t>(run->end - run->x);
-    const bool aside = clipRight - run->x < L::kLanes;
-    const Row there = RowAt<R>(row, run->x);
-    Row part = there;
+    const bool aside = room < L::kLanes;
+    Row part = row;
     if (aside) [[unlikely]] {
         part = {frameAside, R::kHasDepth ? depthAside : nullptr};
-        CopyPixels(there, part, count);
+        CopyPixels(row, part, count);
     }
     const Live<L> live = {count < L::kLanes ? count : L::kLanes, L::LaneNumbers() >= count};
     const Attributes<L> none = {};
@@ -248,20 +246,25 @@ OMBREL_INLINE void DrawPart(const Brush<L>& brush, const Row& row, std::ptrdiff_
         CatchUp<L, R>(run);
         DrawBlock<L, R, 1>(brush, part, &run->at, none, test, live);
         if (aside) [[unlikely]] {
-            CopyPixels(part, there, count);
+            CopyPixels(part, row, count);
         }
     }
 }
 
-// What is left is one masked part or two.
+// What is left is one masked part or two. (Counting down costs less than columns do: most tails are
+// drawn once through.)
 template <class L, class R>
 OMBREL_INLINE void DrawTail(const Brush<L>& brush, const Row& row, std::ptrdiff_t clipRight,
                             Run<L>* run) {
-    while (run->x < run->end) {
-        DrawPart<L, R>(brush, row, clipRight, run);
-        run->x += L::kLanes;
-        if (run->x < run->end) {
+    Row part = RowAt<R>(row, run->x);
+    auto count = static_cast<std::int32_t>(run->end - run->x);
+    const auto beyond = static_cast<std::int32_t>(clipRight - run->end);
+    while (count > 0) {
+        DrawPart<L, R>(brush, part, count, beyond + count, run);
+        count -= L::kLanes;
+        if (count > 0) {
             Advance<L, R, true>(&run->at, run->step, L::kLanes);
+            part = RowAt<R>(part, L::kLanes);
         }
     }
 }
