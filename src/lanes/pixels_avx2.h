@@ -6,10 +6,9 @@
 namespace ombrel {
 namespace {
 
-struct Avx2Pixels : X86Pixels<Avx2Pixels, 8> {
-    using X86Pixels::DivChop;
-    using X86Pixels::Max;
-    using X86Pixels::Min;
+struct Avx2Pixels : AvxPixels<Avx2Pixels, 8> {
+    using AvxPixels::Max;
+    using AvxPixels::Min;
 
     OMBREL_INLINE static Words Min(Words a, Words b) {
         return (Words)_mm256_min_epu32((__m256i)a, (__m256i)b);
@@ -74,9 +73,6 @@ struct Avx2Pixels : X86Pixels<Avx2Pixels, 8> {
         return (Words)_mm256_madd_epi16((__m256i)a, (__m256i)b);
     }
 
-    OMBREL_INLINE static Octet JoinQuads(Quad low, Quad high) {
-        return (Octet)_mm256_set_m128i((__m128i)high, (__m128i)low);
-    }
     template <int k> OMBREL_INLINE static Ints Spread(Quad slots) {
         return (Ints)_mm256_shuffle_epi32(_mm256_broadcastsi128_si256((__m128i)slots), k * 0x55);
     }
@@ -85,36 +81,13 @@ struct Avx2Pixels : X86Pixels<Avx2Pixels, 8> {
         return (Ints)_mm256_shuffle_epi32(both, k % 4 * 0x55);
     }
 
-    // Numbers as doubles, which hold them exactly.
-    struct Doubles {
-        __m256d low, high;
-    };
     OMBREL_INLINE static Doubles ToDoubles(Ints a) {
         return {_mm256_cvtepi32_pd(_mm256_castsi256_si128((__m256i)a)),
                 _mm256_cvtepi32_pd(_mm256_extracti128_si256((__m256i)a, 1))};
     }
-    OMBREL_INLINE static Doubles ReciprocalsOf(Doubles a) {
-        const __m256d trace = _mm256_set1_pd(kTraceAboveOne);
-        return {_mm256_div_pd(trace, a.low), _mm256_div_pd(trace, a.high)};
-    }
     OMBREL_INLINE static Ints ChopProduct(Doubles a, Doubles b) {
         return (Ints)_mm256_set_m128i(_mm256_cvttpd_epi32(_mm256_mul_pd(a.high, b.high)),
                                       _mm256_cvttpd_epi32(_mm256_mul_pd(a.low, b.low)));
-    }
-    OMBREL_INLINE static Quad ScaleChop(Quad a, double factor) {
-        return (Quad)_mm256_cvttpd_epi32(
-            _mm256_mul_pd(_mm256_cvtepi32_pd((__m128i)a), _mm256_set1_pd(factor)));
-    }
-    OMBREL_INLINE static Octet ScaleChop(Octet a, double factor) {
-        const __m256d both = _mm256_set1_pd(factor);
-        return ChopProduct(ToDoubles(a), {both, both});
-    }
-    OMBREL_INLINE static Quad DivChop(Quad a, Quad n) {
-        const __m256d reciprocals =
-            _mm256_div_pd(_mm256_set1_pd(kTraceAboveOne), _mm256_cvtepi32_pd((__m128i)n));
-        const __m128i quotients =
-            _mm256_cvttpd_epi32(_mm256_mul_pd(_mm256_cvtepi32_pd((__m128i)a), reciprocals));
-        return (Quad)quotients & (n != 0);
     }
     OMBREL_INLINE static Pixels Average(Pixels a, Pixels b) {
         return (Pixels)_mm256_avg_epu16((__m256i)a, (__m256i)b);

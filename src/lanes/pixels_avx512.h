@@ -6,10 +6,10 @@
 namespace ombrel {
 namespace {
 
-struct Avx512Pixels : X86Pixels<Avx512Pixels, 16> {
-    using X86Pixels::DivChop;
-    using X86Pixels::Max;
-    using X86Pixels::Min;
+struct Avx512Pixels : AvxPixels<Avx512Pixels, 16> {
+    using AvxPixels::Max;
+    using AvxPixels::Min;
+    using AvxPixels::ScaleChop;
 
     OMBREL_INLINE static Words Min(Words a, Words b) {
         return (Words)_mm512_min_epu32((__m512i)a, (__m512i)b);
@@ -68,9 +68,6 @@ struct Avx512Pixels : X86Pixels<Avx512Pixels, 16> {
         return (Words)_mm512_madd_epi16((__m512i)a, (__m512i)b);
     }
 
-    OMBREL_INLINE static Octet JoinQuads(Quad low, Quad high) {
-        return (Octet)_mm256_set_m128i((__m128i)high, (__m128i)low);
-    }
     template <int k> OMBREL_INLINE static Ints Spread(Quad slots) {
         return (Ints)_mm512_broadcastd_epi32(_mm_shuffle_epi32((__m128i)slots, k * 0x55));
     }
@@ -78,37 +75,18 @@ struct Avx512Pixels : X86Pixels<Avx512Pixels, 16> {
         return Spread<k % 4>((Quad)_mm256_extracti128_si256((__m256i)slots, k / 4));
     }
 
-    // Numbers as doubles, which hold them exactly.
-    struct Doubles {
-        __m512d low, high;
-    };
     OMBREL_INLINE static Doubles ToDoubles(Ints a) {
         return {_mm512_cvtepi32_pd(_mm512_castsi512_si256((__m512i)a)),
                 _mm512_cvtepi32_pd(_mm512_extracti64x4_epi64((__m512i)a, 1))};
-    }
-    OMBREL_INLINE static Doubles ReciprocalsOf(Doubles a) {
-        const __m512d trace = _mm512_set1_pd(kTraceAboveOne);
-        return {_mm512_div_pd(trace, a.low), _mm512_div_pd(trace, a.high)};
     }
     OMBREL_INLINE static Ints ChopProduct(Doubles a, Doubles b) {
         const __m256i low = _mm512_cvttpd_epi32(_mm512_mul_pd(a.low, b.low));
         const __m256i high = _mm512_cvttpd_epi32(_mm512_mul_pd(a.high, b.high));
         return (Ints)_mm512_inserti64x4(_mm512_castsi256_si512(low), high, 1);
     }
-    OMBREL_INLINE static Quad ScaleChop(Quad a, double factor) {
-        return (Quad)_mm256_cvttpd_epi32(
-            _mm256_mul_pd(_mm256_cvtepi32_pd((__m128i)a), _mm256_set1_pd(factor)));
-    }
     OMBREL_INLINE static Octet ScaleChop(Octet a, double factor) {
         return (Octet)_mm512_cvttpd_epi32(
             _mm512_mul_pd(_mm512_cvtepi32_pd((__m256i)a), _mm512_set1_pd(factor)));
-    }
-    OMBREL_INLINE static Quad DivChop(Quad a, Quad n) {
-        const __m256d reciprocals =
-            _mm256_div_pd(_mm256_set1_pd(kTraceAboveOne), _mm256_cvtepi32_pd((__m128i)n));
-        const __m128i quotients =
-            _mm256_cvttpd_epi32(_mm256_mul_pd(_mm256_cvtepi32_pd((__m128i)a), reciprocals));
-        return (Quad)quotients & (n != 0);
     }
     OMBREL_INLINE static Pixels Average(Pixels a, Pixels b) {
         return (Pixels)_mm512_avg_epu16((__m512i)a, (__m512i)b);

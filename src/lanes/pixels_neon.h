@@ -11,7 +11,6 @@ namespace ombrel {
 namespace {
 
 struct NeonPixels : VectorPixels<NeonPixels, 4> {
-    using VectorPixels::DivChop;
 
     // The processor's own conversion gives the nearest integer, and 0 for what is no number.
     OMBREL_INLINE static Quad ToIntChop(Floats a) {
@@ -87,7 +86,6 @@ struct NeonPixels : VectorPixels<NeonPixels, 4> {
         return (Pixels)vrhaddq_u16((uint16x8_t)a, (uint16x8_t)b);
     }
 
-    OMBREL_INLINE static Octet JoinQuads(Quad low, Quad high) { return {low, high}; }
     template <int k> OMBREL_INLINE static Ints Spread(Quad a) {
         return (Ints)vdupq_laneq_s32((int32x4_t)a, k);
     }
@@ -95,32 +93,14 @@ struct NeonPixels : VectorPixels<NeonPixels, 4> {
         return Spread<k % 4>(k < 4 ? a.low : a.high);
     }
 
-    // Numbers as doubles, which hold them exactly.
-    struct Doubles {
-        float64x2_t low, high;
-    };
     OMBREL_INLINE static Doubles ToDoubles(Quad a) {
         return {vcvtq_f64_s64(vmovl_s32(vget_low_s32((int32x4_t)a))),
                 vcvtq_f64_s64(vmovl_high_s32((int32x4_t)a))};
-    }
-    OMBREL_INLINE static Doubles ReciprocalsOf(Doubles a) {
-        const float64x2_t trace = vdupq_n_f64(kTraceAboveOne);
-        return {vdivq_f64(trace, a.low), vdivq_f64(trace, a.high)};
     }
     // By way of 64 bits, of which the lower half stays: 2^31 becomes INT32_MIN.
     OMBREL_INLINE static Quad ChopProduct(Doubles a, Doubles b) {
         return (Quad)vuzp1q_s32((int32x4_t)vcvtq_s64_f64(vmulq_f64(a.low, b.low)),
                                 (int32x4_t)vcvtq_s64_f64(vmulq_f64(a.high, b.high)));
-    }
-    OMBREL_INLINE static Quad ScaleChop(Quad a, double factor) {
-        const float64x2_t both = vdupq_n_f64(factor);
-        return ChopProduct(ToDoubles(a), {both, both});
-    }
-    OMBREL_INLINE static Octet ScaleChop(Octet a, double factor) {
-        return {ScaleChop(a.low, factor), ScaleChop(a.high, factor)};
-    }
-    OMBREL_INLINE static Quad DivChop(Quad a, Quad n) {
-        return ChopProduct(ToDoubles(a), ReciprocalsOf(ToDoubles(n))) & (n != 0);
     }
 };
 

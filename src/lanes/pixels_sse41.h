@@ -7,7 +7,6 @@ namespace ombrel {
 namespace {
 
 struct Sse41Pixels : X86Pixels<Sse41Pixels, 4> {
-    using X86Pixels::DivChop;
     using X86Pixels::Max;
     using X86Pixels::Min;
 
@@ -70,7 +69,6 @@ struct Sse41Pixels : X86Pixels<Sse41Pixels, 4> {
         return (Words)_mm_madd_epi16((__m128i)a, (__m128i)b);
     }
 
-    OMBREL_INLINE static Octet JoinQuads(Quad low, Quad high) { return {low, high}; }
     template <int k> OMBREL_INLINE static Ints Spread(Quad a) {
         return (Ints)_mm_shuffle_epi32((__m128i)a, k * 0x55);
     }
@@ -78,30 +76,12 @@ struct Sse41Pixels : X86Pixels<Sse41Pixels, 4> {
         return Spread<k % 4>(k < 4 ? a.low : a.high);
     }
 
-    // Numbers as doubles, which hold them exactly.
-    struct Doubles {
-        __m128d low, high;
-    };
     OMBREL_INLINE static Doubles ToDoubles(Quad a) {
         return {_mm_cvtepi32_pd((__m128i)a), _mm_cvtepi32_pd(_mm_shuffle_epi32((__m128i)a, 0xEE))};
-    }
-    OMBREL_INLINE static Doubles ReciprocalsOf(Doubles a) {
-        const __m128d trace = _mm_set1_pd(kTraceAboveOne);
-        return {_mm_div_pd(trace, a.low), _mm_div_pd(trace, a.high)};
     }
     OMBREL_INLINE static Quad ChopProduct(Doubles a, Doubles b) {
         return (Quad)_mm_unpacklo_epi64(_mm_cvttpd_epi32(_mm_mul_pd(a.low, b.low)),
                                         _mm_cvttpd_epi32(_mm_mul_pd(a.high, b.high)));
-    }
-    OMBREL_INLINE static Quad ScaleChop(Quad a, double factor) {
-        const __m128d both = _mm_set1_pd(factor);
-        return ChopProduct(ToDoubles(a), {both, both});
-    }
-    OMBREL_INLINE static Octet ScaleChop(Octet a, double factor) {
-        return {ScaleChop(a.low, factor), ScaleChop(a.high, factor)};
-    }
-    OMBREL_INLINE static Quad DivChop(Quad a, Quad n) {
-        return ChopProduct(ToDoubles(a), ReciprocalsOf(ToDoubles(n))) & (n != 0);
     }
     OMBREL_INLINE static Pixels Average(Pixels a, Pixels b) {
         return (Pixels)_mm_avg_epu16((__m128i)a, (__m128i)b);

@@ -44,16 +44,19 @@ template <> struct VectorTypes<4> {
     using Words [[gnu::vector_size(16)]] = std::uint32_t;
     using Pixels [[gnu::vector_size(16)]] = std::uint16_t;
     using Floats [[gnu::vector_size(16)]] = float;
+    using Doubles [[gnu::vector_size(16)]] = double;
 };
 template <> struct VectorTypes<8> {
     using Ints [[gnu::vector_size(32)]] = std::int32_t;
     using Words [[gnu::vector_size(32)]] = std::uint32_t;
     using Pixels [[gnu::vector_size(32)]] = std::uint16_t;
+    using Doubles [[gnu::vector_size(32)]] = double;
 };
 template <> struct VectorTypes<16> {
     using Ints [[gnu::vector_size(64)]] = std::int32_t;
     using Words [[gnu::vector_size(64)]] = std::uint32_t;
     using Pixels [[gnu::vector_size(64)]] = std::uint16_t;
+    using Doubles [[gnu::vector_size(64)]] = double;
 };
 
 template <class L, int lanes> struct VectorPixels {
@@ -133,6 +136,7 @@ template <class L, int lanes> struct VectorPixels {
     OMBREL_INLINE static QuadPair Choose(bool first, QuadPair a, QuadPair b) {
         return {Choose(first, a.low, b.low), Choose(first, a.high, b.high)};
     }
+    OMBREL_INLINE static QuadPair JoinQuads(Quad low, Quad high) { return {low, high}; }
     template <class P> OMBREL_INLINE static P Divide(P a, std::int32_t n) {
         return L::ScaleChop(a, ReciprocalOfLength(n));
     }
@@ -143,6 +147,35 @@ template <class L, int lanes> struct VectorPixels {
         const Quad two = L::DivChop(over << 6, by >> 6) << 16;
         *left = __builtin_shufflevector(*left, two, 0, 1, 4, 5);
         *right = __builtin_shufflevector(*right, two, 0, 1, 6, 7);
+    }
+
+    // --- quotients
+
+    // Numbers as doubles, which hold them exactly: the lower half of the lanes and the higher one.
+    struct Doubles {
+        typename VectorTypes<lanes>::Doubles low, high;
+    };
+    OMBREL_INLINE static Doubles ReciprocalsOf(const Doubles& a) {
+        return {kTraceAboveOne / a.low, kTraceAboveOne / a.high};
+    }
+    OMBREL_INLINE static Ints ScaleChop(Ints a, double factor) {
+        const auto all = typename VectorTypes<lanes>::Doubles{} + factor;
+        return L::ChopProduct(L::ToDoubles(a), {all, all});
+    }
+    OMBREL_INLINE static QuadPair ScaleChop(QuadPair a, double factor) {
+        return {ScaleChop(a.low, factor), ScaleChop(a.high, factor)};
+    }
+    OMBREL_INLINE static Ints DivChop(Ints a, Ints n) {
+        return L::ChopProduct(L::ToDoubles(a), ReciprocalsOf(L::ToDoubles(n))) & (n != 0);
+    }
+    struct Quotients {
+        Ints a, b;
+    };
+    OMBREL_INLINE static Quotients DivChop(Ints a, Ints b, Ints n) {
+        const auto reciprocals = ReciprocalsOf(L::ToDoubles(n));
+        const Ints defined = n != 0;
+        return {L::ChopProduct(L::ToDoubles(a), reciprocals) & defined,
+                L::ChopProduct(L::ToDoubles(b), reciprocals) & defined};
     }
 
     // --- lanes
@@ -160,15 +193,6 @@ template <class L, int lanes> struct VectorPixels {
     }
     OMBREL_INLINE static Pixels Alone(Pixels only) { return only; }
     OMBREL_INLINE static Pixels Alone(Words only) { return L::Join(only, only); }
-    struct Quotients {
-        Ints a, b;
-    };
-    OMBREL_INLINE static Quotients DivChop(Ints a, Ints b, Ints n) {
-        const auto reciprocals = L::ReciprocalsOf(L::ToDoubles(n));
-        const Ints defined = n != 0;
-        return {L::ChopProduct(L::ToDoubles(a), reciprocals) & defined,
-                L::ChopProduct(L::ToDoubles(b), reciprocals) & defined};
-    }
 
     // --- colours
 

@@ -12,7 +12,6 @@ namespace ombrel {
 namespace {
 
 struct WasmPixels : VectorPixels<WasmPixels, 4> {
-    using VectorPixels::DivChop;
     using Floats = CutFloats;
 
     OMBREL_INLINE static Floats LoadFloats(const Single* from) {
@@ -105,7 +104,6 @@ struct WasmPixels : VectorPixels<WasmPixels, 4> {
         return (Pixels)wasm_u16x8_avgr((v128_t)a, (v128_t)b);
     }
 
-    OMBREL_INLINE static Octet JoinQuads(Quad low, Quad high) { return {low, high}; }
     template <int k> OMBREL_INLINE static Ints Spread(Quad a) {
         return __builtin_shufflevector(a, a, k, k, k, k);
     }
@@ -113,18 +111,10 @@ struct WasmPixels : VectorPixels<WasmPixels, 4> {
         return Spread<k % 4>(k < 4 ? a.low : a.high);
     }
 
-    // Numbers as doubles, which hold them exactly.
-    struct Doubles {
-        v128_t low, high;
-    };
     OMBREL_INLINE static Doubles ToDoubles(Quad a) {
         const v128_t v = (v128_t)a;
         return {wasm_f64x2_convert_low_i32x4(v),
                 wasm_f64x2_convert_low_i32x4(wasm_i64x2_shuffle(v, v, 1, 1))};
-    }
-    OMBREL_INLINE static Doubles ReciprocalsOf(Doubles a) {
-        const v128_t trace = wasm_f64x2_splat(kTraceAboveOne);
-        return {wasm_f64x2_div(trace, a.low), wasm_f64x2_div(trace, a.high)};
     }
     // Cut, and moved to where the lowest bits of a double count ones: of these the lower half
     // stays, and 2^31 becomes INT32_MIN.
@@ -133,16 +123,6 @@ struct WasmPixels : VectorPixels<WasmPixels, 4> {
         const v128_t low = wasm_f64x2_add(wasm_f64x2_trunc(wasm_f64x2_mul(a.low, b.low)), ones);
         const v128_t high = wasm_f64x2_add(wasm_f64x2_trunc(wasm_f64x2_mul(a.high, b.high)), ones);
         return (Quad)wasm_i32x4_shuffle(low, high, 0, 2, 4, 6);
-    }
-    OMBREL_INLINE static Quad ScaleChop(Quad a, double factor) {
-        const v128_t both = wasm_f64x2_splat(factor);
-        return ChopProduct(ToDoubles(a), {both, both});
-    }
-    OMBREL_INLINE static Octet ScaleChop(Octet a, double factor) {
-        return {ScaleChop(a.low, factor), ScaleChop(a.high, factor)};
-    }
-    OMBREL_INLINE static Quad DivChop(Quad a, Quad n) {
-        return ChopProduct(ToDoubles(a), ReciprocalsOf(ToDoubles(n))) & (n != 0);
     }
 };
 

@@ -34,5 +34,32 @@ template <class L, int lanes> struct X86Pixels : VectorPixels<L, lanes> {
     }
 };
 
+#ifdef __AVX2__
+// Four numbers as doubles fill one vector, and eight attributes do.
+template <class L, int lanes> struct AvxPixels : X86Pixels<L, lanes> {
+    using X86Pixels<L, lanes>::DivChop;
+    using X86Pixels<L, lanes>::ScaleChop;
+    using typename X86Pixels<L, lanes>::Quad;
+    using typename X86Pixels<L, lanes>::Octet;
+
+    OMBREL_INLINE static Octet JoinQuads(Quad low, Quad high) {
+        return (Octet)_mm256_set_m128i((__m128i)high, (__m128i)low);
+    }
+    OMBREL_INLINE static Quad ScaleChop(Quad a, double factor) {
+        return ChopProduct(_mm256_cvtepi32_pd((__m128i)a), _mm256_set1_pd(factor));
+    }
+    OMBREL_INLINE static Quad DivChop(Quad a, Quad n) {
+        const __m256d divisors = _mm256_cvtepi32_pd((__m128i)n);
+        const __m256d reciprocals = _mm256_div_pd(_mm256_set1_pd(kTraceAboveOne), divisors);
+        return ChopProduct(_mm256_cvtepi32_pd((__m128i)a), reciprocals) & (n != 0);
+    }
+
+private:
+    OMBREL_INLINE static Quad ChopProduct(__m256d a, __m256d b) {
+        return (Quad)_mm256_cvttpd_epi32(_mm256_mul_pd(a, b));
+    }
+};
+#endif
+
 } // namespace
 } // namespace ombrel
