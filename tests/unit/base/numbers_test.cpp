@@ -117,6 +117,11 @@ TEST(ParseFloat, TooLargeAndTooSmall) {
     EXPECT_EQ(ParseFloat("3.5e38", nullptr), kInfinity);
     EXPECT_EQ(ParseFloat("1e99999999999999999999", nullptr), kInfinity);
     EXPECT_EQ(ParseFloat("1e-99999999999999999999", nullptr), 0.0F);
+    // (Cut to 32 or 64 bits, these exponents change their sign.)
+    EXPECT_EQ(ParseFloat("1e3000000000", nullptr), kInfinity);
+    EXPECT_EQ(ParseFloat("1e-3000000000", nullptr), 0.0F);
+    EXPECT_EQ(ParseFloat("1e9999999999999999999", nullptr), kInfinity);
+    EXPECT_EQ(ParseFloat("1e-9999999999999999999", nullptr), 0.0F);
     EXPECT_EQ(BitsOf(ParseFloat("-1e-99", nullptr)), 0x80000000U);
     EXPECT_EQ(ParseFloat("0e99999999999999999999", nullptr), 0.0F);
     EXPECT_EQ(ParseFloat((std::string(400, '9')).c_str(), nullptr), kInfinity);

@@ -12,6 +12,7 @@
 #include "player/black_starts.h"
 #include "player/chapters.h"
 #include "player/looks.h"
+#include "player/snapshot.h"
 #include "player/unseen.h"
 #include "raster/blend_tables.h"
 
@@ -76,6 +77,28 @@ TEST_F(Show, SnapshotsStayWithinTheirMemory) {
     EXPECT_GT(SnapshotBytes(), 0U);
     EXPECT_LE(SnapshotBytes(), std::size_t{1} << 20);
     EXPECT_EQ(SeekShow(95, nullptr, nullptr), 95);
+}
+
+TEST_F(Show, ASnapshotOfAnotherSizeIsRefusedAndNothingChanges) {
+    ASSERT_TRUE(StepShow());
+    const std::uint64_t early = BackSurfaceHash();
+    Snapshot snapshot = TakeSnapshot();
+    ASSERT_NE(snapshot.bytes, nullptr);
+    for (int i = 0; i < 40; ++i) {
+        ASSERT_TRUE(StepShow());
+    }
+    const std::uint64_t late = BackSurfaceHash();
+    ASSERT_NE(late, early);
+    const std::size_t size = snapshot.size;
+    for (const std::size_t other : {size - 1, size + 1}) {
+        snapshot.size = other;
+        EXPECT_FALSE(RestoreSnapshot(snapshot));
+        EXPECT_EQ(BackSurfaceHash(), late);
+    }
+    snapshot.size = size;
+    EXPECT_TRUE(RestoreSnapshot(snapshot));
+    EXPECT_EQ(BackSurfaceHash(), early);
+    EXPECT_FALSE(RestoreSnapshot({}));
 }
 
 TEST_F(Show, ASeekEndsWhenItIsToldTo) {

@@ -295,6 +295,18 @@ TEST_F(Sorting, TheAverageIsTheSumTimesAThirdCutShort) {
     EXPECT_EQ(Compared(CompareFaceAverageDepth, c, d), 0);
 }
 
+TEST_F(Sorting, TheAverageKeepsSumsApartThatTrueThirdsMakeEqual) {
+    // Above 1.5 the result of a division by 3 has coarser steps than the product with 0.33333 has.
+    const RenderFace* nearest = AtDepths(1.0F, 0.5F, 0.0F);
+    const RenderFace* middle = AtDepths(0x1.000002p0F, 0.5F, 0.0F);
+    const RenderFace* farthest = AtDepths(0x1.000004p0F, 0.5F, 0.0F);
+    for (const FloatMode mode : {FloatMode::Chop, FloatMode::Nearest}) {
+        const ScopedFloatMode scoped(mode);
+        EXPECT_EQ(Compared(CompareFaceAverageDepth, middle, nearest), -1);
+        EXPECT_EQ(Compared(CompareFaceAverageDepth, farthest, middle), -1);
+    }
+}
+
 TEST_F(Sorting, OnlyPointersMove) {
     AtDepths(1, 1, 1);
     AtDepths(2, 2, 2);
