@@ -15,6 +15,7 @@ import os
 import pathlib
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -25,7 +26,8 @@ LIST = ROOT / "tests/mutants.txt"
 TREE = ROOT / "build/mutants/tree"
 BUILD = TREE / "build/release"
 NUMBERED = TREE / "build/numbered"  # the programs that make mistakes by number
-LIMIT = 300  # seconds of a test program; one that hangs has noticed as well
+LIMIT = 300  # seconds of a processor for a test program; one that loops for ever has noticed as well
+WAITS = 1800  # seconds on the clock; no verdict comes of them, for the machine may be busy
 # Fewer random triangles and no second look once a test has failed; the rest as in every run.
 ENVIRONMENT = {**os.environ, "OMBREL_RANDOM_SHARE": "0.1", "GTEST_FAIL_FAST": "1",
                "GTEST_BRIEF": "1"}
@@ -203,10 +205,13 @@ def seen_by(folder, tests, number):
     program, *options = tests.split()
     with tempfile.TemporaryDirectory() as own:
         try:
-            tested = run([folder / program, *(f"--gtest_filter={option}" for option in options)],
-                         limit=LIMIT, OMBREL_MUTANT=str(number), TMPDIR=own, TEST_TMPDIR=own)
+            tested = run(["prlimit", f"--cpu={LIMIT}:{LIMIT + 10}", folder / program,
+                          *(f"--gtest_filter={option}" for option in options)],
+                         limit=WAITS, OMBREL_MUTANT=str(number), TMPDIR=own, TEST_TMPDIR=own)
         except subprocess.TimeoutExpired:
-            return True, "hangs"
+            return False, f"no end after {WAITS} s"
+    if tested.returncode == -signal.SIGXCPU:
+        return True, f"loops: {LIMIT} s of a processor"
     said = re.findall(r"\[  FAILED  \] ([^\s(,]+)", tested.stdout.decode(errors="replace"))
     return tested.returncode != 0, said[0] if said else f"exit code {tested.returncode}"
 
