@@ -31,9 +31,10 @@ WAITS = 1800  # seconds on the clock; no verdict comes of them, for the machine 
 # Fewer random triangles and no second look once a test has failed; the rest as in every run.
 ENVIRONMENT = {**os.environ, "OMBREL_RANDOM_SHARE": "0.1", "GTEST_FAIL_FAST": "1",
                "GTEST_BRIEF": "1"}
-# Templates that are compiled once for each set of lanes: one of them is enough where a mistake is built
-# alone. (What begins first counts.)
-LANES = {"src/lanes/pixels_plain.h": "plain", "src/lanes/": "sse41", "src/raster/": "sse41"}
+# Templates that are compiled once for each set of lanes: where a mistake is built alone, these are tried
+# one after the other until it is noticed. (What begins first counts. The careful fillers are plain.)
+LANES = {"src/lanes/pixels_plain.h": ["plain"], "src/lanes/": ["sse41"],
+         "src/raster/": ["sse41", "plain"]}
 # The number of the mistake that a run makes; none without one.
 NUMBER_HEADER = """#pragma once
 #include <cstdlib>
@@ -218,10 +219,19 @@ def seen_by(folder, tests, number):
 
 def seen_alone(mutant):
     """The same, with a build that makes this mistake only. None for one that is not built."""
+    header = mutant.path.endswith(".h")
+    for lanes in next((lanes for start, lanes in LANES.items()
+                       if header and mutant.path.startswith(start)), [None]):
+        notices, seen = seen_in(mutant, lanes)
+        if notices is not False:
+            break
+    return notices, seen
+
+
+def seen_in(mutant, lanes):
+    """The same, in all that a changed file is compiled into, or in the fillers of one set of lanes."""
     file = TREE / mutant.path
     before, times = file.read_bytes(), file.stat()
-    lanes = next((lanes for start, lanes in LANES.items()
-                  if mutant.path.startswith(start) and file.suffix == ".h"), None)
 
     def put(content):
         file.write_bytes(content)

@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "app/vector_choice.h"
+#include "demo/blur.h"
 #include "demo/reset.h"
 #include "raster/paths.h"
+#include "scene/front_end.h"
 
 namespace ombrel {
 namespace {
@@ -19,7 +21,7 @@ protected:
     }
 };
 
-TEST_F(VectorChoice, PutsTheNamedTableInPlace) {
+TEST_F(VectorChoice, PutsTheNamedPathInPlaceEverywhere) {
     for (const VectorPath path : kPathsHere) {
         if (!ProcessorRuns(path)) {
             continue;
@@ -31,6 +33,8 @@ TEST_F(VectorChoice, PutsTheNamedTableInPlace) {
         for (int i = 0; i < kFillerCount; ++i) {
             EXPECT_EQ(activeFillers[i], RasterPathOf(path).fillers[i]) << NameOf(path) << " " << i;
         }
+        EXPECT_EQ(activeFrontEnd, FrontEndOf(path)) << NameOf(path);
+        EXPECT_EQ(activeBlur, RasterPathOf(path).blurRow) << NameOf(path);
     }
 }
 
@@ -52,6 +56,8 @@ TEST_F(VectorChoice, IsTakenBackByTheReset) {
     for (int i = 0; i < kFillerCount; ++i) {
         EXPECT_EQ(activeFillers[i], kPlainPath.fillers[i]) << i;
     }
+    EXPECT_EQ(activeFrontEnd, nullptr);
+    EXPECT_EQ(activeBlur, nullptr);
 }
 
 } // namespace
