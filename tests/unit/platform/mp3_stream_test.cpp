@@ -2,9 +2,11 @@
 #include "platform/sdl2/mp3_stream.h"
 
 #include <gtest/gtest.h>
+#include <lame/lame.h>
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -19,6 +21,26 @@ constexpr char kSoundtrack[] = OMBREL_SOURCE_DIR "/data/sfx/soundtrack.mp3";
 std::string Content(const char* path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+// Samples of two channels, interleaved, as an MP3 file that says how many its encoder put around
+// them.
+std::string Encoded(std::vector<short> samples) {
+    const int count = static_cast<int>(samples.size() / 2);
+    lame_global_flags* const encoder = lame_init();
+    lame_set_in_samplerate(encoder, 44100);
+    lame_set_num_channels(encoder, 2);
+    lame_set_brate(encoder, 320);
+    lame_set_bWriteVbrTag(encoder, 1);
+    EXPECT_GE(lame_init_params(encoder), 0);
+    std::vector<unsigned char> file(samples.size() * 2 + 100000);
+    const int room = static_cast<int>(file.size());
+    int size = lame_encode_buffer_interleaved(encoder, samples.data(), count, file.data(), room);
+    size += lame_encode_flush(encoder, file.data() + size, room - size);
+    // The first frame has kept the place of the one that tells.
+    EXPECT_GT(lame_get_lametag_frame(encoder, file.data(), file.size()), 0U);
+    lame_close(encoder);
+    return {file.begin(), file.begin() + size};
 }
 
 class Mp3StreamTest : public testing::Test {
@@ -60,6 +82,30 @@ TEST_F(Mp3StreamTest, TheSoundtrackHasItsLengthWithoutWhatTheEncoderAdded) {
     EXPECT_GT(*high, 8000);
     short more[kMp3FrameSamples * 2];
     EXPECT_EQ(ReadMp3(&stream_, more), 0);
+}
+
+TEST_F(Mp3StreamTest, EverySampleStandsAtItsPlaceInItsChannel) {
+    constexpr int kCount = 20000, kPeaks[2] = {5000, 9000};
+    std::vector<short> pulses(std::size_t{2} * kCount);
+    for (int channel = 0; channel < 2; ++channel) {
+        for (int i = 0; i < kCount; ++i) {
+            const double away = (i - kPeaks[channel]) / 40.0;
+            pulses[static_cast<std::size_t>(2 * i + channel)] =
+                static_cast<short>(20000.0 * std::exp(-away * away));
+        }
+    }
+    ASSERT_TRUE(Opens(Encoded(pulses)));
+    ASSERT_EQ(stream_.channels, 2);
+    const std::vector<short> heard = Rest();
+    ASSERT_EQ(heard.size(), pulses.size());
+    for (int channel = 0; channel < 2; ++channel) {
+        int highest = 0;
+        for (int i = 0; i < kCount; ++i) {
+            const auto at = [&](int k) { return heard[static_cast<std::size_t>(2 * k + channel)]; };
+            highest = at(i) > at(highest) ? i : highest;
+        }
+        EXPECT_NEAR(highest, kPeaks[channel], 10) << channel;
+    }
 }
 
 TEST_F(Mp3StreamTest, WhatStandsBeforeAndBehindTheMusicIsPassedOver) {
