@@ -18,12 +18,13 @@ MATERIALS = {
 
 
 def material(key):
-    """'plain:matte:12,34,56', 'tex:plastic:4' (filter level 4) or a key of the table."""
+    """'plain:matte:12,34,56', 'veil:constant:12,34,56:2' (the same, filter level 2), 'tex:plastic:4'
+    (filter level 4) or a key of the table."""
     if key in MATERIALS:
         return MATERIALS[key]
-    kind, cls, arg = key.split(":")
-    if kind == "plain":
-        return (False, cls, tuple(int(v) for v in arg.split(",")), None)
+    kind, cls, arg, *level = key.split(":")
+    if kind in ("plain", "veil"):
+        return (False, cls, tuple(int(v) for v in arg.split(",")), int(level[0]) if level else None)
     return (True, cls, None, int(arg))
 
 

@@ -236,7 +236,8 @@ def stand():
                     for r in (8600, 7000, 5600, 4400, 3300, 2400, 1500)])
     uv = [[(0.75 + 0.248 * x / 8600, 0.25 + 0.248 * y / 8600) for x, y, _ in row] for row in pts]
     surface(m, pts, (255, 255, 255), "constant", wrap_i=True, uv=uv)
-    for make in (lights.plankton, lights.fireflies, lights.sky_lanterns, lights.tentacles):
+    for make in (lights.plankton, lights.fireflies, lights.sky_lanterns, lights.water_lanterns,
+                 lights.tentacles):
         m.join(make(), (0, 0, up))
     return weld(m)
 

@@ -67,11 +67,11 @@ def scene_two():
         ("under the canopy, lanterns turn", -610, 470, -830, -17, 38),
         ("round the pole, out to the lighthouse", -420, 520, -560, -13, 44),
         ("the parasol's other side", 150, 560, -640, -8, 20),
-        ("out of the parasol, over the tables", 860, 640, -900, 0, -34),
-        ("out to sea", 1720, 830, -1400, 9, -51),
-        ("the island smaller", 2580, 960, -1850, 12.5, -56),
-        ("the whole island", 3250, 960, -2150, 12.5, -57),
-        ("down to the water", 3120, 640, -2620, 9, -48),
+        ("out of the parasol, over the tables", 736, 870, -1140, 14, -19),
+        ("out to sea, the whole island", 2330, 960, -2030, 12, -37),
+        ("along the shore, higher", 2760, 1400, -1580, 19, -57),
+        ("back over the dial", 1407, 1400, -1025, 17, -57),
+        ("down to the water", 1640, 640, -2200, 17, -43),
     ]
 
     def at(name, b, r, h, down, ay):
@@ -83,21 +83,21 @@ def scene_two():
     at("among the tentacles", 178, 2500, -820, -12, 361)
     at("along them, down", 199, 2200, -1220, -15, 386)
     at("the skirt sweeps past", 224, 1800, -1650, -21, 414)
-    at("inside the skirt", 252, 1300, -1980, -33, 442)
-    at("towards the spine", 283, 700, -2180, -55, 470)
-    at("under the spine", 315, 200, -2230, -80, 497)
-    at("straight up", 0, 0, -1950, -90, 527)
-    at("up into the spine", 0, 0, -1560, -90, 560)
+    at("inside the skirt", 252, 1300, -1980, -33, 446)
+    at("towards the spine", 283, 700, -2180, -55, 482)
+    at("under the spine", 315, 200, -2230, -80, 524)
+    at("straight up", 0, 0, -1950, -90, 549)
+    at("up into the spine", 0, 0, -1560, -90, 572)
     at("the bell fills the sky", 0, 0, -1240, -90, 600)
     at("back down", 225, 130, -1420, -81, 648)
-    at("away, down and out", 225, 900, -2020, -52, 702)
-    at("away, through the skirt", 225, 1750, -2290, -32, 742)
-    at("the medusa whole", 225, 2340, -2160, -24, 751)
-    at("credits", 225, 2650, -2040, -20.5, 751)
-    at("credits", 225, 2820, -1960, -18.8, 750)
-    at("rest", 225, 2890, -1920, -18.1, 749.2)
-    at("rest", 225, 2910, -1910, -17.9, 749)
-    at("rest", 225, 2910, -1910, -17.9, 749)
+    at("away, down and out", 225, 1100, -2050, -50, 702)
+    at("away, through the skirt", 225, 2450, -1900, -26, 742)
+    at("the medusa whole", 224, 3400, -1400, -10.5, 752)
+    at("credits", 222, 3720, -1330, -9, 753.5)
+    at("credits", 219, 3850, -1290, -8.4, 751.5)
+    at("rest", 217.5, 3880, -1280, -8.3, 750)
+    at("rest", 217.5, 3880, -1280, -8.3, 750)
+    at("rest", 217.5, 3880, -1280, -8.3, 750)
     return keys
 
 

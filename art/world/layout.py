@@ -90,12 +90,12 @@ def rows():
                        (2300, 2850, 200, 1.1)):
         r.append(("spire", x, y, -30, b, s))
     r += [("boat", 430, -2680, -14, 60, 1.0), ("boat", -1560, -2250, -14, 300, 1.0),
-          ("boat", 2350, 420, -14, 20, 1.1)]
+          ("boat", 2350, 420, -14, 20, 1.1), ("boat", -2050, 1750, 0, 130, 0.9)]
     r += [("garlands", 0, 0, 0, 0, 1), ("paper-boats", 0, 0, 0, 0, 1), ("signs", 0, 0, 0, 0, 1),
           ("traces", 0, 0, 0, 0, 1)]
-    # the turning pair, a quiet one between, and the line that is never drawn
+    # the turning pair, the beam over all that is drawn before it, and the line that is never drawn
     r += [("lantern-ring", 0, 0, island.PLAZA_TOP, 0, 1), ("canopy", 0, 0, island.PLAZA_TOP, 0, 1),
-          ("boat", -2050, 1750, 0, 130, 0.9), ("dummy", 0, 0, 40, 0, 1)]
+          ("beam", 0, 0, 0, 0, 1), ("dummy", 0, 0, 40, 0, 1)]
     out = []
     for name, x, y, z, turn, size in r:
         if z is None:

@@ -417,6 +417,54 @@ def sky_lanterns():
     return m
 
 
+GLOW_ON_WATER = "veil:constant:255,140,40:1"
+
+
+def water_lanterns():
+    """Paper lanterns that float on the sea, each in its own pool of light; they drift with the stand,
+    so that the day has none before it is seen from outside."""
+    m = Mesh()
+    for k, (x, y, call) in enumerate(places.water_lanterns()):
+        # The stand has turned back by so much when the eye comes by.
+        b = math.atan2(x, y) + math.radians(0.02 * (places.OUTSIDE + call))
+        size = 1.05 + 0.1 * (k * 5 % 4)
+        one = Mesh()
+        # three discs, each smaller and above the last: the glow gathers at the lantern
+        for radius, up in ((118, 4), (74, 9), (38, 14)):
+            wide = radius * (0.66 if call == places.DIVE else 1.0)
+            lathe(one, [(wide, up), (0.01, up + 1)], 8, (255, 140, 40), GLOW_ON_WATER)
+        lathe(one, [(13, 8), (14.4, 17)], 4, (255, 120, 50), "plain:constant:246,126,52")
+        lathe(one, [(14.4, 17), (17, 34)], 4, (255, 170, 60), "plain:constant:255,176,66")
+        lathe(one, [(17, 34), (0.01, 43)], 4, (255, 120, 50), "plain:constant:246,126,52")
+        m.join(one, polar(b, math.hypot(x, y), 0.0), 37.0 * k, size)
+    return m
+
+
+BEAM = "veil:constant:255,228,184:1"
+
+
+def beam():
+    """The lighthouse's two beams.  A blend before the night's sky, which is drawn last, stays: nothing
+    clears the picture, and what it covers grows to its full colour.  So a beam is a sheaf of narrow
+    rays: the blur mixes them with the sky between, the less the farther they part.  By day they are a
+    seventh of a colour that is nearly the sky's."""
+    m = Mesh()
+    x, y, z = places.LAMP_ROOM
+    rays = 9
+    for bearing in (285, 105):
+        for k in range(rays):
+            # spread over a disc, as evenly as seeds in a sunflower
+            off, turn = 5.5 * math.sqrt((k + 0.5) / rays), 2.39996 * k
+            b = math.radians(bearing + off * math.cos(turn))
+            up = math.radians(13 + off * math.sin(turn))
+            ahead = np.array((math.sin(b) * math.cos(up), math.cos(b) * math.cos(up), math.sin(up)))
+            path = [np.array((x, y, z)) + far * ahead for far in (40, 2400)]
+            half = [np.array((0, 0, w)) for w in (6, 9)]
+            v = [path[0] - half[0], path[1] - half[1], path[1] + half[1], path[0] + half[0]]
+            both_sides(m, v, [(0, 1, 2), (0, 2, 3)], BEAM)
+    return m
+
+
 BRASS, CREAM = "plain:plastic:206,154,74", "plain:matte:239,227,206"
 INK, WOOD, CORAL = "plain:matte:44,36,46", "plain:matte:123,93,82", "plain:matte:214,97,74"
 

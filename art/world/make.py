@@ -31,7 +31,7 @@ MODELS = {
 
 # Objects of lights alone, without a picture.
 LIGHTS = {"garlands": lights.garlands, "paper-boats": lights.paper_boats,
-          "signs": lights.signs, "traces": lights.traces}
+          "signs": lights.signs, "traces": lights.traces, "beam": lights.beam}
 # Height of the water in the frame of what stands in it.
 FOAM = {"reef": 20, "spire": 30, "boat": 14}
 # Lights that turn with an object; they are added after its bake.

@@ -10,7 +10,7 @@ FIXED = {"sky-sphere-04", "sky-sphere-04-alpha0", "sky-sphere-04-alpha-s2", "sta
          "ground-lowpoly-03", "ground-lowpoly-03-alpha", "light_debug", "sea"}
 
 
-LIGHTS = {"garlands", "paper-boats", "signs", "traces"}
+LIGHTS = {"garlands", "paper-boats", "signs", "traces", "beam"}
 
 
 def entry(name):

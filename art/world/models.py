@@ -22,6 +22,8 @@ CREAM = (239, 227, 206)
 TEAL = (57, 130, 132)
 BRASS = (206, 154, 74)
 MORTAR = (190, 172, 152)
+# Not baked: light from the sky does not reach into joints, and far away they would show as black crumbs.
+IN_JOINTS = "plain:matte:164,146,128"
 LEAF = (82, 125, 99)
 LEAF2 = (107, 142, 99)
 COPPER = (90, 158, 148)
@@ -178,7 +180,7 @@ def gate():
         box(m, (x, 0, -60), (230, depth + 110, 92), STONE2, taper=0.97)
         box(m, (x, 0, 32), (190, depth + 60, 34), STONE, taper=0.96)
         # mortar fills the joints: it stands back by little
-        box(m, (x, 0, 60), (134, depth - 7, spring - 66), MORTAR)
+        box(m, (x, 0, 60), (134, depth - 7, spring - 66), MORTAR, IN_JOINTS)
         z = 66.0
         for k in range(6):
             h = 48.5 + rnd()
@@ -206,17 +208,17 @@ def gate():
         # 0-3 front (y -d), 4-7 back
         quads = [(0, 1, 2, 3), (7, 6, 5, 4), (1, 5, 6, 2), (0, 3, 7, 4)]
         hexa(m, cs, col, "matte", quads)
-    # core ring behind the joints
+    # core ring behind the joints, cut where the stones are, so that no edge of it stands out
     pts = []
-    for k in range(13):
-        a = math.pi * k / 12
+    for k in range(count + 1):
+        a = math.pi * k / count
         c, s = math.cos(a), math.sin(a)
-        d = depth / 2 - 5
-        r0, r1 = half + 9, half + 124
+        d = depth / 2 - 6
+        r0, r1 = half + 11, half + 120
         pts.append([(r0 * c, d, spring + r0 * s), (r0 * c, -d, spring + r0 * s),
                     (r1 * c, -d, spring + r1 * s), (r1 * c, d, spring + r1 * s),
                     (r0 * c, d, spring + r0 * s)])
-    surface(m, pts, MORTAR, "matte", flip=True)
+    surface(m, pts, MORTAR, IN_JOINTS, flip=True)
     return m
 
 

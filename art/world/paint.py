@@ -152,7 +152,7 @@ def sea_night(day):
     """Dark water: what the moving lights paint on."""
     grey = day.mean(axis=-1, keepdims=True)
     d = 1.5 * (day - day.mean(axis=(0, 1))) + day.mean(axis=(0, 1))
-    return np.clip((0.75 * d + 0.25 * grey) * np.array((0.62, 0.66, 0.86)), 0, 255)
+    return np.clip((0.75 * d + 0.25 * grey) * np.array((0.88, 0.86, 1.06)), 0, 255)
 
 
 def sand_color(x, y, h, seed=40):

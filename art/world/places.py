@@ -1,5 +1,6 @@
 """Places that lights are tied to, in map coordinates (X east, Y north, Z up)."""
 import math
+import random
 
 import island
 from layout import GATES
@@ -58,3 +59,36 @@ CHAIRS = ((1010, -560, 30, False), (1075, -690, 110, True), (330, -470, 70, True
 HATS = ((395, -395, island.PLAZA_TOP + 1), (1130, -700, island.PLAZA_TOP + 80))
 CUPS = ((1152, -690, island.PLAZA_TOP + 80), (1220, -330, island.PLAZA_TOP + 80),
         (-820, -860, island.PLAZA_TOP + 80))
+
+
+LAMP_ROOM = (1500, 1300, 1116)
+OUTSIDE = 238                   # frames of scene one that draw the stand
+DIVE = 1795                     # call of scene two in which the eye goes below the sea
+ROCKS_IN_WATER = ((-2650, -1250), (2500, -2150), (-700, 2950), (3150, -900), (2650, -1450), (2350, 420))
+
+
+def _beside(eye, bearing, offsets, call):
+    """Places ahead of an eye and to its right, for a call of scene two."""
+    b = math.radians(bearing)
+    return [(eye[0] + ahead * math.sin(b) + right * math.cos(b),
+             eye[1] + ahead * math.cos(b) - right * math.sin(b), call) for ahead, right in offsets]
+
+
+def water_lanterns():
+    """Where lanterns float, x, y, and the call of scene two at which they are there: beside the way
+    as the night begins, along the shore, and where the eye goes down."""
+    out = _beside((-1154, -2583), 34, (
+        (-90, -230), (-40, 110), (90, -420), (230, -200), (330, 150), (470, -380), (560, 40),
+        (690, -560), (740, -160), (800, 210), (330, -680), (620, -920), (900, -820)), 150)
+    out += _beside((1850, -2810), -34, (
+        (62, -66), (105, 84), (45, 175), (165, -215), (185, 10), (265, 190), (330, -120), (430, 360),
+        (470, 40), (560, -330), (660, 210), (790, -90), (860, 520), (980, -330), (1080, 60),
+        (700, -800)), DIVE)
+    rnd = random.Random(4)
+    while len(out) < 46:
+        b, r = math.radians(85 + 100 * rnd.random()), 2080 + 800 * rnd.random()
+        x, y = r * math.sin(b), r * math.cos(b)
+        if all(math.dist((x, y), p) > 430 for p in ROCKS_IN_WATER) and all(
+                math.dist((x, y), p[:2]) > 230 for p in out[29:]):
+            out.append((x, y, 1330))
+    return out
