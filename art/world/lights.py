@@ -13,6 +13,7 @@ import island
 import places
 from geometry import Mesh, box, lathe, surface, tube
 from layout import GATES
+from models import IN_JOINTS
 
 # Names of lights; a glow keeps its hue only where green does not outlast the other channels.
 TEAL = "plain:constant:40,230,200"
@@ -642,7 +643,7 @@ def foam_of_gate():
             out = 7 + 12 * rnd.rand()
             at = [(side * 340 + (half_x + w) * u, (half_y + w) * v, level) for w in (out, -6)]
             pts.append(at)
-        surface(m, pts, (226, 224, 222), FOAM, wrap_i=True)
+        surface(m, pts, (226, 224, 222), IN_JOINTS, wrap_i=True)
     return m
 
 

@@ -23,7 +23,8 @@ TEAL = (57, 130, 132)
 BRASS = (206, 154, 74)
 MORTAR = (190, 172, 152)
 # Not baked: light from the sky does not reach into joints, and far away they would show as black crumbs.
-IN_JOINTS = "plain:matte:164,146,128"
+# The foam around the gates shares it: each gate counts its materials again.
+IN_JOINTS = "plain:matte:192,182,168"
 LEAF = (82, 125, 99)
 LEAF2 = (107, 142, 99)
 COPPER = (90, 158, 148)
@@ -213,8 +214,8 @@ def gate():
     for k in range(count + 1):
         a = math.pi * k / count
         c, s = math.cos(a), math.sin(a)
-        d = depth / 2 - 6
-        r0, r1 = half + 11, half + 120
+        d = depth / 2 - 5
+        r0, r1 = half + 8.5, half + 125.5
         pts.append([(r0 * c, d, spring + r0 * s), (r0 * c, -d, spring + r0 * s),
                     (r1 * c, -d, spring + r1 * s), (r1 * c, d, spring + r1 * s),
                     (r0 * c, d, spring + r0 * s)])
