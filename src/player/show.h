@@ -23,7 +23,7 @@ struct ShowSetup {
     std::size_t memory;    // bytes of all snapshots at most; 0: kSnapshotMemory
     PublishedPictures published = {};
 };
-inline constexpr std::int32_t kSnapshotDistance = 34; // the shipped show fits the memory
+inline constexpr std::int32_t kSnapshotDistance = 36; // the shipped show fits the memory
 inline constexpr std::size_t kSnapshotMemory = std::size_t{300} << 20;
 
 // Starts the production in memory, silent and without its frame cap, before its first frame. The
