@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 #include <string>
 
 #include "base/hash.h"
+#include "base/pixel16.h"
 #include "open_show.h"
 #include "player/show.h"
 #include "player/trace.h"
@@ -127,6 +129,32 @@ TEST_F(Looks, LegendsCountTheirPixels) {
             << row.name;
         EXPECT_EQ(row.name.rfind("Fill", 0), 0U) << row.name;
     }
+}
+
+TEST_F(Looks, TheLegendOfOverdrawHasEveryPixelOnce) {
+    SeekShow(60, nullptr, nullptr);
+    LookPicture picture;
+    ASSERT_TRUE(DrawLook(Look::Overdraw, &picture));
+    std::int32_t all = 0;
+    for (const LegendRow& row : picture.legend) {
+        EXPECT_EQ(std::count(picture.pixels.begin(), picture.pixels.end(), row.color), row.pixels)
+            << row.name;
+        all += row.pixels;
+    }
+    EXPECT_EQ(all, kWidth * kHeight);
+}
+
+// Painted colours are at least as bright as any light makes them.
+TEST_F(Looks, EvenLightIsTheBrightest) {
+    SeekShow(60, nullptr, nullptr);
+    const auto brightness = [](Look look) {
+        LookPicture picture;
+        EXPECT_TRUE(DrawLook(look, &picture));
+        return std::accumulate(
+            picture.pixels.begin(), picture.pixels.end(), std::int64_t{0},
+            [](std::int64_t sum, Pixel16 pixel) { return sum + GreenOf(pixel); });
+    };
+    EXPECT_GT(brightness(Look::LightsOff), brightness(Look::None));
 }
 
 } // namespace

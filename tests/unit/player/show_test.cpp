@@ -101,6 +101,21 @@ TEST_F(Show, ASnapshotOfAnotherSizeIsRefusedAndNothingChanges) {
     EXPECT_FALSE(RestoreSnapshot({}));
 }
 
+TEST_F(Show, AfterItsEndItGoesBackAndNoFurther) {
+    for (int i = 0; i < 20; ++i) {
+        ASSERT_TRUE(StepShow());
+    }
+    PostQuit(0);
+    EXPECT_TRUE(StepShow());
+    EXPECT_TRUE(ShowEnded());
+    EXPECT_FALSE(StepShow());
+    EXPECT_EQ(SeekShow(100, nullptr, nullptr), 20);
+    EXPECT_EQ(SeekShow(5, nullptr, nullptr), 5);
+    EXPECT_FALSE(ShowEnded());
+    EXPECT_TRUE(StepShow());
+    EXPECT_EQ(ShownFrame(), 6);
+}
+
 TEST_F(Show, ASeekEndsWhenItIsToldTo) {
     struct Asked {
         int count;
