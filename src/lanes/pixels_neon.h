@@ -11,7 +11,6 @@ namespace ombrel {
 namespace {
 
 struct NeonPixels : VectorPixels<NeonPixels, 4> {
-
     // The processor's own conversion gives the nearest integer, and 0 for what is no number.
     OMBREL_INLINE static Quad ToIntChop(Floats a) {
         return a < 0x1p31F ? (Quad)vcvtq_s32_f32((float32x4_t)a) : Quad{} + INT32_MIN;
